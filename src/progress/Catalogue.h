@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,36 +8,47 @@
 
 namespace veyrand::progress {
 
-// One puzzle of a catalogue.
+// One puzzle.
 struct CatalogueEntry {
     std::string root;
     std::string goal;
-    int par = 0; // lines of a shortest solution, the start line included
+    int par = 0; // lines of a shortest solution, the start line included: the file's number plus 1
     friend bool operator==(const CatalogueEntry&, const CatalogueEntry&) = default;
 };
 
-// The puzzles of one file, in order. The file is UTF-16 text with a byte-order mark, three lines a
-// puzzle (start, goal, moves of a shortest solution) and no line feed after the last; a line ends
-// at a line feed and nowhere else.
-//
-// Reading never throws. A file that is missing or broken yields an empty catalogue and a text that
-// says what is wrong with it, for the log; playing from it then fails at entry().
-class Catalogue {
-public:
-    Catalogue() = default;
-    Catalogue(std::string_view name, const std::optional<std::string>& data);
+// The puzzles of one file, in order.
+using Catalogue = std::vector<CatalogueEntry>;
 
-    // Throws std::out_of_range.
-    [[nodiscard]] const CatalogueEntry& entry(int index) const;
-    [[nodiscard]] std::size_t count() const { return m_entries.size(); }
-
-    // Empty when all is well; else the catalogue's name, the line where there is one, and the
-    // reason.
-    [[nodiscard]] const std::string& error() const { return m_error; }
-
-private:
-    std::vector<CatalogueEntry> m_entries;
-    std::string m_error;
+struct ParsedCatalogue {
+    Catalogue entries;
+    std::string error; // empty when the whole text was understood; then the entries count
 };
+
+// How many entries the game may ask for.
+inline constexpr std::size_t kClassicEntries = 111;
+inline constexpr std::size_t kEndlessEntries = 2168;
+
+// Pars (in lines) the game may ask of the Endless catalogue.
+inline constexpr int kSmallestPar = 2;
+inline constexpr int kGreatestPar = 12;
+
+// Reads a catalogue of UTF-16 text with a byte-order mark: three lines a puzzle (start line, goal
+// line, moves of a shortest solution), split at line feeds, with nothing trimmed and no line feed
+// at the end. Never throws: a broken text yields no entries and an error that says what is wrong.
+[[nodiscard]] ParsedCatalogue parseCatalogue(std::string_view utf16Bytes);
+
+// The same from a text of one byte a letter, as it is kept in the sources.
+[[nodiscard]] ParsedCatalogue parseCatalogueText(std::string_view text);
+
+// The text as the game reads it: UTF-16, little-endian, with a byte-order mark.
+[[nodiscard]] std::string catalogueBytes(std::string_view text);
+
+enum class CatalogueKind { Classic, Endless };
+
+// What would let the game fall out of range, or draw for ever, with these entries; nothing when all
+// is well. Looks for too few puzzles, a par the game cannot ask for, an Endless par that no puzzle
+// has, a line of foreign letters and one too long for the board.
+[[nodiscard]] std::optional<std::string> catalogueFault(
+    const Catalogue& catalogue, CatalogueKind kind);
 
 } // namespace veyrand::progress

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace veyrand::platform {
 class Preferences;
@@ -16,98 +15,109 @@ class Resources;
 
 namespace veyrand::progress {
 
-inline constexpr int kLastLevel = 11;
-inline constexpr int kLastStage = 10; // of every level
-
-// Which kind of game a player asks for.
-enum class GameMode { Classic, Endless };
-
-// Where the player stands: the Classic position, both scores, and the puzzle in play. It makes the
-// puzzles from the two catalogues and reads the player's record; writing the record back is the
-// controller's work. The application owns one; it outlives everything that is handed a reference.
+// Where the player stands: name, Classic position, both scores, Endless par, and the puzzle in play
+// with its par. It makes the puzzles from the two catalogues and reads the player's record; writing
+// the record back is the controller's work. The application owns one; it outlives everything that
+// is handed a reference.
 class CurrentGame {
 public:
-    // Reads both catalogues. No puzzle is in play yet and every number is 0. The three ports must
-    // outlive the game.
-    CurrentGame(platform::Preferences& preferences, platform::Random& random,
+    enum class Mode { Classic, Endless };
+
+    // Where a puzzle stands, and what it is, for placing one that is in no catalogue.
+    struct Puzzle {
+        std::string root;
+        std::string goal;
+        int par = 0; // in lines, the start line included
+        int level = 1;
+        int stage = 1;
+        Mode mode = Mode::Classic;
+    };
+
+    // Reads both catalogues. No puzzle is in play yet and every number is 0. The preferences and
+    // the random numbers must outlive the game.
+    CurrentGame(const platform::Preferences& preferences, platform::Random& random,
         const platform::Resources& resources);
 
-    // The one game of this process, made from these ports on first use; later calls ignore them.
-    // For the application alone: everything else is handed a reference.
-    static CurrentGame& sharedInstance(platform::Preferences& preferences, platform::Random& random,
-        const platform::Resources& resources);
+    // The application's one game, made on the first call from that call's arguments. Everything but
+    // the application's entry is handed a reference instead.
+    static CurrentGame& sharedInstance(const platform::Preferences& preferences,
+        platform::Random& random, const platform::Resources& resources);
 
-    // Reads the player's record (a missing one reads as zeros) and puts a puzzle in play: the
-    // Classic one of the record's position, or an Endless one of its par. Throws std::out_of_range
-    // when the catalogue has no such puzzle.
-    void newPlayer(std::string_view name, GameMode mode = GameMode::Classic);
+    // Reads the player's record and puts a puzzle in play: the Classic one of the record's
+    // position, or an Endless one of its par. A value the record lacks reads as 0, and there is no
+    // Classic puzzle 0-0: std::out_of_range.
+    void newPlayer(const std::string& name, Mode mode = Mode::Classic);
 
-    // The first half of newPlayer: the record is read and the puzzle in play stays.
-    void loadPlayer(std::string_view name, GameMode mode);
+    // The reading alone; the puzzle in play stays.
+    void loadPlayer(const std::string& name, Mode mode);
 
-    // Puts the Classic puzzle of the current position in play. Throws std::out_of_range when there
-    // is none.
+    // Puts the Classic puzzle of the current position in play. A position outside the catalogue is
+    // std::out_of_range.
     void generateProof();
 
-    // Puts a random Endless puzzle in play. A par of 0 means 5; others are brought to 2 ... 12.
-    // Throws std::out_of_range for a catalogue with too few puzzles; draws for ever from one that
-    // lacks the par, which the catalogue's build makes impossible.
+    // Puts a random Endless puzzle in play. The wanted par (in lines) is brought into 2 to 12; 0
+    // asks for 5. Draws until one fits, so the catalogue must hold every par; from a catalogue too
+    // short it throws std::out_of_range.
     void generateEndlessProofForPar(int wantedPar);
 
-    // Moves one Classic puzzle on and puts it in play; the last one is played again and again.
+    // Puts a puzzle in play as if its place in the catalogue had given it.
+    void placePuzzle(const Puzzle& puzzle);
+
+    // Advances the Classic position, 1-1 to 11-10, and puts its puzzle in play; the last one is
+    // played again.
     void nextLevel();
 
-    // Puts a given puzzle in play as if the catalogue had given it.
-    void setPuzzle(const CatalogueEntry& puzzle, int level, int stage, GameMode mode);
-
-    // Adds to the score of the mode being played; a negative number subtracts.
+    // To the score of the mode in progress. Negative points subtract.
     void addToScore(std::int64_t points);
 
-    // How many moves are open to the player, from 1 to 7: those whose labels have the numbers 1 to
-    // that many.
+    // How many moves are open to the player, 1 to 7: those whose labels carry the numbers 1 to
+    // that.
     [[nodiscard]] int highestRule() const;
-
-    // Whether the puzzle in play has a rule of that index. True for all seven at every stage, as
-    // every puzzle holds them all; what is open to the player is highestRule's to say.
+    // Whether the puzzle's rules reach the index. They are always all seven: what is open is
+    // highestRule's to say.
     [[nodiscard]] bool ruleActive(int index) const;
-
-    // A sample puzzle from YR to Y. Nobody plays it.
-    [[nodiscard]] static CatalogueEntry proofForStage(int stage, int level);
 
     [[nodiscard]] const std::string& playerName() const { return m_playerName; }
     [[nodiscard]] std::int64_t score() const { return m_score; }
+    // Null before the first puzzle. Each puzzle is a new object, so that a call delayed past the
+    // end of its puzzle can tell.
+    [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_proof; }
+    [[nodiscard]] int par() const { return m_par; } // in lines, the start line included
     [[nodiscard]] int stage() const { return m_stage; } // 1 to 10
     [[nodiscard]] int level() const { return m_level; } // 1 to 11
-    [[nodiscard]] int par() const { return m_par; } // lines, the start line included
-    [[nodiscard]] bool endlessGame() const { return m_mode == GameMode::Endless; }
-    [[nodiscard]] std::int64_t endlessScore() const { return m_endlessScore; }
+    [[nodiscard]] bool endlessGame() const { return m_mode == Mode::Endless; }
     [[nodiscard]] int endlessPar() const { return m_endlessPar; }
-    void setEndlessScore(std::int64_t score) { m_endlessScore = score; }
     void setEndlessPar(int par) { m_endlessPar = par; }
+    [[nodiscard]] std::int64_t endlessScore() const { return m_endlessScore; }
+    void setEndlessScore(std::int64_t score) { m_endlessScore = score; }
 
-    // The puzzle in play, null before the first. Each puzzle is a new object, so that a call
-    // delayed past the end of its puzzle can tell.
-    [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_proof; }
+    // What was wrong with the catalogues, one line each with the file's name; empty when both were
+    // read.
+    [[nodiscard]] const std::string& catalogueErrors() const { return m_catalogueErrors; }
 
-    [[nodiscard]] const Catalogue& classicCatalogue() const { return m_proofs; }
-    [[nodiscard]] const Catalogue& endlessCatalogue() const { return m_endlessProofs; }
+    // The sample puzzle, the same for every place. Nobody plays it.
+    [[nodiscard]] static CatalogueEntry proofForStage(int stage, int level);
 
 private:
-    void play(const CatalogueEntry& puzzle);
+    [[nodiscard]] Catalogue loadCatalogue(
+        const platform::Resources& resources, const std::string& name);
+    void setProof(const std::string& root, const std::string& goal, int par);
 
-    platform::Preferences& m_preferences;
+    const platform::Preferences& m_preferences;
     platform::Random& m_random;
+    std::string m_catalogueErrors;
     Catalogue m_proofs;
     Catalogue m_endlessProofs;
+    engine::SharedRules m_rules;
     std::string m_playerName;
-    GameMode m_mode = GameMode::Classic;
-    int m_level = 0;
-    int m_stage = 0;
-    int m_par = 0;
-    int m_endlessPar = 0;
+    std::shared_ptr<engine::Proof> m_proof;
     std::int64_t m_score = 0;
     std::int64_t m_endlessScore = 0;
-    std::shared_ptr<engine::Proof> m_proof;
+    int m_par = 0;
+    int m_stage = 0;
+    int m_level = 0;
+    int m_endlessPar = 0;
+    Mode m_mode = Mode::Classic;
 };
 
 } // namespace veyrand::progress

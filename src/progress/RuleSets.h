@@ -21,4 +21,9 @@ inline constexpr unsigned kDropBetweenBlues = 6; // B[YGR]+B -> BB
 [[nodiscard]] engine::Rules intermediateRules(); // the first five
 [[nodiscard]] engine::Rules advancedRules(); // all seven
 
+inline constexpr int kMoveCount = 7;
+
+// How many moves are open at a place of the Classic game, 1 to 7.
+[[nodiscard]] int highestRuleAt(int level, int stage);
+
 } // namespace veyrand::progress
