@@ -87,4 +87,10 @@ private:
     SharedRules m_rules;
 };
 
+// The removal behind uniqueNodesOfPathLength: the k-th noted entry (from 0) is removed at its index
+// plus k. The entries behind a removed one move the other way, so every removal after the first
+// falls further behind the entry that was noted. The designers' lists were made so, and lists made
+// today must compare with theirs. Throws std::out_of_range for a position beyond the end.
+void removeNotedNodes(Nodes& nodes, const std::vector<std::size_t>& noted);
+
 } // namespace veyrand::engine

@@ -16,7 +16,7 @@ namespace veyrand::engine {
 // limits or which moves are open to the player.
 class Proof {
 public:
-    Proof(Theorem root, Theorem goal, Rules rules);
+    Proof(Theorem root, Theorem goal, SharedRules rules);
 
     [[nodiscard]] const Theorem& root() const { return m_root; }
     [[nodiscard]] const Theorem& goal() const { return m_goal; }

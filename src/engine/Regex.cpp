@@ -2,9 +2,9 @@
 
 #include <unicode/uregex.h>
 
-#include <map>
+#include <cstddef>
 #include <memory>
-#include <utility>
+#include <unordered_map>
 
 namespace veyrand::engine {
 
@@ -15,117 +15,144 @@ struct CloseRegex {
 };
 using CompiledRegex = std::unique_ptr<URegularExpression, CloseRegex>;
 
-// One letter a byte becomes one UTF-16 unit, so that ICU's positions are letters.
-std::u16string widen(const std::string& text)
+std::u16string widened(std::string_view text)
 {
     std::u16string wide;
     wide.reserve(text.size());
-    for (const char letter : text) {
-        wide.push_back(static_cast<char16_t>(static_cast<unsigned char>(letter)));
+    for (const char c : text) {
+        wide.push_back(static_cast<unsigned char>(c));
     }
     return wide;
 }
 
-std::string narrow(const std::u16string& wide)
+// What no byte can hold (a template may spell any character as an escape) becomes a question mark.
+std::string narrowed(std::u16string_view wide)
 {
     std::string text;
     text.reserve(wide.size());
-    for (const char16_t unit : wide) {
-        text.push_back(static_cast<char>(unit));
+    for (const char16_t c : wide) {
+        text.push_back(c < 0x100 ? static_cast<char>(c) : '?');
     }
     return text;
 }
 
-CompiledRegex compile(const std::string& pattern)
+std::int32_t length(const std::u16string& text)
 {
-    const std::u16string wide = widen(pattern);
+    return static_cast<std::int32_t>(text.size());
+}
+
+CompiledRegex compiled(std::string_view pattern)
+{
+    const std::u16string wide = widened(pattern);
     UErrorCode status = U_ZERO_ERROR;
-    CompiledRegex regex(
-        uregex_open(wide.data(), static_cast<int32_t>(wide.size()), 0, nullptr, &status));
-    return U_SUCCESS(status) != 0 ? std::move(regex) : nullptr;
+    CompiledRegex regex(uregex_open(wide.data(), length(wide), 0, nullptr, &status));
+    return U_SUCCESS(status) ? std::move(regex) : nullptr;
 }
 
-// The game has about twenty patterns in all, so nothing is ever evicted. Null for an invalid
-// pattern.
-URegularExpression* compiled(const std::string& pattern)
+// The game knows a dozen patterns; the bound only keeps a designer's session from growing for ever.
+constexpr std::size_t kMostCompiledPatterns = 256;
+
+// Null for a pattern that does not compile. A compiled pattern carries the text it searches, hence
+// one cache a thread.
+URegularExpression* cachedRegex(std::string_view pattern)
 {
-    static std::map<std::string, CompiledRegex> cache;
-    const auto found = cache.find(pattern);
-    return found != cache.end() ? found->second.get()
-                                : cache.emplace(pattern, compile(pattern)).first->second.get();
+    thread_local std::unordered_map<std::string, CompiledRegex> cache;
+    const std::string key(pattern);
+    if (const auto found = cache.find(key); found != cache.end()) {
+        return found->second.get();
+    }
+    if (cache.size() >= kMostCompiledPatterns) {
+        cache.clear();
+    }
+    return cache.emplace(key, compiled(pattern)).first->second.get();
 }
 
-// A compiled pattern set to a text for the length of one operation.
-class Search {
-public:
-    Search(const std::string& text, const std::string& pattern)
-        : m_text(widen(text))
-        , m_regex(compiled(pattern))
-    {
-        if (m_regex != nullptr) {
-            uregex_setText(m_regex, m_text.data(), static_cast<int32_t>(m_text.size()), &m_status);
+// Points a compiled pattern at a text, which must outlive the search.
+bool setText(URegularExpression* regex, const std::u16string& text)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    uregex_setText(regex, text.data(), length(text), &status);
+    return U_SUCCESS(status);
+}
+
+// ICU calls a template malformed when it names a group that the pattern has not got; here such a
+// group stands for nothing. Only the first digit after a `$` decides: further ones are taken into
+// the number only as long as such a group exists.
+std::string withoutAbsentGroups(std::string_view replacement, int groupCount)
+{
+    std::string result;
+    for (std::size_t i = 0; i < replacement.size(); ++i) {
+        const char c = replacement[i];
+        const bool hasNext = i + 1 < replacement.size();
+        if (c == '\\' && hasNext) {
+            result += c;
+            result += replacement[++i];
+        } else if (c == '$' && hasNext && replacement[i + 1] >= '0' && replacement[i + 1] <= '9'
+            && replacement[i + 1] - '0' > groupCount) {
+            ++i;
+        } else {
+            result += c;
         }
     }
-
-    Range first()
-    {
-        if (m_regex == nullptr || uregex_find(m_regex, 0, &m_status) == 0) {
-            return { .location = kNotFound, .length = 0 };
-        }
-        const auto start = static_cast<unsigned>(uregex_start(m_regex, 0, &m_status));
-        const auto end = static_cast<unsigned>(uregex_end(m_regex, 0, &m_status));
-        return { .location = start, .length = end - start };
-    }
-
-    std::u16string replaceAll(const std::u16string& replacement)
-    {
-        if (m_regex == nullptr) {
-            return m_text;
-        }
-        const auto replacementLength = static_cast<int32_t>(replacement.size());
-        const int32_t length = uregex_replaceAll(
-            m_regex, replacement.data(), replacementLength, nullptr, 0, &m_status);
-        m_status = U_ZERO_ERROR; // the call without a buffer reports an overflow with the length
-        std::u16string result(static_cast<std::size_t>(length), u'\0');
-        uregex_replaceAll(
-            m_regex, replacement.data(), replacementLength, result.data(), length, &m_status);
-        return result;
-    }
-
-private:
-    std::u16string m_text;
-    URegularExpression* m_regex;
-    UErrorCode m_status = U_ZERO_ERROR;
-};
+    return result;
+}
 
 } // namespace
 
-bool isRegexValid(const std::string& pattern)
+bool isRegexValid(std::string_view pattern)
 {
-    return compiled(pattern) != nullptr;
+    return cachedRegex(pattern) != nullptr;
 }
 
-Range rangeOfRegex(const std::string& text, const std::string& pattern)
+Range rangeOfRegex(std::string_view text, std::string_view pattern)
 {
-    return Search(text, pattern).first();
+    return rangeOfRegex(text, pattern, Range { 0, static_cast<unsigned>(text.size()) });
 }
 
-Range rangeOfRegex(const std::string& text, const std::string& pattern, Range range)
+Range rangeOfRegex(std::string_view text, std::string_view pattern, Range range)
 {
-    Range match = Search(text.substr(range.location, range.length), pattern).first();
-    if (match.location != kNotFound) {
-        match.location += range.location;
+    URegularExpression* regex = cachedRegex(pattern);
+    const std::u16string wide = widened(text.substr(range.location, range.length));
+    if (regex == nullptr || !setText(regex, wide)) {
+        return { kNotFound, 0 };
     }
-    return match;
+    UErrorCode status = U_ZERO_ERROR;
+    if (uregex_find(regex, 0, &status) == 0 || U_FAILURE(status)) {
+        return { kNotFound, 0 };
+    }
+    const std::int32_t start = uregex_start(regex, 0, &status);
+    const std::int32_t end = uregex_end(regex, 0, &status);
+    return Range { range.location + static_cast<unsigned>(start),
+        static_cast<unsigned>(end - start) };
 }
 
 std::string stringByReplacingOccurrencesOfRegex(
-    const std::string& text, const std::string& pattern, const std::string& replacement)
+    std::string_view text, std::string_view pattern, std::string_view replacement)
 {
-    return narrow(Search(text, pattern).replaceAll(widen(replacement)));
+    URegularExpression* regex = cachedRegex(pattern);
+    const std::u16string wide = widened(text);
+    if (regex == nullptr || !setText(regex, wide)) {
+        return std::string(text);
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    const std::int32_t groups = uregex_groupCount(regex, &status);
+    const std::u16string wideReplacement = widened(withoutAbsentGroups(replacement, groups));
+
+    // The first call only measures: it is expected to fail for want of room.
+    const std::int32_t needed = uregex_replaceAll(
+        regex, wideReplacement.data(), length(wideReplacement), nullptr, 0, &status);
+    if (status != U_BUFFER_OVERFLOW_ERROR && U_FAILURE(status)) {
+        return std::string(text);
+    }
+    std::u16string result(static_cast<std::size_t>(needed) + 1, u'\0');
+    status = U_ZERO_ERROR;
+    uregex_replaceAll(regex, wideReplacement.data(), length(wideReplacement), result.data(),
+        length(result), &status);
+    result.pop_back();
+    return narrowed(result);
 }
 
-bool isMatchedByRegex(const std::string& text, const std::string& pattern)
+bool isMatchedByRegex(std::string_view text, std::string_view pattern)
 {
     return rangeOfRegex(text, pattern).location != kNotFound;
 }

@@ -2,7 +2,6 @@
 
 #include "engine/Range.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,11 +15,14 @@ namespace veyrand::engine {
 
 [[nodiscard]] bool isRegexValid(std::string_view pattern);
 
-// The first match. With a range, that range is the whole text to the pattern: `^`, `$` and
-// look-around see its bounds. The answer counts from the start of the full text either way.
-[[nodiscard]] std::optional<Range> rangeOfRegex(std::string_view text, std::string_view pattern);
-[[nodiscard]] std::optional<Range> rangeOfRegex(
-    std::string_view text, std::string_view pattern, Range range);
+// Where a search that finds nothing says it is.
+inline constexpr unsigned kNotFound = 0x7fffffff;
+
+// The first match, or kNotFound with length 0. With a range, that range is the whole text to the
+// pattern: `^`, `$` and look-around see its bounds. The answer counts from the start of the full
+// text either way.
+[[nodiscard]] Range rangeOfRegex(std::string_view text, std::string_view pattern);
+[[nodiscard]] Range rangeOfRegex(std::string_view text, std::string_view pattern, Range range);
 
 // Every match, from left to right and never overlapping, gives way to the template: $n stands for
 // capture group n (nothing, if there is no such group or it took no part), `\` takes the next

@@ -6,9 +6,9 @@ namespace veyrand::engine {
 
 namespace {
 
-std::string validOrEmpty(const std::string& text)
+std::string validOrEmpty(const std::string& pattern)
 {
-    return isRegexValid(text) ? text : std::string();
+    return isRegexValid(pattern) ? pattern : std::string();
 }
 
 } // namespace

@@ -2,29 +2,25 @@
 
 namespace veyrand::engine {
 
-void TreeNode::makeChildren()
+TreeNode::TreeNode(const TreeNode* parent, Theorem theorem, SharedRules rules)
+    : m_parent(parent)
+    , m_theorem(std::move(theorem))
+    , m_rules(std::move(rules))
 {
-    std::vector<TreeNode> children;
-    for (const Rule& rule : *m_rules) {
-        const unsigned matches = m_theorem.numberOfMatchesWithRule(rule);
-        for (unsigned index = 0; index < matches; ++index) {
-            if (auto line = m_theorem.applyRule(rule, index)) {
-                children.emplace_back(this, *std::move(line), *m_rules);
-            }
-        }
-    }
-    if (children.empty()) {
-        m_children.reset();
-    } else {
-        m_children = std::move(children);
-    }
 }
 
-std::vector<TreeNode> TreeNode::takeChildren()
+void TreeNode::makeChildren()
 {
-    std::vector<TreeNode> taken = m_children ? *std::move(m_children) : std::vector<TreeNode> {};
-    m_children.reset();
-    return taken;
+    if (!m_theorem.hasText() || m_rules == nullptr) {
+        return;
+    }
+    m_children.clear();
+    for (const Rule& rule : *m_rules) {
+        const unsigned matches = m_theorem.numberOfMatchesWithRule(rule);
+        for (unsigned match = 0; match < matches; ++match) {
+            m_children.emplace_back(this, *m_theorem.applyRule(rule, match), m_rules);
+        }
+    }
 }
 
 } // namespace veyrand::engine

@@ -13,46 +13,39 @@ namespace veyrand::progress {
 
 namespace {
 
-// Only the first this many Endless puzzles are ever drawn.
-constexpr std::uint32_t kEndlessPuzzlesDrawn = 2168;
-
+constexpr int kLastLevel = 11;
+constexpr int kLastStage = 10; // of every level
 constexpr int kDefaultEndlessPar = 5;
-constexpr int kLowestPar = 2;
-constexpr int kHighestPar = 12;
-
-constexpr int kAllRules = 7;
-
-Catalogue loadCatalogue(const platform::Resources& resources, std::string_view name)
-{
-    return Catalogue(name, resources.dataNamed(name, "txt"));
-}
 
 int targetPar(int wantedPar)
 {
-    return wantedPar == 0 ? kDefaultEndlessPar : std::clamp(wantedPar, kLowestPar, kHighestPar);
-}
-
-// Within the first level the moves open up stage by stage.
-int highestRuleOfFirstLevel(int stage)
-{
-    if (stage >= 3 && stage <= 7) {
-        return 2;
-    }
-    return stage >= 8 && stage <= kLastStage ? 3 : 1;
+    return wantedPar == 0 ? kDefaultEndlessPar : std::clamp(wantedPar, kSmallestPar, kGreatestPar);
 }
 
 } // namespace
 
-CurrentGame::CurrentGame(platform::Preferences& preferences, platform::Random& random,
+CurrentGame::CurrentGame(const platform::Preferences& preferences, platform::Random& random,
     const platform::Resources& resources)
     : m_preferences(preferences)
     , m_random(random)
     , m_proofs(loadCatalogue(resources, "Theorems"))
     , m_endlessProofs(loadCatalogue(resources, "EndlessTheorems"))
+    , m_rules(std::make_shared<const engine::Rules>(advancedRules()))
 {
 }
 
-CurrentGame& CurrentGame::sharedInstance(platform::Preferences& preferences,
+Catalogue CurrentGame::loadCatalogue(const platform::Resources& resources, const std::string& name)
+{
+    const std::optional<std::string> bytes = resources.dataNamed(name, "txt");
+    ParsedCatalogue parsed
+        = bytes ? parseCatalogue(*bytes) : ParsedCatalogue { {}, "cannot be read" };
+    if (!parsed.error.empty()) {
+        m_catalogueErrors += name + ".txt: " + parsed.error + "\n";
+    }
+    return std::move(parsed.entries);
+}
+
+CurrentGame& CurrentGame::sharedInstance(const platform::Preferences& preferences,
     platform::Random& random, const platform::Resources& resources)
 {
     static std::mutex lock;
@@ -64,17 +57,17 @@ CurrentGame& CurrentGame::sharedInstance(platform::Preferences& preferences,
     return *instance;
 }
 
-void CurrentGame::newPlayer(std::string_view name, GameMode mode)
+void CurrentGame::newPlayer(const std::string& name, Mode mode)
 {
     loadPlayer(name, mode);
-    if (mode == GameMode::Endless) {
+    if (mode == Mode::Endless) {
         generateEndlessProofForPar(m_endlessPar);
     } else {
         generateProof();
     }
 }
 
-void CurrentGame::loadPlayer(std::string_view name, GameMode mode)
+void CurrentGame::loadPlayer(const std::string& name, Mode mode)
 {
     m_mode = mode;
     m_playerName = name;
@@ -89,7 +82,10 @@ void CurrentGame::loadPlayer(std::string_view name, GameMode mode)
 
 void CurrentGame::generateProof()
 {
-    play(m_proofs.entry(m_stage - kLastStage + m_level * kLastStage));
+    // A position before 1-1 makes an index beyond every catalogue.
+    const int index = m_stage - kLastStage + m_level * kLastStage;
+    const CatalogueEntry& puzzle = m_proofs.at(static_cast<std::size_t>(index));
+    setProof(puzzle.root, puzzle.goal, puzzle.par);
 }
 
 void CurrentGame::generateEndlessProofForPar(int wantedPar)
@@ -97,11 +93,10 @@ void CurrentGame::generateEndlessProofForPar(int wantedPar)
     const int target = targetPar(wantedPar);
     m_proof = nullptr;
     while (m_proof == nullptr) {
-        const CatalogueEntry& puzzle
-            = m_endlessProofs.entry(static_cast<int>(m_random.next() % kEndlessPuzzlesDrawn));
+        const CatalogueEntry& puzzle = m_endlessProofs.at(m_random.next() % kEndlessEntries);
         m_par = puzzle.par;
         if (puzzle.par == target) {
-            play(puzzle);
+            setProof(puzzle.root, puzzle.goal, puzzle.par);
         }
     }
 }
@@ -121,19 +116,19 @@ void CurrentGame::nextLevel()
     generateProof();
 }
 
-void CurrentGame::setPuzzle(const CatalogueEntry& puzzle, int level, int stage, GameMode mode)
+void CurrentGame::placePuzzle(const Puzzle& puzzle)
 {
-    m_level = level;
-    m_stage = stage;
-    m_mode = mode;
-    play(puzzle);
+    m_level = puzzle.level;
+    m_stage = puzzle.stage;
+    m_mode = puzzle.mode;
+    setProof(puzzle.root, puzzle.goal, puzzle.par);
 }
 
-void CurrentGame::play(const CatalogueEntry& puzzle)
+void CurrentGame::setProof(const std::string& root, const std::string& goal, int par)
 {
-    m_par = puzzle.par;
-    m_proof = std::make_shared<engine::Proof>(
-        engine::Theorem(puzzle.root), engine::Theorem(puzzle.goal), advancedRules());
+    m_par = par;
+    m_proof
+        = std::make_shared<engine::Proof>(engine::Theorem(root), engine::Theorem(goal), m_rules);
 }
 
 void CurrentGame::addToScore(std::int64_t points)
@@ -143,13 +138,7 @@ void CurrentGame::addToScore(std::int64_t points)
 
 int CurrentGame::highestRule() const
 {
-    if (endlessGame() || m_level >= 5) {
-        return kAllRules;
-    }
-    if (m_level == 1) {
-        return highestRuleOfFirstLevel(m_stage);
-    }
-    return m_level <= 0 ? 1 : m_level + 2;
+    return endlessGame() ? kMoveCount : highestRuleAt(m_level, m_stage);
 }
 
 bool CurrentGame::ruleActive(int index) const
