@@ -1,0 +1,66 @@
+#pragma once
+
+#include "board/BoardGeometry.h"
+#include "board/ObjectTable.h"
+#include "board/TextHost.h"
+#include "platform/Screen.h"
+
+#include <optional>
+
+namespace veyrand::board {
+
+// The board of one game: the object table, the size of the game area, and the elements made of text
+// or faded in. The drawing of particular things stands on it (LineDrawing, PanelDrawing and so on).
+// It knows records only; layers and hit areas are asked for through TextHost and ButtonTracking.
+class GameData {
+public:
+    explicit GameData(const platform::Screen& screen)
+        : m_screen(screen)
+    {
+    }
+
+    // The application's one board, made on the first call from that call's screen. Everything but
+    // the application's entry is handed a reference instead.
+    static GameData& sharedGameData(const platform::Screen& screen);
+
+    ObjectTable& gameObjects() { return m_gameObjects; }
+    [[nodiscard]] const ObjectTable& gameObjects() const { return m_gameObjects; }
+
+    // Points; taken from the main screen on first use and kept from then on.
+    [[nodiscard]] double gameWidth() const { return gameSize().width; }
+    [[nodiscard]] double gameHeight() const { return gameSize().height; }
+
+    void setTextHost(TextHost& host) { m_textHost = &host; }
+    void setButtonTracking(ButtonTracking& tracking) { m_buttonTracking = &tracking; }
+    [[nodiscard]] ButtonTracking* buttonTracking() const { return m_buttonTracking; }
+
+    GameObjectPtr createGameObjectWithText(const TextStyle& style, double x, double y, double width,
+        double height, double opacity, const std::string& key);
+
+    // Adds an image record at opacity 0 and announces the given opacity, so that it fades in.
+    GameObjectPtr fadeInImage(std::string_view imageName, double x, double y, double width,
+        double height, double opacity, const std::string& key);
+
+    void fadeInCounter(const std::string& text, double x, double y, double width, double height,
+        const std::string& key);
+    void fadeInLabel(std::string_view imageName, double x, double y, double width, double height,
+        const std::string& key);
+
+    // A changed text shows at once, without a fade, under the same key. Nothing happens when the
+    // text is the one shown.
+    void changeText(const std::string& text, const GameObjectPtr& record);
+
+    // Kept for callers that ask for it; every element renews itself.
+    static void renewAllObjects() { }
+
+private:
+    [[nodiscard]] platform::Size gameSize() const;
+
+    const platform::Screen& m_screen;
+    ObjectTable m_gameObjects;
+    TextHost* m_textHost = nullptr;
+    ButtonTracking* m_buttonTracking = nullptr;
+    mutable std::optional<platform::Size> m_gameSize;
+};
+
+} // namespace veyrand::board
