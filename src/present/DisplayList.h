@@ -1,0 +1,52 @@
+#pragma once
+
+#include "board/TextHost.h"
+#include "platform/Geometry.h"
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace veyrand::present {
+
+struct SolidContent {
+    board::Color color;
+    friend bool operator==(const SolidContent&, const SolidContent&) = default;
+};
+
+struct ImageContent {
+    std::string name;
+    friend bool operator==(const ImageContent&, const ImageContent&) = default;
+};
+
+struct TextContent {
+    std::string text;
+    board::Color color;
+    friend bool operator==(const TextContent&, const TextContent&) = default;
+};
+
+using Content = std::variant<SolidContent, ImageContent, TextContent>;
+
+enum class Motion { Resting, Moving };
+
+// One layer as it is shown at one moment. Rectangles are in the view's points, origin lower left.
+struct DisplayItem {
+    std::uint64_t layer = 0; // the same layer has the same number in every list
+    Content content;
+    platform::RectF rect; // the content fills it; a text is as high as one line
+    platform::RectF clip;
+    float opacity = 1.0F;
+    float glow = 0.0F; // radius of the bloom, in points; 0 for none
+    Motion motion = Motion::Resting; // resting items may be snapped to whole pixels
+    friend bool operator==(const DisplayItem&, const DisplayItem&) = default;
+};
+
+// Everything to be painted, back to front.
+using DisplayList = std::vector<DisplayItem>;
+
+// The parts of the view (points) in which two lists may look different: nothing outside them needs
+// to be painted again.
+std::vector<platform::RectF> damageBetween(const DisplayList& before, const DisplayList& after);
+
+} // namespace veyrand::present

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/RunLoop.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <utility>
+
+namespace veyrand::present {
+
+// What the layers of one window share: the clock that moves their animations, the stacking counter,
+// and the wish to be painted again. Owned by whoever owns the layer tree, and outlives it.
+class Scene {
+public:
+    explicit Scene(const platform::Clock& clock)
+        : m_clock(clock)
+    {
+    }
+
+    [[nodiscard]] double now() const { return m_clock.now(); }
+
+    // True while any animation runs: only then are frames needed that nothing else asks for.
+    [[nodiscard]] bool isAnimating() const { return now() < m_animationsEnd; }
+
+    // Called on every change of what the layers show, so often that the listener should only take
+    // note.
+    void setDisplayListener(std::function<void()> listener) { m_listener = std::move(listener); }
+
+    void setNeedsDisplay() const
+    {
+        if (m_listener) {
+            m_listener();
+        }
+    }
+
+    void animationStarted(double duration)
+    {
+        m_animationsEnd = std::max(m_animationsEnd, now() + duration);
+        setNeedsDisplay();
+    }
+
+    // Starts at 0 and falls by 2 with every update of any layer, before the update reads it.
+    int lowerStackingCounter() { return m_stackingCounter -= 2; }
+
+    std::uint64_t nextLayerId() { return ++m_lastLayerId; }
+
+private:
+    const platform::Clock& m_clock;
+    std::function<void()> m_listener;
+    double m_animationsEnd = 0.0;
+    int m_stackingCounter = 0;
+    std::uint64_t m_lastLayerId = 0;
+};
+
+} // namespace veyrand::present

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace veyrand::present {
+
+enum class Timing { Linear, EaseInEaseOut };
+
+// How far an animation has come, 0 to 1, when the given fraction of its time has passed. The eased
+// curve is the cubic with control points (0.42, 0) and (0.58, 1).
+float progressOf(Timing timing, double fraction);
+
+} // namespace veyrand::present
