@@ -1,0 +1,244 @@
+#include "input/GameView.h"
+
+#include "input/BoardKeys.h"
+
+#include <cmath>
+
+namespace veyrand::input {
+
+namespace {
+
+constexpr double kDragThreshold = 3.0; // points, along either axis
+constexpr float kDraggedOpacity = 0.5F;
+
+constexpr double kChipBlock = 0.75;
+constexpr double kDeleteBlock = 0.95;
+constexpr double kButtonBlock = 0.5;
+
+} // namespace
+
+GameView::GameView(const Parts& parts)
+    : m_gameData(parts.gameData)
+    , m_layers(parts.layers)
+    , m_block(parts.runLoop, [this] { blockEnded(); })
+    , m_hover(parts.gameData, parts.layers, parts.pointer, parts.effects)
+    , m_dragImage(parts.layers, parts.runLoop)
+{
+    m_hover.setBlockedTest([this] { return m_block.blockClick(); });
+    m_gameData.setButtonTracking(*this);
+}
+
+void GameView::mouseDown(const MouseEvent& event)
+{
+    m_held = Hover::Button::Held;
+    if (m_block.blockClick() || m_target == nullptr) {
+        return;
+    }
+    if (m_messageWindow) {
+        m_target->messageWindowClick();
+        return;
+    }
+    if (m_tutorialWindow) {
+        m_target->messageWindowClick();
+    }
+    if (!event.hasModifier) {
+        m_click = true;
+        m_drag.reset();
+        m_blockDrag = false;
+        m_position = event.location;
+    }
+}
+
+void GameView::mouseDragged(const MouseEvent& event)
+{
+    if (!m_drag && m_click && !m_blockDrag && hasMoved(event.location)) {
+        tryToStartDrag(event.location);
+    }
+    if (m_drag) {
+        if (originLayer() == nullptr) {
+            abandonDrag();
+        } else {
+            m_dragImage.moveTo(onBackground(event.location));
+        }
+    }
+    m_hover.pointerMoved(m_held);
+}
+
+void GameView::mouseUp(const MouseEvent& event)
+{
+    if (m_drag) {
+        endDrag(event);
+    } else if (m_click) {
+        const std::string pressed = keyHit(m_position);
+        if (!pressed.empty() && pressed == keyHit(event.location)) {
+            mouseClick(event, pressed);
+        }
+    }
+    m_click = false;
+    m_drag.reset();
+    m_blockDrag = false;
+    m_held = Hover::Button::Up;
+    // What the pointer crossed while the button was held is made good now.
+    m_hover.pointerMoved(m_held);
+}
+
+bool GameView::hasMoved(platform::Point location) const
+{
+    return std::abs(location.x - m_position.x) >= kDragThreshold
+        || std::abs(location.y - m_position.y) >= kDragThreshold;
+}
+
+void GameView::tryToStartDrag(platform::Point location)
+{
+    const std::string key = keyHit(location);
+    if (!isChipKey(key)) {
+        return; // a later move tries again
+    }
+    const unsigned row = rowForKey(key);
+    const auto targets = m_target->areasToTrack(row, columnForKey(key));
+    if (m_target->rowToDrag() != row || !targets) {
+        m_blockDrag = true;
+        return;
+    }
+    startLayerDrag(key, m_position);
+    m_hover.createTrackingAreas(row, *targets);
+}
+
+void GameView::startLayerDrag(const std::string& key, platform::Point position)
+{
+    const board::GameObjectPtr chip = m_gameData.gameObjects().objectForKey(key);
+    present::GameObjectLayer* const layer = m_layers.layerForKey(key);
+    if (!chip || layer == nullptr) {
+        return;
+    }
+    m_drag = Drag { key, chip };
+    const board::GameObjectPtr measure
+        = m_gameData.gameObjects().objectForKey(board::generateKeyChipKey(0, 0));
+    const double side = (measure ? measure->width() : board::kChipSize) * m_gameData.gameHeight();
+    m_dragImage.createDragImageLayer(chip->imageName(), onBackground(position), side);
+    layer->setOpacity(kDraggedOpacity);
+}
+
+void GameView::endDrag(const MouseEvent& event)
+{
+    present::GameObjectLayer* const origin = originLayer();
+    if (origin == nullptr) {
+        abandonDrag();
+        return;
+    }
+    const platform::PointF home = origin->position();
+    const std::string originKey = m_drag->originKey;
+    m_hover.flushTrackingAreas();
+    m_dragImage.fadeOut();
+    const bool moved = dropOnKey(event, originKey, keyHit(event.location));
+    if (!moved) {
+        m_dragImage.flyTo(home);
+    }
+    // The chips of the line that was played on lose their glow: the line before the new one, if
+    // any.
+    const unsigned newLines = moved ? 1 : 0;
+    if (const unsigned count = m_target->lineCount(); count > newLines) {
+        const unsigned row = count - 1 - newLines;
+        m_hover.turnOffEffectsForRow(row, m_target->lengthOfRow(row));
+    }
+    if (present::GameObjectLayer* const chip = originLayer()) {
+        chip->setOpacity(1.0F);
+    }
+    m_dragImage.removeAfterFade();
+}
+
+// The chip that is dragged has gone, or another has taken its key: there is nothing left to drop.
+void GameView::abandonDrag()
+{
+    m_hover.flushTrackingAreas();
+    m_dragImage.fadeOut();
+    m_dragImage.removeAfterFade();
+    m_drag.reset();
+    m_click = false;
+}
+
+present::GameObjectLayer* GameView::originLayer() const
+{
+    const board::GameObjectPtr chip = m_gameData.gameObjects().objectForKey(m_drag->originKey);
+    return chip && chip == m_drag->originChip.lock() ? m_layers.layerForKey(m_drag->originKey)
+                                                     : nullptr;
+}
+
+void GameView::mouseClick(const MouseEvent& event, const std::string& key)
+{
+    // The block starts before the game answers, so that the game may lengthen it.
+    if (isChipKey(key)) {
+        m_block.startBlockClick(kChipBlock);
+        m_target->mouseClick(event, rowForKey(key), columnForKey(key));
+    } else if (isDeleteKey(key)) {
+        m_block.startBlockClick(kDeleteBlock);
+        m_target->deleteClick(rowForDeleteButton(key));
+    } else if (isButtonKey(key)) {
+        m_block.startBlockClick(kButtonBlock);
+        m_target->buttonClick(key);
+        m_hover.turnOffButtons();
+    }
+}
+
+bool GameView::dropOnKey(const MouseEvent& event, const std::string& from, const std::string& to)
+{
+    if (!isChipKey(to) || rowForKey(from) != rowForKey(to)
+        || columnForKey(from) == columnForKey(to)) {
+        return false;
+    }
+    m_block.setDelay(kChipBlock);
+    const bool moved = m_target->mouseDrag(
+        event, rowForKey(from), columnForKey(from), rowForKey(to), columnForKey(to));
+    if (moved) {
+        m_block.blockAndPollAfter(kChipBlock);
+    }
+    return moved;
+}
+
+present::GameObjectLayer* GameView::chipLayerHit(platform::Point location) const
+{
+    present::Layer* const hit = m_layers.contentLayer().hitTest(
+        { .x = static_cast<float>(location.x), .y = static_cast<float>(location.y) });
+    return dynamic_cast<present::GameObjectLayer*>(hit);
+}
+
+std::string GameView::keyHit(platform::Point location) const
+{
+    const present::GameObjectLayer* const layer = chipLayerHit(location);
+    return layer != nullptr ? layer->gameObjectKey() : std::string();
+}
+
+platform::PointF GameView::onBackground(platform::Point location) const
+{
+    return m_layers.backgroundLayer().convertFromRoot(
+        { .x = static_cast<float>(location.x), .y = static_cast<float>(location.y) });
+}
+
+void GameView::establishButtonTracking()
+{
+    m_hover.establishButtonTracking(m_target != nullptr && m_target->isEndlessGame());
+}
+
+void GameView::reestablishTracking()
+{
+    m_hover.turnOffButtons();
+    m_hover.turnOffTitlePageButtons();
+    m_hover.turnOffDialogueButtons();
+    const board::ObjectTable& table = m_gameData.gameObjects();
+    if (m_target != nullptr && m_target->dialogueState() != 0 && table.contains("fullScreen-1i")) {
+        m_hover.establishDialogueButtonTracking();
+    } else if (table.contains("button-classicbuttonoff")) {
+        m_hover.establishTitlePagButtonTracking();
+    } else if (table.contains("button-lightbulboff")) {
+        establishButtonTracking();
+    }
+}
+
+void GameView::blockEnded()
+{
+    if (m_target != nullptr && m_target->dialogueState() == 0 && !m_target->hasMessageWindow()) {
+        m_hover.turnOnAllHovers();
+    }
+}
+
+} // namespace veyrand::input

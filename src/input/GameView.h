@@ -1,0 +1,81 @@
+#pragma once
+
+#include "input/DragImage.h"
+#include "input/Hover.h"
+#include "input/InputBlock.h"
+
+namespace veyrand::input {
+
+// Turns presses, moves and releases into the game's gestures: a click on a chip, a drag of a chip
+// onto another, a click on a delete button or any other button, and a click anywhere while a
+// message is up. Hands them to the game with row and column read from the element's key, and blocks
+// further input while the answer's animation runs. It remembers keys, never layers, so that the
+// board may change under it.
+class GameView final : public board::ButtonTracking {
+public:
+    struct Parts {
+        board::GameData& gameData;
+        present::BoardLayers& layers;
+        platform::RunLoop& runLoop;
+        const platform::Pointer& pointer;
+        const platform::SoundEffects& effects;
+    };
+    explicit GameView(const Parts& parts);
+
+    void setGestureTarget(GestureTarget& target) { m_target = &target; }
+
+    // Events of the left button, in the order in which they happen; and the pointer's free
+    // movement.
+    void mouseDown(const MouseEvent& event);
+    void mouseDragged(const MouseEvent& event);
+    void mouseUp(const MouseEvent& event);
+    void mouseMoved() { m_hover.pointerMoved(m_held); }
+
+    // A window that takes every press, or notes beside which play goes on.
+    [[nodiscard]] bool messageWindow() const { return m_messageWindow; }
+    void setMessageWindow(bool shown) { m_messageWindow = shown; }
+    [[nodiscard]] bool tutorialWindow() const { return m_tutorialWindow; }
+    void setTutorialWindow(bool shown) { m_tutorialWindow = shown; }
+
+    [[nodiscard]] InputBlock& block() { return m_block; }
+    [[nodiscard]] Hover& hover() { return m_hover; }
+
+    void establishButtonTracking() override;
+    // After the window changed size or mode: tracks what is on the screen now.
+    void reestablishTracking();
+
+private:
+    struct Drag {
+        std::string originKey;
+        std::weak_ptr<board::GameObject> originChip;
+    };
+
+    [[nodiscard]] present::GameObjectLayer* chipLayerHit(platform::Point location) const;
+    [[nodiscard]] std::string keyHit(platform::Point location) const; // empty when none
+    [[nodiscard]] platform::PointF onBackground(platform::Point location) const;
+    [[nodiscard]] bool hasMoved(platform::Point location) const;
+    [[nodiscard]] present::GameObjectLayer* originLayer() const;
+    void tryToStartDrag(platform::Point location);
+    void startLayerDrag(const std::string& key, platform::Point position);
+    void endDrag(const MouseEvent& event);
+    void abandonDrag();
+    void mouseClick(const MouseEvent& event, const std::string& key);
+    bool dropOnKey(const MouseEvent& event, const std::string& from, const std::string& to);
+    void blockEnded();
+
+    board::GameData& m_gameData;
+    present::BoardLayers& m_layers;
+    GestureTarget* m_target = nullptr;
+    InputBlock m_block;
+    Hover m_hover;
+    DragImage m_dragImage;
+    platform::Point m_position; // of the last press
+    std::optional<Drag> m_drag;
+    Hover::Button m_held = Hover::Button::Up;
+    bool m_click = false; // a press that may become a click or a drag
+    bool m_blockDrag = false; // this press may not become a drag
+    bool m_messageWindow = false;
+    bool m_tutorialWindow = false;
+};
+
+} // namespace veyrand::input

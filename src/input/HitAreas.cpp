@@ -1,0 +1,53 @@
+#include "input/HitAreas.h"
+
+#include <utility>
+
+namespace veyrand::input {
+
+namespace {
+
+bool contains(const platform::RectF& rect, std::optional<platform::Point> pointer)
+{
+    return pointer
+        && rect.contains(
+            { .x = static_cast<float>(pointer->x), .y = static_cast<float>(pointer->y) });
+}
+
+} // namespace
+
+void HitAreas::install(
+    std::string key, const platform::RectF& rect, std::optional<platform::Point> pointer)
+{
+    m_areas.push_back({ std::move(key), rect, contains(rect, pointer) });
+}
+
+std::vector<std::string> HitAreas::keys() const
+{
+    std::vector<std::string> keys;
+    for (const Area& area : m_areas) {
+        keys.push_back(area.key);
+    }
+    return keys;
+}
+
+void HitAreas::pointerMoved(std::optional<platform::Point> pointer, HitAreaListener& listener)
+{
+    std::vector<std::string> left;
+    std::vector<std::string> entered;
+    for (Area& area : m_areas) {
+        const bool inside = contains(area.rect, pointer);
+        if (inside != area.entered) {
+            (inside ? entered : left).push_back(area.key);
+            area.entered = inside;
+        }
+    }
+    // Told only now, as the listener may change the set of areas.
+    for (const std::string& key : left) {
+        listener.mouseExited(key);
+    }
+    for (const std::string& key : entered) {
+        listener.mouseEntered(key);
+    }
+}
+
+} // namespace veyrand::input

@@ -1,0 +1,29 @@
+#include "input/InputBlock.h"
+
+namespace veyrand::input {
+
+void InputBlock::startBlockClick(double seconds)
+{
+    setDelay(seconds);
+    blockAndPollAfter(seconds);
+}
+
+void InputBlock::blockAndPollAfter(double seconds)
+{
+    m_blocked = true;
+    m_runLoop.performAfterDelay(seconds, [this] { removeBlockClick(); });
+}
+
+void InputBlock::removeBlockClick()
+{
+    constexpr double kPollInterval = 0.1;
+    // Equality counts as passed, in whole nanoseconds, so that a block of 0.75 s lasts 0.75 s.
+    if (platform::toNanoseconds(m_runLoop.now()) < platform::toNanoseconds(m_delayUntil)) {
+        m_runLoop.performAfterDelay(kPollInterval, [this] { removeBlockClick(); });
+        return;
+    }
+    m_blocked = false;
+    m_ended();
+}
+
+} // namespace veyrand::input

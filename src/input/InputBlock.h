@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/RunLoop.h"
+
+#include <functional>
+#include <utility>
+
+namespace veyrand::input {
+
+// Keeps input blocked while animations run. A block is never cut short; it ends when a poll finds
+// its time passed, and whoever lengthens it only moves that time on.
+class InputBlock {
+public:
+    // The function is called whenever a block has ended.
+    InputBlock(platform::RunLoop& runLoop, std::function<void()> ended)
+        : m_runLoop(runLoop)
+        , m_ended(std::move(ended))
+    {
+    }
+
+    [[nodiscard]] bool blockClick() const { return m_blocked; }
+    [[nodiscard]] double delayUntil() const
+    {
+        return m_delayUntil;
+    } // seconds of the run loop's clock
+
+    void startBlockClick(double seconds);
+    void increaseDelay(double seconds) { m_delayUntil += seconds; }
+
+    // A drop is timed before the game has said whether it made a move, so that the game can
+    // lengthen the time; only then is it blocked for.
+    void setDelay(double seconds) { m_delayUntil = m_runLoop.now() + seconds; }
+    void blockAndPollAfter(double seconds);
+
+private:
+    void removeBlockClick();
+
+    platform::RunLoop& m_runLoop;
+    std::function<void()> m_ended;
+    double m_delayUntil = 0.0;
+    bool m_blocked = false;
+};
+
+} // namespace veyrand::input
