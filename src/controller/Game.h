@@ -1,0 +1,65 @@
+#pragma once
+
+#include "controller/GameController.h"
+#include "platform/Random.h"
+#include "platform/Resources.h"
+#include "platform/TextMetrics.h"
+
+namespace veyrand::controller {
+
+// The ports one game stands on. They belong to whoever assembles the game and outlive it.
+struct GamePorts {
+    platform::RunLoop& runLoop;
+    platform::Preferences& preferences;
+    platform::Sounds& sounds;
+    const platform::Pointer& pointer;
+    const platform::TextMetrics& textMetrics;
+    const platform::Menu& menu;
+    platform::Log& log;
+    platform::Quit& quit;
+};
+
+// One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
+// have as many as it likes, for nothing here is shared between them.
+class Game {
+public:
+    Game(const GamePorts& ports, progress::CurrentGame& currentGame, board::GameData& gameData)
+        : m_effects(ports.sounds, ports.menu)
+        , m_scene(ports.runLoop)
+        , m_board(gameData, currentGame, ports.runLoop)
+        , m_layers(m_scene, gameData, ports.textMetrics)
+        , m_view({ .gameData = gameData,
+              .layers = m_layers,
+              .runLoop = ports.runLoop,
+              .pointer = ports.pointer,
+              .effects = m_effects })
+        , m_context { .currentGame = currentGame,
+            .board = m_board,
+            .layers = m_layers,
+            .view = m_view,
+            .runLoop = ports.runLoop,
+            .preferences = ports.preferences,
+            .sounds = ports.sounds,
+            .effects = m_effects,
+            .menu = ports.menu,
+            .log = ports.log,
+            .quit = ports.quit }
+        , m_controller(m_context)
+    {
+    }
+
+    [[nodiscard]] present::BoardLayers& layers() { return m_layers; }
+    [[nodiscard]] input::GameView& view() { return m_view; }
+    [[nodiscard]] GameController& controller() { return m_controller; }
+
+private:
+    platform::SoundEffects m_effects;
+    present::Scene m_scene;
+    board::Board m_board;
+    present::BoardLayers m_layers;
+    input::GameView m_view;
+    GameContext m_context;
+    GameController m_controller;
+};
+
+} // namespace veyrand::controller

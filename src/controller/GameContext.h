@@ -1,0 +1,29 @@
+#pragma once
+
+#include "board/Board.h"
+#include "input/GameView.h"
+#include "platform/Log.h"
+#include "platform/Preferences.h"
+#include "platform/Quit.h"
+#include "present/BoardLayers.h"
+#include "progress/CurrentGame.h"
+
+namespace veyrand::controller {
+
+// Everything outside the controller that its collaborators work on. Owned by whoever assembles the
+// game, and outlives it.
+struct GameContext {
+    progress::CurrentGame& currentGame;
+    board::Board& board;
+    present::BoardLayers& layers;
+    input::GameView& view;
+    platform::RunLoop& runLoop;
+    platform::Preferences& preferences;
+    platform::Sounds& sounds;
+    const platform::SoundEffects& effects;
+    const platform::Menu& menu;
+    platform::Log& log;
+    platform::Quit& quit;
+};
+
+} // namespace veyrand::controller

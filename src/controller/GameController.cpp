@@ -1,0 +1,119 @@
+#include "controller/GameController.h"
+
+namespace veyrand::controller {
+
+GameController::GameController(GameContext& context)
+    : m_context(context)
+    , m_hints(context)
+    , m_flow(*this)
+    , m_lines(*this)
+    , m_moves(*this)
+    , m_titlePage(context)
+{
+    m_context.view.setGestureTarget(*this);
+}
+
+void GameController::awake(platform::Size viewSize)
+{
+    updateContentViewFrame(viewSize);
+    m_titlePage.createTitleAndStartButtons();
+}
+
+void GameController::updateContentViewFrame(platform::Size viewSize)
+{
+    m_context.layers.fitTo(viewSize);
+}
+
+void GameController::windowDidResize()
+{
+    if (hasMessageWindow() && dialogueState() == 0) {
+        return; // a page takes every press; it has no hit areas until it is dismissed
+    }
+    if (dialogueState() != 0) {
+        m_context.view.hover().establishDialogueButtonTracking();
+    } else if (m_context.board.gameData.gameObjects().contains("label-points")) {
+        m_context.view.establishButtonTracking();
+    } else {
+        m_context.view.hover().establishTitlePagButtonTracking();
+    }
+}
+
+void GameController::musicMenuClick()
+{
+    // Muting is by volume: the music goes on unheard.
+    m_context.sounds.setLoopVolume(m_context.menu.musicOn() ? 1.0 : 0.0);
+}
+
+bool GameController::gameMenuItemEnabled() const
+{
+    return !m_context.board.gameData.gameObjects().contains("button-lightbulbon");
+}
+
+void GameController::mouseClick(const input::MouseEvent& /*event*/, unsigned row, unsigned column)
+{
+    m_moves.mouseClick(row, column);
+}
+
+bool GameController::mouseDrag(const input::MouseEvent& /*event*/, unsigned fromRow,
+    unsigned fromColumn, unsigned toRow, unsigned toColumn)
+{
+    return m_moves.mouseDrag(fromRow, fromColumn, toRow, toColumn);
+}
+
+void GameController::deleteClick(unsigned row)
+{
+    m_lines.deleteClick(row);
+}
+
+void GameController::buttonClick(const std::string& key)
+{
+    if (key == "button-classicbuttonon") {
+        m_flow.newClassicGame();
+    } else if (key == "button-endlessbuttonon") {
+        m_flow.newEndlessGame();
+    } else if (key == "button-quitbuttonon") {
+        m_context.quit.terminate();
+    } else if (key == "button-menubuttonon") {
+        m_flow.returnToMenu();
+    }
+}
+
+void GameController::messageWindowClick() { }
+
+std::optional<unsigned> GameController::rowToDrag() const
+{
+    return m_moves.rowToDrag();
+}
+
+std::optional<std::vector<unsigned>> GameController::areasToTrack(
+    unsigned row, unsigned column) const
+{
+    return m_moves.areasToTrack(row, column);
+}
+
+unsigned GameController::lineCount() const
+{
+    return proof() ? static_cast<unsigned>(proof()->lines().size()) : 0;
+}
+
+unsigned GameController::lengthOfRow(unsigned row) const
+{
+    return m_moves.lengthOfRow(row);
+}
+
+bool GameController::isEndlessGame() const
+{
+    return m_context.currentGame.endlessGame();
+}
+
+int GameController::dialogueState() const
+{
+    return 0;
+}
+
+bool GameController::hasMessageWindow() const
+{
+    return false;
+}
+
+} // namespace veyrand::controller

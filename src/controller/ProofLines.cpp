@@ -1,0 +1,111 @@
+#include "controller/ProofLines.h"
+
+#include "controller/GameController.h"
+#include "controller/Scoring.h"
+
+namespace veyrand::controller {
+
+namespace {
+
+// The celebration, in seconds from the solving move: chosen so that the goal flies over the full
+// board and the next puzzle arrives while input is still blocked.
+constexpr double kDeleteButtonsGo = 2.5;
+constexpr double kGoalFlies = 3.0;
+constexpr double kBoardEmpties = 4.5;
+constexpr double kNextPuzzle = 6.5;
+constexpr double kCelebrationBlock = 7.0;
+
+} // namespace
+
+ProofLines::ProofLines(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+{
+}
+
+bool ProofLines::checkProofComplete()
+{
+    if (!m_controller.proof()->checkSolved()) {
+        return true;
+    }
+    m_game.view.block().startBlockClick(kCelebrationBlock);
+    m_game.effects.play("CymbalRoll");
+    performWithThisProof(kDeleteButtonsGo, [this] { removeAllDeleteButtons(); });
+    performWithThisProof(kBoardEmpties, [this] { clearProof(); });
+    performWithThisProof(kGoalFlies,
+        [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
+    calculateScore();
+    performWithThisProof(kNextPuzzle, [this] { m_controller.flow().puzzleFinished(); });
+    return true;
+}
+
+void ProofLines::performWithThisProof(double delay, std::function<void()> call)
+{
+    m_game.runLoop.performAfterDelay(
+        delay, [this, call = std::move(call), proof = std::weak_ptr(m_controller.proof())] {
+            if (m_controller.proof() && m_controller.proof() == proof.lock()) {
+                call();
+            }
+        });
+}
+
+void ProofLines::calculateScore()
+{
+    const progress::CurrentGame& game = m_game.currentGame;
+    m_game.currentGame.addToScore(
+        pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount()));
+}
+
+void ProofLines::clearProof(unsigned firstRow, unsigned count, DeleteButtons buttons)
+{
+    board::ObjectTable& table = m_game.board.gameData.gameObjects();
+    engine::Proof& proof = *m_controller.proof();
+    for (unsigned row = firstRow; row < firstRow + count; ++row) {
+        const std::size_t length = proof.lines().at(row).theorem().size();
+        for (unsigned column = 0; column < length; ++column) {
+            table.removeGameObjectForKey(board::generateKeyChipKey(column, row));
+        }
+    }
+    for (unsigned i = 0; i < count; ++i) {
+        proof.removeLine(firstRow);
+    }
+    if (buttons == DeleteButtons::Remove) {
+        removeDeleteButtons(firstRow, count);
+    }
+}
+
+void ProofLines::clearProof()
+{
+    clearProof(0, m_controller.lineCount(), DeleteButtons::Remove);
+}
+
+void ProofLines::deleteClick(unsigned row)
+{
+    m_game.effects.play("DeleteDing");
+    const unsigned count = m_controller.lineCount();
+    for (unsigned r = row; r < count; ++r) {
+        m_game.board.gameData.gameObjects().removeGameObjectForKey(board::deleteButtonKey(r));
+        m_game.board.lines.dropTheorem(m_controller.proof()->lines().at(r).theorem(), r);
+    }
+    for (unsigned r = count; r > row; --r) {
+        m_controller.proof()->removeLine(r - 1);
+    }
+    m_controller.hints().resetHintMode();
+}
+
+void ProofLines::removeDeleteButtons(unsigned firstRow, unsigned count)
+{
+    for (unsigned row = firstRow; row < firstRow + count; ++row) {
+        m_game.board.gameData.gameObjects().removeGameObjectForKey(board::deleteButtonKey(row));
+    }
+}
+
+void ProofLines::removeAllDeleteButtons()
+{
+    const unsigned count = m_controller.lineCount();
+    if (count > 1) {
+        removeDeleteButtons(1, count - 1);
+    }
+}
+
+} // namespace veyrand::controller
