@@ -1,0 +1,106 @@
+#include "platform/qt/ListPainter.h"
+
+#include <cmath>
+
+namespace veyrand::platform::qt {
+
+namespace {
+
+QRectF toPixels(const RectF& rect, const ListPainter::Surface& surface)
+{
+    const double ratio = surface.pixelRatio;
+    const double top
+        = surface.height - static_cast<double>(rect.y) - static_cast<double>(rect.height);
+    return { static_cast<double>(rect.x) * ratio, top * ratio,
+        static_cast<double>(rect.width) * ratio, static_cast<double>(rect.height) * ratio };
+}
+
+QSize wholeSize(const QRectF& pixels)
+{
+    return { std::max(1, static_cast<int>(std::lround(pixels.width()))),
+        std::max(1, static_cast<int>(std::lround(pixels.height()))) };
+}
+
+// The top left corner that keeps a picture of the whole size centred where it belongs.
+QPoint wholeCorner(const QRectF& pixels, QSize size)
+{
+    const QPointF centre = pixels.center();
+    return { static_cast<int>(std::lround(centre.x() - size.width() / 2.0)),
+        static_cast<int>(std::lround(centre.y() - size.height() / 2.0)) };
+}
+
+} // namespace
+
+void ListPainter::paint(QPainter& painter, const present::DisplayList& list, const Surface& surface)
+{
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (const present::DisplayItem& item : list) {
+        paintItem(painter, item, surface);
+    }
+    painter.setOpacity(1.0);
+}
+
+void ListPainter::paintItem(
+    QPainter& painter, const present::DisplayItem& item, const Surface& surface)
+{
+    const QRectF pixels = toPixels(item.rect, surface);
+    // Chips that fall off the board must not show in the margins beside it.
+    const QRectF clip = toPixels(item.clip, surface);
+    const bool clipped = !clip.contains(pixels);
+    if (clipped) {
+        painter.save();
+        painter.setClipRect(clip.toAlignedRect(), Qt::IntersectClip);
+    }
+    painter.setOpacity(static_cast<double>(item.opacity));
+    if (const auto* solid = std::get_if<present::SolidContent>(&item.content)) {
+        painter.fillRect(pixels.toAlignedRect(),
+            QColor::fromRgbF(static_cast<float>(solid->color.red),
+                static_cast<float>(solid->color.green), static_cast<float>(solid->color.blue),
+                static_cast<float>(solid->color.alpha)));
+    } else if (const auto* image = std::get_if<present::ImageContent>(&item.content)) {
+        paintImage(painter, image->name, pixels, item, surface);
+    } else if (const auto* text = std::get_if<present::TextContent>(&item.content)) {
+        const QSize size = wholeSize(pixels);
+        painter.drawPixmap(wholeCorner(pixels, size), m_images.text(*text, size));
+    }
+    if (clipped) {
+        painter.restore();
+    }
+}
+
+void ListPainter::paintImage(QPainter& painter, const std::string& name, const QRectF& pixels,
+    const present::DisplayItem& item, const Surface& surface)
+{
+    const QSize size = wholeSize(pixels);
+    const QPoint corner = wholeCorner(pixels, size);
+    const bool moving = item.motion == present::Motion::Moving;
+    const QPixmap& picture
+        = moving ? m_images.imageAtLeast(name, size) : m_images.image(name, size);
+    if (picture.size() == size) {
+        painter.drawPixmap(corner, picture);
+    } else {
+        painter.drawPixmap(pixels, picture, QRectF(picture.rect()));
+    }
+    if (item.glow > 0.0F) {
+        const int radius
+            = static_cast<int>(std::lround(static_cast<double>(item.glow) * surface.pixelRatio));
+        const QPainter::CompositionMode usual = painter.compositionMode();
+        painter.setCompositionMode(QPainter::CompositionMode_Plus);
+        painter.drawPixmap(
+            corner - QPoint(2 * radius, 2 * radius), m_images.glow(name, size, radius));
+        painter.setCompositionMode(usual);
+    }
+}
+
+QRegion ListPainter::damagedPixels(
+    const present::DisplayList& before, const present::DisplayList& after, const Surface& surface)
+{
+    QRegion region;
+    for (const RectF& rect : present::damageBetween(before, after)) {
+        // One pixel more on every side for the rounding of corners and the smoothing of edges.
+        region += toPixels(rect, surface).toAlignedRect().adjusted(-1, -1, 1, 1);
+    }
+    return region;
+}
+
+} // namespace veyrand::platform::qt

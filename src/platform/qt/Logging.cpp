@@ -1,0 +1,14 @@
+#include "platform/qt/Logging.h"
+
+namespace veyrand::platform::qt {
+
+Q_LOGGING_CATEGORY(lcGame, "veyrand.game")
+Q_LOGGING_CATEGORY(lcAnalysis, "veyrand.analysis")
+
+void QtLog::write(std::string_view line)
+{
+    qCInfo(lcAnalysis).noquote() << QString::fromUtf8(
+        line.data(), static_cast<qsizetype>(line.size()));
+}
+
+} // namespace veyrand::platform::qt

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Log.h"
+
+#include <QLoggingCategory>
+
+namespace veyrand::platform::qt {
+
+// What the game reports: QT_LOGGING_RULES="veyrand.*=true" shows all of it.
+Q_DECLARE_LOGGING_CATEGORY(lcGame)
+// What the designers' analysis tools print.
+Q_DECLARE_LOGGING_CATEGORY(lcAnalysis)
+
+class QtLog final : public Log {
+public:
+    void write(std::string_view line) override;
+};
+
+} // namespace veyrand::platform::qt
