@@ -1,0 +1,109 @@
+#include "app/Application.h"
+
+#include "app/MainWindow.h"
+#include "controller/Game.h"
+#include "platform/qt/DataFolder.h"
+#include "platform/qt/FilePreferences.h"
+#include "platform/qt/Logging.h"
+#include "platform/qt/OpenAlSounds.h"
+#include "platform/qt/QtRunLoop.h"
+#include "platform/qt/SystemPorts.h"
+#include "progress/PlayerKeys.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+namespace veyrand::app {
+
+namespace {
+
+// The real ports and the one game on them, in the order in which they need each other.
+class Application {
+public:
+    explicit Application(const QString& dataFolder)
+        : m_preferences(platform::qt::FilePreferences::usualFile())
+        , m_sounds(dataFolder + QStringLiteral("/sounds"))
+        , m_resources(dataFolder)
+        , m_images(dataFolder + QStringLiteral("/images"), m_font)
+        , m_menu(withDefaults(m_preferences))
+        , m_currentGame(progress::CurrentGame::sharedInstance(m_preferences, m_random, m_resources))
+        , m_game({ .runLoop = m_runLoop,
+                     .preferences = m_preferences,
+                     .sounds = m_sounds,
+                     .pointer = m_pointer,
+                     .textMetrics = m_font,
+                     .menu = m_menu,
+                     .log = m_log,
+                     .quit = m_quit },
+              m_currentGame, board::GameData::sharedGameData(m_screen))
+        , m_board({ .layers = m_game.layers(),
+              .view = m_game.view(),
+              .pointer = m_pointer,
+              .images = m_images,
+              .resized = [this](platform::Size size) { resized(size); } })
+        , m_window(m_menu, m_board)
+    {
+        controller::GameController& controller = m_game.controller();
+        m_menu.connectActions({ .classicGame = [&] { controller.flow().newClassicGame(); },
+            .endlessGame = [&] { controller.flow().newEndlessGame(); },
+            .musicChanged = [&] { controller.musicMenuClick(); },
+            .quit = [this] { m_quit.terminate(); },
+            .gamesEnabled = [&] { return controller.gameMenuItemEnabled(); } });
+    }
+
+    // What keeps the game from being played; empty when nothing does.
+    [[nodiscard]] const std::string& fault() const { return m_currentGame.catalogueErrors(); }
+
+    void show()
+    {
+        m_window.show();
+        m_game.controller().awake({ .width = static_cast<double>(m_board.width()),
+            .height = static_cast<double>(m_board.height()) });
+    }
+
+private:
+    static platform::Preferences& withDefaults(platform::Preferences& preferences)
+    {
+        preferences.registerDefaults(progress::registeredDefaults());
+        return preferences;
+    }
+
+    void resized(platform::Size size)
+    {
+        m_game.controller().updateContentViewFrame(size);
+        m_game.controller().windowDidResize();
+    }
+
+    platform::qt::QtRunLoop m_runLoop;
+    platform::qt::FilePreferences m_preferences;
+    platform::qt::OpenAlSounds m_sounds;
+    platform::qt::SystemRandom m_random;
+    platform::qt::FileResources m_resources;
+    platform::qt::MainScreen m_screen;
+    platform::qt::QtQuit m_quit;
+    platform::qt::QtLog m_log;
+    platform::TrackedPointer m_pointer;
+    platform::qt::GameFont m_font;
+    platform::qt::ImageStore m_images;
+    platform::qt::GameMenu m_menu;
+    progress::CurrentGame& m_currentGame;
+    controller::Game m_game;
+    platform::qt::BoardWidget m_board;
+    MainWindow m_window;
+};
+
+} // namespace
+
+int runGame(const QString& dataFolder)
+{
+    Application application(dataFolder);
+    if (!application.fault().empty()) {
+        QTextStream(stderr) << "The puzzles cannot be played: " << dataFolder << '/'
+                            << QString::fromStdString(application.fault()) << Qt::endl;
+        return 1;
+    }
+    application.show();
+    return QApplication::exec();
+}
+
+} // namespace veyrand::app

@@ -1,0 +1,56 @@
+#include "app/Application.h"
+#include "app/Demo.h"
+#include "platform/qt/DataFolder.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+#include <CLI/CLI.hpp>
+#include <optional>
+
+namespace {
+
+// Status for a command line that cannot be followed.
+constexpr int kBadArguments = 2;
+
+int run(const std::optional<std::string>& demoFolder)
+{
+    const QString dataFolder = veyrand::platform::qt::findDataFolder();
+    if (dataFolder.isEmpty()) {
+        QTextStream(stderr) << "The game's data cannot be found: no share/veyrand beside "
+                            << QCoreApplication::applicationDirPath()
+                            << " and VEYRAND_DATA names no folder" << Qt::endl;
+        return 1;
+    }
+    if (demoFolder) {
+        return veyrand::app::playDemonstration(dataFolder, QString::fromStdString(*demoFolder));
+    }
+    return veyrand::app::runGame(dataFolder);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    CLI::App options("Veyrand, a puzzle game of rewrite moves", "veyrand");
+    options.set_version_flag("--version", "veyrand " VEYRAND_VERSION);
+    std::optional<std::string> demoFolder;
+    options
+        .add_option("--demo", demoFolder,
+            "Play by itself, off the screen, and leave pictures in the folder DIR")
+        ->expected(0, 1)
+        ->default_str("veyrand-demo")
+        ->type_name("DIR");
+    try {
+        options.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return options.exit(error) == 0 ? 0 : kBadArguments;
+    }
+    if (demoFolder && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Veyrand"));
+    QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
+    return run(demoFolder);
+}
