@@ -59,6 +59,8 @@ int compile(const std::string& in, const std::string& out, progress::CatalogueKi
     return EXIT_SUCCESS;
 }
 
+constexpr int kBadArguments = 2;
+
 int run(int argc, char** argv)
 {
     CLI::App app("Checks a puzzle catalogue and writes it as the game reads it (UTF-16).");
@@ -73,7 +75,11 @@ int run(int argc, char** argv)
     game->add_flag("--classic", classic, "every place of the Classic game has its puzzle");
     game->add_flag("--endless", endless, "every par of the Endless game has a puzzle");
     game->require_option(1);
-    CLI11_PARSE(app, argc, argv);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == EXIT_SUCCESS ? EXIT_SUCCESS : kBadArguments;
+    }
     return compile(
         in, out, classic ? progress::CatalogueKind::Classic : progress::CatalogueKind::Endless);
 }

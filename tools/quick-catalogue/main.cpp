@@ -35,6 +35,8 @@ void write(const std::string& path, const Puzzles& puzzles)
     }
 }
 
+constexpr int kBadArguments = 2;
+
 int run(int argc, char** argv)
 {
     CLI::App app("Makes puzzles for both catalogues, three lines each: start, goal, par.");
@@ -45,7 +47,11 @@ int run(int argc, char** argv)
     app.add_option("--classic", classic, "where to write the Classic puzzles");
     app.add_option("--endless", endless, "where to write the Endless puzzles");
     app.require_option(1, 0);
-    CLI11_PARSE(app, argc, argv);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == EXIT_SUCCESS ? EXIT_SUCCESS : kBadArguments;
+    }
     if (!classic.empty()) {
         veyrand::platform::SeededRandom random(seed);
         write(classic, classicPuzzles(random, bar("Classic")));
