@@ -1,0 +1,304 @@
+#include "ScenarioGame.h"
+
+#include "ScriptValues.h"
+#include "progress/PlayerKeys.h"
+
+#include <QDir>
+
+namespace veyrand::scenario {
+
+using app::VirtualGame;
+using progress::CurrentGame;
+
+ScenarioGame::ScenarioGame(QJSEngine& engine, Settings settings)
+    : m_engine(engine)
+    , m_settings(std::move(settings))
+{
+    QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
+}
+
+VirtualGame& ScenarioGame::game()
+{
+    if (!m_game) {
+        start();
+    }
+    return *m_game;
+}
+
+void ScenarioGame::start(const QJSValue& options)
+{
+    VirtualGame::Options made { .screen = m_settings.screen,
+        .window = m_settings.window,
+        .seed = field(options, "seed", 1).toUInt(),
+        .preferences = {},
+        .dataFolder = m_settings.dataFolder };
+    made.preferences.values = toRecord(field(options, "preferences", m_engine.newObject()));
+    const QJSValue record = field(options, "record", QJSValue());
+    if (record.isObject()) {
+        const auto& values = made.preferences.values;
+        const auto defaults = progress::registeredDefaults().values;
+        const auto& named = values.count(progress::kPlayerNameKey) != 0 ? values : defaults;
+        made.preferences.records.emplace(
+            progress::playerRecordKey(platform::stringForKey(named, progress::kPlayerNameKey)),
+            toRecord(record));
+    }
+    m_game.reset();
+    m_game = std::make_unique<VirtualGame>(made);
+    m_game->launch();
+}
+
+void ScenarioGame::play(const QJSValue& puzzle)
+{
+    game().play({ .root = scenario::text(field(puzzle, "root", QStringLiteral("YR"))),
+        .goal = scenario::text(field(puzzle, "goal", QStringLiteral("YRG"))),
+        .par = field(puzzle, "par", 2).toInt(),
+        .level = field(puzzle, "level", 1).toInt(),
+        .stage = field(puzzle, "stage", 1).toInt(),
+        .mode = field(puzzle, "endless", false).toBool() ? CurrentGame::Mode::Endless
+                                                         : CurrentGame::Mode::Classic });
+}
+
+void ScenarioGame::wait(double seconds)
+{
+    game().wait(seconds);
+}
+
+std::optional<platform::Point> ScenarioGame::place(const QJSValue& target)
+{
+    if (target.isArray()) {
+        return platform::Point { .x = target.property(0).toNumber(),
+            .y = target.property(1).toNumber() };
+    }
+    auto centre = game().centreOf(scenario::text(target));
+    if (!centre) {
+        m_engine.throwError(
+            QStringLiteral("nothing on the board has the key \"%1\"").arg(target.toString()));
+    }
+    return centre;
+}
+
+void ScenarioGame::move(const QJSValue& target)
+{
+    if (const auto at = place(target)) {
+        game().move(*at);
+    }
+}
+
+void ScenarioGame::press(const QJSValue& target, const QJSValue& modifiers)
+{
+    if (const auto at = place(target)) {
+        game().press(*at, toModifiers(modifiers));
+    }
+}
+
+void ScenarioGame::release(const QJSValue& target)
+{
+    if (const auto at = place(target)) {
+        game().release(*at);
+    }
+}
+
+void ScenarioGame::click(const QJSValue& target, const QJSValue& modifiers)
+{
+    if (const auto at = place(target)) {
+        game().press(*at, toModifiers(modifiers));
+        game().release(*at);
+    }
+}
+
+void ScenarioGame::drag(const QJSValue& from, const QJSValue& to)
+{
+    const auto start = place(from);
+    const auto end = place(to);
+    if (start && end) {
+        game().press(*start);
+        game().release(*end);
+    }
+}
+
+void ScenarioGame::key(const QString& sequence)
+{
+    game().key(sequence);
+}
+
+void ScenarioGame::resize(int width, int height)
+{
+    game().resize({ width, height });
+}
+
+void ScenarioGame::menu(const QString& item)
+{
+    if (!game().menu().trigger(item)) {
+        m_engine.throwError(
+            QStringLiteral("the menu has no item \"%1\" that can be chosen now").arg(item));
+    }
+}
+
+void ScenarioGame::screenshot(const QString& name)
+{
+    const QDir folder(m_settings.outFolder);
+    if (!folder.mkpath(QStringLiteral(".")) || !game().picture().save(folder.filePath(name))) {
+        m_engine.throwError(folder.filePath(name) + QStringLiteral(" cannot be written"));
+    }
+}
+
+QJSValue ScenarioGame::keys()
+{
+    return toScript(m_engine, game().gameData().gameObjects().keys());
+}
+
+QJSValue ScenarioGame::object(const QString& key)
+{
+    const auto record = game().gameData().gameObjects().objectForKey(key.toStdString());
+    if (!record) {
+        return QJSValue::NullValue;
+    }
+    QJSValue value = m_engine.newObject();
+    value.setProperty(QStringLiteral("image"), QString::fromStdString(record->imageName()));
+    value.setProperty(QStringLiteral("x"), record->x());
+    value.setProperty(QStringLiteral("y"), record->y());
+    value.setProperty(QStringLiteral("width"), record->width());
+    value.setProperty(QStringLiteral("height"), record->height());
+    value.setProperty(QStringLiteral("opacity"), record->opacity());
+    value.setProperty(QStringLiteral("visible"), record->visible());
+    return value;
+}
+
+QString ScenarioGame::text(const QString& key)
+{
+    const auto record = game().gameData().gameObjects().objectForKey(key.toStdString());
+    return record ? QString::fromStdString(game().game().layers().shownText(*record)) : QString();
+}
+
+QJSValue ScenarioGame::layer(const QString& key)
+{
+    const auto* const layer = game().game().layers().layerForKey(key.toStdString());
+    if (layer == nullptr) {
+        return QJSValue::NullValue;
+    }
+    const double height = game().gameData().gameHeight();
+    const auto inGameHeights
+        = [height](float points) { return static_cast<double>(points) / height; };
+    QJSValue value = m_engine.newObject();
+    value.setProperty(QStringLiteral("x"), inGameHeights(layer->shownPosition().x));
+    value.setProperty(QStringLiteral("y"), inGameHeights(layer->shownPosition().y));
+    value.setProperty(QStringLiteral("width"), inGameHeights(layer->shownBounds().width));
+    value.setProperty(QStringLiteral("height"), inGameHeights(layer->shownBounds().height));
+    value.setProperty(QStringLiteral("opacity"), static_cast<double>(layer->shownOpacity()));
+    value.setProperty(QStringLiteral("z"), static_cast<double>(layer->zPosition()));
+    value.setProperty(QStringLiteral("hidden"), layer->isHidden());
+    value.setProperty(QStringLiteral("glow"), static_cast<double>(layer->glow()));
+    return value;
+}
+
+QJSValue ScenarioGame::lines()
+{
+    std::vector<std::string> lines;
+    if (const auto& proof = game().controller().proof()) {
+        for (const engine::Theorem& line : proof->lines()) {
+            lines.push_back(line.theorem());
+        }
+    }
+    return toScript(m_engine, lines);
+}
+
+QString ScenarioGame::goal()
+{
+    const auto& proof = game().controller().proof();
+    return proof ? QString::fromStdString(proof->goal().theorem()) : QString();
+}
+
+int ScenarioGame::par()
+{
+    return game().currentGame().par();
+}
+int ScenarioGame::level()
+{
+    return game().currentGame().level();
+}
+int ScenarioGame::stage()
+{
+    return game().currentGame().stage();
+}
+double ScenarioGame::score()
+{
+    return static_cast<double>(game().currentGame().score());
+}
+bool ScenarioGame::endless()
+{
+    return game().currentGame().endlessGame();
+}
+
+double ScenarioGame::endlessScore()
+{
+    return static_cast<double>(game().currentGame().endlessScore());
+}
+
+int ScenarioGame::endlessPar()
+{
+    return game().currentGame().endlessPar();
+}
+int ScenarioGame::highestRule()
+{
+    return game().currentGame().highestRule();
+}
+int ScenarioGame::hintMode()
+{
+    return game().controller().hints().hintMode();
+}
+int ScenarioGame::dialogueState()
+{
+    return game().controller().dialogueState();
+}
+
+QString ScenarioGame::page()
+{
+    return {};
+}
+
+bool ScenarioGame::blocked()
+{
+    return game().game().view().block().blockClick();
+}
+
+QJSValue ScenarioGame::sounds()
+{
+    return toScript(m_engine, game().sounds().takePlayed());
+}
+
+QJSValue ScenarioGame::music()
+{
+    const auto& loop = game().sounds().loop();
+    if (!loop) {
+        return QJSValue::NullValue;
+    }
+    QJSValue value = m_engine.newObject();
+    value.setProperty(QStringLiteral("name"), QString::fromStdString(loop->name));
+    value.setProperty(QStringLiteral("volume"), loop->volume);
+    value.setProperty(QStringLiteral("looping"), true);
+    return value;
+}
+
+QJSValue ScenarioGame::preference(const QString& key)
+{
+    const auto value = game().preferences().value(key.toStdString());
+    return value ? toScript(*value) : QJSValue(QJSValue::NullValue);
+}
+
+std::string ScenarioGame::recordKey()
+{
+    return progress::playerRecordKey(game().preferences().stringForKey(progress::kPlayerNameKey));
+}
+
+QJSValue ScenarioGame::record()
+{
+    const auto record = game().preferences().record(recordKey());
+    return record ? toScript(m_engine, *record) : QJSValue(QJSValue::NullValue);
+}
+
+bool ScenarioGame::terminated()
+{
+    return game().quit().terminated();
+}
+
+} // namespace veyrand::scenario
