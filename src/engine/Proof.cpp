@@ -22,7 +22,7 @@ Proof::Proof(Theorem root, Theorem goal, SharedRules rules)
 
 bool Proof::applyRule(unsigned rule, unsigned match)
 {
-    const Theorem& last = m_lines.back();
+    const Theorem& last = m_lines.at(m_lines.size() - 1); // none left: beyond the end
     const Rule& applied = m_rules->at(rule);
     const unsigned matches = last.numberOfMatchesWithRule(applied);
     if (matches < match || matches == 0) {
