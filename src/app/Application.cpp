@@ -29,6 +29,7 @@ public:
         , m_currentGame(progress::CurrentGame::sharedInstance(m_preferences, m_random, m_resources))
         , m_game({ .runLoop = m_runLoop,
                      .preferences = m_preferences,
+                     .resources = m_resources,
                      .sounds = m_sounds,
                      .pointer = m_pointer,
                      .textMetrics = m_font,
@@ -52,7 +53,10 @@ public:
     }
 
     // What keeps the game from being played; empty when nothing does.
-    [[nodiscard]] const std::string& fault() const { return m_currentGame.catalogueErrors(); }
+    [[nodiscard]] std::string fault() const
+    {
+        return m_currentGame.catalogueErrors() + m_game.script().errors;
+    }
 
     void show()
     {
@@ -97,9 +101,9 @@ private:
 int runGame(const QString& dataFolder)
 {
     Application application(dataFolder);
-    if (!application.fault().empty()) {
-        QTextStream(stderr) << "The puzzles cannot be played: " << dataFolder << '/'
-                            << QString::fromStdString(application.fault()) << Qt::endl;
+    if (const std::string fault = application.fault(); !fault.empty()) {
+        QTextStream(stderr) << "The game cannot be played: " << dataFolder << '/'
+                            << QString::fromStdString(fault) << Qt::endl;
         return 1;
     }
     application.show();

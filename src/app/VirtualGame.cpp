@@ -59,6 +59,7 @@ VirtualGame::VirtualGame(const Options& options)
     , m_gameData(m_screen)
     , m_game(std::make_unique<controller::Game>(controller::GamePorts { .runLoop = m_runLoop,
                                                     .preferences = m_preferences,
+                                                    .resources = m_resources,
                                                     .sounds = m_sounds,
                                                     .pointer = m_pointer,
                                                     .textMetrics = m_font,
@@ -166,7 +167,9 @@ std::optional<Point> VirtualGame::centreOf(const std::string& key)
 
 QImage VirtualGame::picture()
 {
-    QImage image(m_widget->size(), QImage::Format_RGB32);
+    const double ratio = m_widget->devicePixelRatioF();
+    QImage image((QSizeF(m_widget->size()) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
     m_widget->nextFrame();
     m_widget->render(&image);
     return image;

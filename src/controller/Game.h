@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameController.h"
+#include "controller/TutorialScriptReader.h"
 #include "platform/Random.h"
 #include "platform/Resources.h"
 #include "platform/TextMetrics.h"
@@ -11,6 +12,7 @@ namespace veyrand::controller {
 struct GamePorts {
     platform::RunLoop& runLoop;
     platform::Preferences& preferences;
+    const platform::Resources& resources;
     platform::Sounds& sounds;
     const platform::Pointer& pointer;
     const platform::TextMetrics& textMetrics;
@@ -24,7 +26,8 @@ struct GamePorts {
 class Game {
 public:
     Game(const GamePorts& ports, progress::CurrentGame& currentGame, board::GameData& gameData)
-        : m_effects(ports.sounds, ports.menu)
+        : m_script(readTutorialScript(ports.resources))
+        , m_effects(ports.sounds, ports.menu)
         , m_scene(ports.runLoop)
         , m_board(gameData, currentGame, ports.runLoop)
         , m_layers(m_scene, gameData, ports.textMetrics)
@@ -42,6 +45,7 @@ public:
             .sounds = ports.sounds,
             .effects = m_effects,
             .menu = ports.menu,
+            .script = m_script,
             .log = ports.log,
             .quit = ports.quit }
         , m_controller(m_context)
@@ -51,8 +55,11 @@ public:
     [[nodiscard]] present::BoardLayers& layers() { return m_layers; }
     [[nodiscard]] input::GameView& view() { return m_view; }
     [[nodiscard]] GameController& controller() { return m_controller; }
+    // The pages and lessons, with what was wrong with their files.
+    [[nodiscard]] const TutorialScript& script() const { return m_script; }
 
 private:
+    TutorialScript m_script;
     platform::SoundEffects m_effects;
     present::Scene m_scene;
     board::Board m_board;

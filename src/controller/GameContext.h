@@ -1,6 +1,7 @@
 #pragma once
 
 #include "board/Board.h"
+#include "controller/TutorialScript.h"
 #include "input/GameView.h"
 #include "platform/Log.h"
 #include "platform/Preferences.h"
@@ -22,6 +23,7 @@ struct GameContext {
     platform::Sounds& sounds;
     const platform::SoundEffects& effects;
     const platform::Menu& menu;
+    const TutorialScript& script;
     platform::Log& log;
     platform::Quit& quit;
 };

@@ -4,11 +4,15 @@ namespace veyrand::controller {
 
 GameController::GameController(GameContext& context)
     : m_context(context)
-    , m_hints(context)
+    , m_hints(*this)
     , m_flow(*this)
     , m_lines(*this)
     , m_moves(*this)
     , m_titlePage(context)
+    , m_messages(*this)
+    , m_pages(*this)
+    , m_dialogues(*this)
+    , m_tutorial(*this)
 {
     m_context.view.setGestureTarget(*this);
 }
@@ -73,12 +77,27 @@ void GameController::buttonClick(const std::string& key)
         m_flow.newEndlessGame();
     } else if (key == "button-quitbuttonon") {
         m_context.quit.terminate();
+    } else if (key == "button-lightbulbon") {
+        m_hints.lightBulbClick();
+    } else if (key == "button-movesbuttonon") {
+        m_pages.show("movesMessageWindow");
     } else if (key == "button-menubuttonon") {
         m_flow.returnToMenu();
+    } else if (key == "button-harderbuttonon") {
+        m_flow.harderButtonClick();
+    } else if (key == "button-easierbuttonon") {
+        m_flow.easierButtonClick();
+    } else if (key == "fullScreen-4i") {
+        m_dialogues.dialogueButtonClick(0);
+    } else if (key == "fullScreen-3i") {
+        m_dialogues.dialogueButtonClick(1);
     }
 }
 
-void GameController::messageWindowClick() { }
+void GameController::messageWindowClick()
+{
+    m_messages.messageWindowClick();
+}
 
 std::optional<unsigned> GameController::rowToDrag() const
 {
@@ -108,12 +127,12 @@ bool GameController::isEndlessGame() const
 
 int GameController::dialogueState() const
 {
-    return 0;
+    return m_dialogues.dialogueState();
 }
 
 bool GameController::hasMessageWindow() const
 {
-    return false;
+    return m_context.view.messageWindow();
 }
 
 } // namespace veyrand::controller

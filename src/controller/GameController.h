@@ -1,10 +1,14 @@
 #pragma once
 
+#include "controller/Dialogues.h"
 #include "controller/GameFlow.h"
 #include "controller/Hints.h"
+#include "controller/Messages.h"
 #include "controller/Moves.h"
+#include "controller/Pages.h"
 #include "controller/ProofLines.h"
 #include "controller/TitlePage.h"
+#include "controller/Tutorial.h"
 
 namespace veyrand::controller {
 
@@ -25,6 +29,10 @@ public:
     [[nodiscard]] Hints& hints() { return m_hints; }
     [[nodiscard]] GameFlow& flow() { return m_flow; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
+    [[nodiscard]] Messages& messages() { return m_messages; }
+    [[nodiscard]] Pages& pages() { return m_pages; }
+    [[nodiscard]] Dialogues& dialogues() { return m_dialogues; }
+    [[nodiscard]] Tutorial& tutorial() { return m_tutorial; }
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
     void musicMenuClick();
@@ -53,6 +61,10 @@ private:
     ProofLines m_lines;
     Moves m_moves;
     TitlePage m_titlePage;
+    Messages m_messages;
+    Pages m_pages;
+    Dialogues m_dialogues;
+    Tutorial m_tutorial;
 };
 
 } // namespace veyrand::controller

@@ -4,10 +4,29 @@
 #include "controller/PlayerRecord.h"
 #include "progress/PlayerKeys.h"
 
+#include <algorithm>
+
 namespace veyrand::controller {
 
 using platform::PreferenceRecord;
 using platform::PreferenceValue;
+using progress::CurrentGame;
+
+namespace {
+
+constexpr int kLastLevel = 11;
+constexpr int kLastStage = 10;
+
+// Pars in lines, the start line included.
+constexpr int kEasiestPar = 3;
+constexpr int kHardestPar = 12;
+
+bool isOnePlaceOfTheGame(int level, int stage)
+{
+    return level >= 1 && level <= kLastLevel && stage >= 1 && stage <= kLastStage;
+}
+
+} // namespace
 
 GameFlow::GameFlow(GameController& controller)
     : m_controller(controller)
@@ -22,22 +41,52 @@ std::string GameFlow::playerName() const
 
 void GameFlow::newClassicGame()
 {
-    startClassicGame();
+    // The menu can ask while a question or message is still open.
+    m_controller.messages().dismiss();
+    m_controller.dialogues().dismiss();
+    repairPosition();
+    if (m_game.currentGame.level() == 1 && m_game.currentGame.stage() == 1) {
+        startClassicGame();
+    } else {
+        m_game.view.hover().turnOffTitlePageButtons();
+        m_controller.dialogues().showDialogue(
+            "ContinueGame", "StartNewGame", Dialogues::Question::ClassicGame);
+    }
 }
 
 void GameFlow::newEndlessGame()
 {
-    if (m_game.preferences.boolForKey(progress::kEndlessGameUnlockedKey)) {
-        m_game.currentGame.newPlayer(playerName(), progress::CurrentGame::Mode::Endless);
+    m_controller.messages().dismiss();
+    m_controller.dialogues().dismiss();
+    if (!m_game.preferences.boolForKey(progress::kEndlessGameUnlockedKey)) {
+        m_game.view.hover().turnOffTitlePageButtons();
+        m_controller.pages().show("endlessGameLockedMessage");
+        return;
+    }
+    m_game.currentGame.newPlayer(playerName(), CurrentGame::Mode::Endless);
+    if (m_game.currentGame.endlessScore() != 0) {
+        m_game.view.hover().turnOffTitlePageButtons();
+        m_controller.dialogues().showDialogue(
+            "ContinueGame", "StartNewGame", Dialogues::Question::EndlessGame);
+    } else {
         startEndlessGame();
     }
 }
 
+void GameFlow::newGame()
+{
+    loadClassicPuzzle();
+    m_controller.pages().showMessageForNewGame(Pages::Arrival::Solving);
+}
+
 void GameFlow::startClassicGame()
 {
-    m_game.currentGame.newPlayer(playerName());
-    layOutPuzzle();
-    startMusic();
+    loadClassicPuzzle();
+    if (m_game.currentGame.level() == 1 && m_game.currentGame.stage() == 1) {
+        m_controller.pages().show("howToPlayMessageWindow");
+    } else {
+        m_controller.pages().showMessageForNewGame(Pages::Arrival::Resuming);
+    }
 }
 
 void GameFlow::startEndlessGame()
@@ -46,8 +95,36 @@ void GameFlow::startEndlessGame()
     startMusic();
 }
 
+void GameFlow::loadClassicPuzzle()
+{
+    repairPosition();
+    m_game.currentGame.newPlayer(playerName());
+    layOutPuzzle();
+    startMusic();
+}
+
+// No puzzle can be built for a place outside the game, so the record is looked at first. A new
+// player's record has none at all.
+void GameFlow::repairPosition()
+{
+    m_game.currentGame.loadPlayer(playerName(), CurrentGame::Mode::Classic);
+    const int level = m_game.currentGame.level();
+    const int stage = m_game.currentGame.stage();
+    if (isOnePlaceOfTheGame(level, stage)) {
+        return;
+    }
+    m_game.log.write("The saved place " + std::to_string(level) + '-' + std::to_string(stage)
+        + " is not in the game; starting from 1-1");
+    const bool nothingSaved = level == 0 && stage == 0;
+    setStageAndLevelAndScore(1, 1, nothingSaved ? 0 : m_game.currentGame.score());
+    m_game.currentGame.loadPlayer(playerName(), CurrentGame::Mode::Classic);
+}
+
 void GameFlow::layOutPuzzle()
 {
+    // Whatever was open goes with the board it lay on.
+    m_controller.messages().dismiss();
+    m_controller.dialogues().dismiss();
     m_controller.hints().resetHintMode();
     m_proof = m_game.currentGame.proof();
     m_game.board.newGame(m_proof->root().theorem(), m_proof->goal().theorem());
@@ -62,48 +139,134 @@ void GameFlow::startMusic()
 
 void GameFlow::puzzleFinished()
 {
-    nextLevel();
+    const CurrentGame& game = m_game.currentGame;
+    if (!game.endlessGame() && game.level() == kLastLevel && game.stage() == kLastStage) {
+        finishClassicGame();
+    } else {
+        nextLevel();
+    }
 }
 
 void GameFlow::nextLevel()
 {
-    if (m_game.currentGame.endlessGame()) {
-        m_game.currentGame.generateEndlessProofForPar(m_game.currentGame.endlessPar());
+    CurrentGame& game = m_game.currentGame;
+    if (game.endlessGame()) {
+        game.generateEndlessProofForPar(game.endlessPar());
         layOutPuzzle();
         saveEndlessScore();
     } else {
-        m_game.currentGame.nextLevel();
+        game.nextLevel();
         layOutPuzzle();
-        saveClassicPosition();
+        setStageAndLevelAndScore(game.stage(), game.level(), game.score());
+        m_controller.pages().showMessageForNewGame(Pages::Arrival::Solving);
     }
 }
 
-void GameFlow::saveClassicPosition()
+// The last puzzle is over and none follows. Its points are saved as after every puzzle.
+void GameFlow::finishClassicGame()
 {
-    const progress::CurrentGame& game = m_game.currentGame;
-    updatePlayerRecord(m_game.preferences, playerName(), [&game](PreferenceRecord& record) {
-        record[std::string(progress::kStageKey)] = PreferenceValue(std::int64_t { game.stage() });
-        record[std::string(progress::kLevelKey)] = PreferenceValue(std::int64_t { game.level() });
-        record[std::string(progress::kScoreKey)] = PreferenceValue(std::int64_t { game.score() });
-    });
-}
-
-void GameFlow::saveEndlessScore()
-{
-    const std::int64_t score = m_game.currentGame.endlessScore();
-    updatePlayerRecord(m_game.preferences, playerName(), [score](PreferenceRecord& record) {
-        record[std::string(progress::kEndlessScoreKey)] = PreferenceValue(score);
-    });
+    const CurrentGame& game = m_game.currentGame;
+    m_controller.hints().resetHintMode();
+    m_proof.reset();
+    setStageAndLevelAndScore(game.stage(), game.level(), game.score());
+    m_game.board.panel.drawCounters();
+    m_controller.pages().show("classicGameFinished");
 }
 
 void GameFlow::returnToMenu()
 {
+    m_controller.messages().dismiss();
     m_controller.hints().resetHintMode();
     m_game.sounds.stopLoop();
     m_proof.reset();
     m_game.board.gameData.gameObjects().removeAllEntries();
     m_game.effects.play("GlockE2");
     m_controller.titlePage().createTitleAndStartButtons();
+}
+
+void GameFlow::easierButtonClick()
+{
+    cleanUpProofForPar(m_game.currentGame.par() - 1);
+}
+
+void GameFlow::harderButtonClick()
+{
+    cleanUpProofForPar(m_game.currentGame.par() + 1);
+}
+
+void GameFlow::cleanUpProofForPar(int par)
+{
+    constexpr double kBlock = 3.0;
+    constexpr double kBoardEmpties = 0.01;
+    constexpr double kNextPuzzle = 2.5;
+    m_controller.hints().clearHint();
+    m_controller.hints().resetHintMode();
+    m_game.effects.play("Marble");
+    const int newPar = std::clamp(par, kEasiestPar, kHardestPar);
+    m_game.view.block().startBlockClick(kBlock);
+    performWithThisProof(kBoardEmpties, [this] { m_controller.lines().removeAllDeleteButtons(); });
+    performWithThisProof(kBoardEmpties, [this] { m_controller.lines().clearProof(); });
+    performWithThisProof(kBoardEmpties,
+        [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
+    setInRecord(progress::kEndlessParKey, newPar);
+    m_game.currentGame.setEndlessPar(newPar);
+    performWithThisProof(kNextPuzzle, [this] { nextLevel(); });
+}
+
+void GameFlow::regenerateBoard()
+{
+    if (!m_proof) {
+        return;
+    }
+    for (unsigned row = 0; row < m_proof->lines().size(); ++row) {
+        const std::string& line = m_proof->lines()[row].theorem();
+        for (unsigned column = 0; column < line.size(); ++column) {
+            m_game.board.gameData.gameObjects().removeGameObjectForKey(
+                board::generateKeyChipKey(column, row));
+        }
+    }
+    for (unsigned row = 0; row < m_proof->lines().size(); ++row) {
+        m_game.board.lines.createChipsForTheorem(m_proof->lines()[row].theorem(), row);
+    }
+}
+
+void GameFlow::performWithThisProof(double delay, std::function<void()> call)
+{
+    m_game.runLoop.performAfterDelay(
+        delay, [this, call = std::move(call), proof = std::weak_ptr(m_proof)] {
+            if (m_proof && m_proof == proof.lock()) {
+                call();
+            }
+        });
+}
+
+void GameFlow::setStageAndLevelAndScore(int stage, int level, std::int64_t score, HintStatus hints)
+{
+    updatePlayerRecord(m_game.preferences, playerName(), [&](PreferenceRecord& record) {
+        record[std::string(progress::kStageKey)] = PreferenceValue(std::int64_t { stage });
+        record[std::string(progress::kLevelKey)] = PreferenceValue(std::int64_t { level });
+        record[std::string(progress::kScoreKey)] = PreferenceValue(score);
+        if (hints == HintStatus::Reset) {
+            record[std::string(progress::kFirstHintClickKey)] = PreferenceValue(false);
+        }
+    });
+}
+
+void GameFlow::resetEndlessScore()
+{
+    m_game.currentGame.setEndlessScore(0);
+    saveEndlessScore();
+}
+
+void GameFlow::saveEndlessScore()
+{
+    setInRecord(progress::kEndlessScoreKey, m_game.currentGame.endlessScore());
+}
+
+void GameFlow::setInRecord(std::string_view key, std::int64_t value)
+{
+    updatePlayerRecord(m_game.preferences, playerName(),
+        [&](PreferenceRecord& record) { record[std::string(key)] = PreferenceValue(value); });
 }
 
 } // namespace veyrand::controller

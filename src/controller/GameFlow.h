@@ -17,25 +17,45 @@ public:
     // The puzzle in play, null on the title page and after the last Classic puzzle.
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_proof; }
 
-    // The title page's entries.
+    // The title page's entries: they ask first where a saved game could be lost.
     void newClassicGame();
     void newEndlessGame();
+    // The Classic game at once, greeted as after a solved puzzle.
+    void newGame();
 
     void startClassicGame();
     void startEndlessGame();
-    // What follows a solved puzzle: the next one.
+    // What follows a solved puzzle: the next one, or the end of the Classic game.
     void puzzleFinished();
     void nextLevel();
     void returnToMenu();
 
+    // A new Endless puzzle, one move shorter or longer.
+    void easierButtonClick();
+    void harderButtonClick();
+
     // Puts the current game's puzzle on the board, without greeting or music.
     void layOutPuzzle();
+    // Draws every chip of every line anew.
+    void regenerateBoard();
+
+    // Runs the call later, unless another proof is in play by then.
+    void performWithThisProof(double delay, std::function<void()> call);
+
+    enum class HintStatus { Keep, Reset };
+    void setStageAndLevelAndScore(
+        int stage, int level, std::int64_t score, HintStatus hints = HintStatus::Keep);
+    void resetEndlessScore();
+    [[nodiscard]] std::string playerName() const;
 
 private:
+    void loadClassicPuzzle();
+    void repairPosition();
+    void finishClassicGame();
+    void cleanUpProofForPar(int par);
     void startMusic();
-    void saveClassicPosition();
     void saveEndlessScore();
-    [[nodiscard]] std::string playerName() const;
+    void setInRecord(std::string_view key, std::int64_t value);
 
     GameController& m_controller;
     GameContext& m_game;

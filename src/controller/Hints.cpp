@@ -1,12 +1,146 @@
 #include "controller/Hints.h"
 
+#include "controller/GameController.h"
+#include "controller/PlayerRecord.h"
+#include "progress/PlayerKeys.h"
+
 namespace veyrand::controller {
 
 namespace {
 
+constexpr int kPrice = 50;
 constexpr unsigned kMostHintChips = 12;
+constexpr double kPiecesFly = 0.75; // seconds until the pieces have become a line
+constexpr double kWalkBackStep = 0.5; // seconds a bad line
 
 } // namespace
+
+Hints::Hints(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+{
+}
+
+void Hints::lightBulbClick()
+{
+    const progress::CurrentGame& game = m_game.currentGame;
+    if ((game.endlessGame() ? game.endlessScore() : game.score()) < kPrice) {
+        m_controller.pages().show("stopHintClick");
+        return;
+    }
+    m_game.currentGame.addToScore(-kPrice);
+    hintClick();
+    m_game.board.panel.drawCounters();
+}
+
+void Hints::hintClick()
+{
+    const auto& proof = m_controller.proof();
+    if (!proof || proof->lines().empty()) {
+        m_controller.pages().show("classicGameFinished");
+        return;
+    }
+    if (isFirstHintOfPlayer()) {
+        // It only explains, and gives the price back.
+        m_controller.pages().show("firstHintClickMessageWindow");
+        m_game.currentGame.addToScore(kPrice);
+        return;
+    }
+    if (!m_hintHelper) {
+        m_hintHelper.emplace(proof);
+    }
+    if (proof->lines().size() == 1 && m_hintMode == 0) {
+        m_hintMode = 1; // the start line is always good
+    }
+    const bool hasNext = m_hintHelper->nextTheorem().has_value();
+    if (m_hintMode == 0) {
+        markLastLine(hasNext);
+    } else if (hasNext && m_hintMode == 1) {
+        showPieces(*m_hintHelper);
+    } else if (hasNext) {
+        placePieces(*m_hintHelper);
+    }
+}
+
+bool Hints::isFirstHintOfPlayer()
+{
+    const std::string player = m_controller.flow().playerName();
+    const auto record = m_game.preferences.record(progress::playerRecordKey(player))
+                            .value_or(platform::PreferenceRecord {});
+    if (platform::boolForKey(record, progress::kFirstHintClickKey)) {
+        return false;
+    }
+    updatePlayerRecord(m_game.preferences, player, [](platform::PreferenceRecord& changed) {
+        changed[std::string(progress::kFirstHintClickKey)] = true;
+    });
+    return true;
+}
+
+void Hints::markLastLine(bool isGood)
+{
+    if (isGood) {
+        m_game.effects.play("GlockE2");
+        m_hintMode = 1;
+        m_game.board.hints.drawProofGoodSoFar();
+    } else {
+        findLastGood();
+    }
+}
+
+void Hints::showPieces(const engine::HintHelper& helper)
+{
+    m_game.effects.play("Chimes");
+    m_game.board.hints.clearProofGoodSoFar();
+    m_game.board.hints.drawHintMatrix(helper.nextTheoremAsMatrix().value());
+    m_hintMode = 2;
+}
+
+void Hints::placePieces(const engine::HintHelper& helper)
+{
+    m_game.effects.play("Chimes");
+    const engine::Theorem next = helper.nextTheorem().value();
+    m_game.board.hints.drawHint(
+        next.theorem(), helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
+    m_hintMode = 1;
+    // Asked for before the block's own call, so that the line stands when the block ends.
+    m_controller.flow().performWithThisProof(kPiecesFly, [this, next] { completeHint(next); });
+    m_game.view.block().blockAtLeast(kPiecesFly);
+}
+
+void Hints::completeHint(const engine::Theorem& line)
+{
+    const unsigned row = m_controller.lineCount();
+    m_game.board.lines.createChipsForTheorem(line.theorem(), row);
+    if (line.theorem() != m_controller.proof()->goal().theorem()) {
+        m_game.board.lines.createDeleteButton(row);
+    }
+    m_controller.proof()->appendLine(line);
+    clearHint();
+    m_hintHelper.reset();
+    m_controller.lines().checkProofComplete();
+}
+
+void Hints::findLastGood()
+{
+    m_hintHelper.reset();
+    const engine::HintHelper helper(m_controller.proof());
+    const unsigned count = m_controller.lineCount();
+    if (helper.nextTheorem() || count < 2) {
+        lastGoodFound();
+        return;
+    }
+    m_controller.flow().performWithThisProof(kWalkBackStep, [this] { findLastGood(); });
+    m_game.view.block().blockAtLeast(kWalkBackStep);
+    m_game.effects.play("Triangle");
+    m_controller.lines().clearProof(count - 1, 1, ProofLines::DeleteButtons::Remove);
+}
+
+void Hints::lastGoodFound()
+{
+    m_game.effects.play("GlockE2");
+    m_hintMode = 1;
+    m_game.board.hints.drawProofGoodSoFar();
+}
 
 void Hints::resetHintMode()
 {
@@ -15,6 +149,7 @@ void Hints::resetHintMode()
     }
     m_hintMode = 0;
     m_game.board.hints.clearProofGoodSoFar();
+    m_hintHelper.reset();
 }
 
 void Hints::clearHint()

@@ -35,6 +35,10 @@ Moves::Moves(GameController& controller)
 
 void Moves::mouseClick(unsigned row, unsigned column)
 {
+    Tutorial& tutorial = m_controller.tutorial();
+    if (tutorial.running() && !tutorial.checkTutorialClick(row, column)) {
+        return;
+    }
     const bool playable = canPlay() && rowToDrag() == row;
     if (playable
         && apply(decideClick(
@@ -47,6 +51,10 @@ void Moves::mouseClick(unsigned row, unsigned column)
 
 bool Moves::mouseDrag(unsigned fromRow, unsigned fromColumn, unsigned toRow, unsigned toColumn)
 {
+    Tutorial& tutorial = m_controller.tutorial();
+    if (tutorial.running() && !tutorial.checkTutorialDrag(fromRow, fromColumn, toRow, toColumn)) {
+        return false;
+    }
     // The row itself is not tested: drags only start on the row that areasToTrack accepts.
     const bool playable = canPlay() && fromRow == toRow;
     const bool moved = playable

@@ -30,23 +30,14 @@ bool ProofLines::checkProofComplete()
     }
     m_game.view.block().startBlockClick(kCelebrationBlock);
     m_game.effects.play("CymbalRoll");
-    performWithThisProof(kDeleteButtonsGo, [this] { removeAllDeleteButtons(); });
-    performWithThisProof(kBoardEmpties, [this] { clearProof(); });
-    performWithThisProof(kGoalFlies,
+    GameFlow& flow = m_controller.flow();
+    flow.performWithThisProof(kDeleteButtonsGo, [this] { removeAllDeleteButtons(); });
+    flow.performWithThisProof(kBoardEmpties, [this] { clearProof(); });
+    flow.performWithThisProof(kGoalFlies,
         [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
     calculateScore();
-    performWithThisProof(kNextPuzzle, [this] { m_controller.flow().puzzleFinished(); });
+    flow.performWithThisProof(kNextPuzzle, [&flow] { flow.puzzleFinished(); });
     return true;
-}
-
-void ProofLines::performWithThisProof(double delay, std::function<void()> call)
-{
-    m_game.runLoop.performAfterDelay(
-        delay, [this, call = std::move(call), proof = std::weak_ptr(m_controller.proof())] {
-            if (m_controller.proof() && m_controller.proof() == proof.lock()) {
-                call();
-            }
-        });
 }
 
 void ProofLines::calculateScore()

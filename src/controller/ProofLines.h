@@ -29,8 +29,6 @@ public:
 private:
     void removeDeleteButtons(unsigned firstRow, unsigned count);
     void calculateScore();
-    // Runs the call later, unless another proof is in play by then.
-    void performWithThisProof(double delay, std::function<void()> call);
 
     GameController& m_controller;
     GameContext& m_game;

@@ -223,9 +223,13 @@ void GameView::reestablishTracking()
 {
     m_hover.turnOffButtons();
     m_hover.turnOffTitlePageButtons();
-    m_hover.turnOffDialogueButtons();
+    if (m_messageWindow) {
+        return; // a page has no hit areas until it is dismissed
+    }
     const board::ObjectTable& table = m_gameData.gameObjects();
+    // A page's or note's pictures share the keys of a dialogue's buttons.
     if (m_target != nullptr && m_target->dialogueState() != 0 && table.contains("fullScreen-1i")) {
+        m_hover.turnOffDialogueButtons();
         m_hover.establishDialogueButtonTracking();
     } else if (table.contains("button-classicbuttonoff")) {
         m_hover.establishTitlePagButtonTracking();

@@ -43,6 +43,7 @@ public:
 
     [[nodiscard]] virtual bool isEndlessGame() const = 0;
     [[nodiscard]] virtual int dialogueState() const = 0; // 0 when no dialogue asks
+    // Whether a page takes every press. Notes and dialogues do not.
     [[nodiscard]] virtual bool hasMessageWindow() const = 0;
 };
 

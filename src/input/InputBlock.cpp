@@ -1,10 +1,18 @@
 #include "input/InputBlock.h"
 
+#include <algorithm>
+
 namespace veyrand::input {
 
 void InputBlock::startBlockClick(double seconds)
 {
     setDelay(seconds);
+    blockAndPollAfter(seconds);
+}
+
+void InputBlock::blockAtLeast(double seconds)
+{
+    m_delayUntil = std::max(m_delayUntil, m_runLoop.now() + seconds);
     blockAndPollAfter(seconds);
 }
 

@@ -27,6 +27,9 @@ public:
     void startBlockClick(double seconds);
     void increaseDelay(double seconds) { m_delayUntil += seconds; }
 
+    // Blocks for so long from now, and no shorter than whatever block was running.
+    void blockAtLeast(double seconds);
+
     // A drop is timed before the game has said whether it made a move, so that the game can
     // lengthen the time; only then is it blocked for.
     void setDelay(double seconds) { m_delayUntil = m_runLoop.now() + seconds; }

@@ -37,7 +37,7 @@ void ScenarioGame::start(const QJSValue& options)
     if (record.isObject()) {
         const auto& values = made.preferences.values;
         const auto defaults = progress::registeredDefaults().values;
-        const auto& named = values.count(progress::kPlayerNameKey) != 0 ? values : defaults;
+        const auto& named = values.contains(progress::kPlayerNameKey) ? values : defaults;
         made.preferences.records.emplace(
             progress::playerRecordKey(platform::stringForKey(named, progress::kPlayerNameKey)),
             toRecord(record));
@@ -56,6 +56,13 @@ void ScenarioGame::play(const QJSValue& puzzle)
         .stage = field(puzzle, "stage", 1).toInt(),
         .mode = field(puzzle, "endless", false).toBool() ? CurrentGame::Mode::Endless
                                                          : CurrentGame::Mode::Classic });
+}
+
+void ScenarioGame::show(const QString& page)
+{
+    if (!game().controller().pages().show(page.toStdString())) {
+        m_engine.throwError(QStringLiteral("there is no page \"%1\"").arg(page));
+    }
 }
 
 void ScenarioGame::wait(double seconds)
@@ -253,7 +260,7 @@ int ScenarioGame::dialogueState()
 
 QString ScenarioGame::page()
 {
-    return {};
+    return QString::fromStdString(game().controller().messages().page());
 }
 
 bool ScenarioGame::blocked()

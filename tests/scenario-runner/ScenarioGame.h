@@ -26,6 +26,7 @@ public:
 
     Q_INVOKABLE void start(const QJSValue& options = {});
     Q_INVOKABLE void play(const QJSValue& puzzle);
+    Q_INVOKABLE void show(const QString& page);
     Q_INVOKABLE void wait(double seconds);
 
     Q_INVOKABLE void move(const QJSValue& target);

@@ -1,0 +1,72 @@
+#include "controller/Dialogues.h"
+
+#include "controller/GameController.h"
+#include "present/InfoLayer.h"
+
+#include <array>
+
+namespace veyrand::controller {
+
+Dialogues::Dialogues(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+{
+}
+
+void Dialogues::showDialogue(
+    const std::string& firstButton, const std::string& secondButton, Question question)
+{
+    constexpr double kX = 0.8;
+    constexpr double kWidth = 0.423;
+    constexpr double kHeight = 0.118;
+    struct Button {
+        const std::string& name;
+        double y;
+    };
+    m_question = question;
+    auto window = std::make_unique<present::InfoLayer>(m_game.board.gameData,
+        present::InfoLayer::Style {
+            .background = { .imageName = "MessageBackground", .width = 0.7, .height = 0.5 },
+            .verticalOffset = 0.0F });
+    const std::array buttons { Button { firstButton, 0.6 }, Button { secondButton, 0.4 } };
+    for (const Button& button : buttons) {
+        window->fadeInImage(button.name + "Uncoloured", kX, button.y, kWidth, kHeight, 0.0, 1.0);
+    }
+    // The coloured faces lie on top, unseen until the pointer lights them, and are what is hit.
+    for (const Button& button : buttons) {
+        window->fadeInImage(button.name, kX, button.y, kWidth, kHeight, 0.0, 0.0);
+    }
+    m_controller.messages().showDialogue(std::move(window));
+    m_game.view.hover().establishDialogueButtonTracking();
+    m_game.view.hover().turnOnAllHovers();
+}
+
+void Dialogues::dialogueButtonClick(int index)
+{
+    m_controller.messages().dismiss();
+    answer(m_question, index == 0);
+    m_question = Question::None;
+}
+
+void Dialogues::answer(Question question, bool startAnew)
+{
+    GameFlow& flow = m_controller.flow();
+    switch (question) {
+    case Question::ClassicGame:
+        if (startAnew) {
+            flow.setStageAndLevelAndScore(1, 1, 0, GameFlow::HintStatus::Reset);
+        }
+        return flow.startClassicGame();
+    case Question::ReturnToMenu:
+        return startAnew ? flow.returnToMenu() : m_controller.messageWindowClick();
+    case Question::EndlessGame:
+        if (startAnew) {
+            flow.resetEndlessScore();
+        }
+        return flow.startEndlessGame();
+    case Question::None:
+        return;
+    }
+}
+
+} // namespace veyrand::controller
