@@ -10,7 +10,7 @@ GameObjectPtr ObjectTable::objectForKey(std::string_view key) const
 
 bool ObjectTable::contains(std::string_view key) const
 {
-    return m_objects.count(key) != 0;
+    return m_objects.contains(key);
 }
 
 std::vector<std::string> ObjectTable::keys() const

@@ -158,9 +158,10 @@ Layer* Layer::hitTest(PointF point)
     if (m_masksToBounds && !contained) {
         return nullptr;
     }
-    const std::vector<Layer*> layers = sublayersBackToFront();
-    for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer) {
-        if (Layer* const hit = (*layer)->hitTest(inside)) {
+    std::vector<Layer*> layers = sublayersBackToFront();
+    std::reverse(layers.begin(), layers.end());
+    for (Layer* const layer : layers) {
+        if (Layer* const hit = layer->hitTest(inside)) {
             return hit;
         }
     }
