@@ -37,18 +37,16 @@ std::vector<std::size_t> indicesOfLines(
 Analysis::Analysis(std::shared_ptr<const Tree> tree, SharedRules rules)
     : m_tree(std::move(tree))
     , m_rules(std::move(rules))
+    , m_packedMoves(m_rules ? PackedMoves::derive(*m_rules) : std::nullopt)
+    , m_search(std::make_shared<SolutionSearch>(m_rules))
 {
 }
 
 std::optional<Path> Analysis::findSolutionPathFromTheorem(
     const Theorem& from, const Theorem& to, unsigned pathLimit) const
 {
-    Tree tree(from, m_rules, 0, 0);
-    if (tree.makeTreeOfDepth(kSolutionLimits, &to) == kGoalNotFound || tree.count() == 0) {
-        return std::nullopt;
-    }
-    Path path = Tree::pathForNode(tree.node(tree.count() - 1));
-    if (path.size() > pathLimit) {
+    std::optional<Path> path = m_search->path(from, to);
+    if (path && path->size() > pathLimit) {
         return std::nullopt;
     }
     return path;
@@ -57,23 +55,35 @@ std::optional<Path> Analysis::findSolutionPathFromTheorem(
 int Analysis::findTreeCountFromTheorem(
     const Theorem& from, const Theorem& to, unsigned /*pathLimit*/) const
 {
-    Tree tree(from, m_rules, 0, 0);
-    return static_cast<int>(tree.makeTreeOfDepth(kSolutionLimits, &to));
+    return static_cast<int>(m_search->result(from, to));
 }
 
 int Analysis::ruleIndexFromTheorem(const Theorem& from, const Theorem& to) const
 {
     int found = kNoRule;
     for (std::size_t rule = 0; rule < m_rules->size(); ++rule) {
-        const unsigned matches = from.numberOfMatchesWithRule((*m_rules)[rule]);
-        for (unsigned match = 0; match < matches; ++match) {
-            if (from.applyRule((*m_rules)[rule], match) == to) {
-                found = static_cast<int>(rule);
-                break;
-            }
+        if (leadsTo(rule, from, to)) {
+            found = static_cast<int>(rule);
         }
     }
     return found;
+}
+
+bool Analysis::leadsTo(std::size_t rule, const Theorem& from, const Theorem& to) const
+{
+    const std::optional<PackedLine> packedFrom = PackedLine::pack(from.theorem());
+    const std::optional<PackedLine> packedTo = PackedLine::pack(to.theorem());
+    if (m_packedMoves && packedFrom && packedTo) {
+        return !m_packedMoves->forEachChildByRule(rule, *packedFrom, PackedLine::kMostChips,
+            [&](PackedLine child) { return child != *packedTo; });
+    }
+    const unsigned matches = from.numberOfMatchesWithRule((*m_rules)[rule]);
+    for (unsigned match = 0; match < matches; ++match) {
+        if (from.applyRule((*m_rules)[rule], match) == to) {
+            return true;
+        }
+    }
+    return false;
 }
 
 std::optional<std::string> Analysis::ruleSequenceForPath(const Path& path) const

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "engine/PackedMoves.h"
 #include "engine/Rule.h"
+#include "engine/SolutionSearch.h"
 #include "engine/Theorem.h"
 #include "engine/Tree.h"
 
@@ -16,9 +18,6 @@ class Log;
 }
 
 namespace veyrand::engine {
-
-// The limits of every search for a solution.
-inline constexpr TreeLimits kSolutionLimits { 15000, 12, 13 };
 
 // Elements a solution may have when the caller sets no limit of its own.
 inline constexpr unsigned kSolutionPathLimit = 100;
@@ -83,8 +82,12 @@ public:
         unsigned n, platform::Log& log) const;
 
 private:
+    [[nodiscard]] bool leadsTo(std::size_t rule, const Theorem& from, const Theorem& to) const;
+
     std::shared_ptr<const Tree> m_tree;
     SharedRules m_rules;
+    std::optional<PackedMoves> m_packedMoves; // where the rules have a fast form
+    std::shared_ptr<SolutionSearch> m_search; // copies of an analysis share what it remembers
 };
 
 // The removal behind uniqueNodesOfPathLength: the k-th noted entry (from 0) is removed at its index

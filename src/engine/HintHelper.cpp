@@ -14,8 +14,7 @@ std::optional<Path> solutionFromRow(const Proof& proof, std::size_t row)
     if (row >= kMostLines) {
         return std::nullopt;
     }
-    const Analysis analysis(nullptr, proof.sharedRules());
-    return analysis.findSolutionPathFromTheorem(
+    return proof.analysis().findSolutionPathFromTheorem(
         proof.lines().at(row), proof.goal(), kMostLines - static_cast<unsigned>(row));
 }
 

@@ -1,24 +1,58 @@
 #include "engine/Tree.h"
 
+#include "engine/PackedLineSet.h"
+#include "engine/PackedMoves.h"
+#include "engine/PlainMoves.h"
+
 #include <algorithm>
-#include <stdexcept>
-#include <string>
-#include <unordered_set>
 
 namespace veyrand::engine {
 
 namespace {
 
-// How often the length of a path is looked at: it costs a walk up the tree.
-constexpr std::size_t kNodesBetweenPathChecks = 100;
+// What a packed search works in. One after another uses it, so that a hint's many searches ask for
+// little memory and always get the same.
+struct PackedWorkspace {
+    PackedLineSet seen;
+    Derivation<PackedLine> kept;
+};
 
-std::size_t pathLength(const TreeNode& node)
+// A search far beyond the game's own limits is a designer's; its memory is not kept.
+constexpr unsigned kMostChildrenKeptInMind = 100000;
+
+Derivation<PackedLine> derivePacked(const PackedMoves& moves, PackedLine root,
+    const TreeLimits& limits, const std::optional<PackedLine>& goal)
 {
-    std::size_t length = 0;
-    for (const TreeNode* n = &node; n != nullptr; n = n->parent()) {
-        ++length;
+    thread_local PackedWorkspace workspace;
+    derive(moves, root, limits, goal ? &*goal : nullptr, workspace.seen, workspace.kept);
+    Derivation<PackedLine> derivation = workspace.kept;
+    if (limits.children > kMostChildrenKeptInMind) {
+        workspace = PackedWorkspace();
     }
-    return length;
+    return derivation;
+}
+
+Theorem theoremOf(PackedLine line)
+{
+    return Theorem(line.text());
+}
+
+const Theorem& theoremOf(const Theorem& line)
+{
+    return line;
+}
+
+template <class Line>
+std::optional<std::size_t> indexOfDerivedIn(const Derivation<Line>& derivation, const Line& line)
+{
+    const auto begin = derivation.lines.begin();
+    const auto found = begin == derivation.lines.end()
+        ? begin
+        : std::find(begin + 1, derivation.lines.end(), line);
+    if (found == derivation.lines.end()) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(found - begin);
 }
 
 } // namespace
@@ -30,12 +64,78 @@ Tree::Tree(Theorem root, SharedRules rules, unsigned childLimit, unsigned theore
     makeTreeOfDepth(childLimit, theoremLengthLimit);
 }
 
+unsigned Tree::makeTreeOfDepth(const TreeLimits& limits, const Theorem* goal)
+{
+    if (!m_root.hasText() || m_rules == nullptr || limits.children == 0
+        || limits.theoremLength == 0) {
+        return 0;
+    }
+    m_nodes = nullptr;
+    const std::optional<PackedMoves> moves = PackedMoves::derive(*m_rules);
+    const std::optional<PackedLine> root = PackedLine::pack(m_root.theorem());
+    if (moves && root && limits.theoremLength <= PackedLine::kMostChips) {
+        // A goal that cannot be packed cannot be derived either.
+        m_derivation = derivePacked(*moves, *root, limits,
+            goal != nullptr && goal->hasText() ? PackedLine::pack(goal->theorem()) : std::nullopt);
+    } else {
+        PlainLineSet seen;
+        PlainDerivation derivation;
+        derive(PlainMoves(m_rules), m_root, limits, goal, seen, derivation);
+        m_derivation = std::move(derivation);
+    }
+    return std::visit([](const auto& derivation) { return derivation.result; }, m_derivation);
+}
+
+bool Tree::makeTreeOfDepth(unsigned childLimit, unsigned theoremLengthLimit, const Theorem& goal)
+{
+    return makeTreeOfDepth(TreeLimits { childLimit, theoremLengthLimit }, &goal) != kGoalNotFound;
+}
+
+void Tree::makeTreeOfDepth(unsigned childLimit, unsigned theoremLengthLimit)
+{
+    makeTreeOfDepth(TreeLimits { childLimit, theoremLengthLimit }, nullptr);
+}
+
+const std::vector<std::uint32_t>& Tree::parents() const
+{
+    return std::visit(
+        [](const auto& derivation) -> const std::vector<std::uint32_t>& {
+            return derivation.parents;
+        },
+        m_derivation);
+}
+
+std::size_t Tree::count() const
+{
+    return parents().size();
+}
+
+unsigned Tree::examined() const
+{
+    return std::visit([](const auto& derivation) { return derivation.examined; }, m_derivation);
+}
+
+Theorem Tree::lineAt(std::size_t index) const
+{
+    return std::visit(
+        [&](const auto& derivation) { return Theorem(theoremOf(derivation.lines.at(index))); },
+        m_derivation);
+}
+
+std::size_t Tree::parentOf(std::size_t index) const
+{
+    return parents().at(index);
+}
+
 NodePtr Tree::node(std::size_t index) const
 {
-    if (index >= count()) {
-        throw std::out_of_range("no such node in the tree");
+    if (m_nodes == nullptr) {
+        m_nodes = std::make_shared<Arena>();
+        for (std::size_t i = 0; i < count(); ++i) {
+            m_nodes->emplace_back(i == 0 ? nullptr : &(*m_nodes)[parentOf(i)], lineAt(i), m_rules);
+        }
     }
-    return { m_nodes, &(*m_nodes)[index] };
+    return { m_nodes, &m_nodes->at(index) };
 }
 
 Nodes Tree::nodes() const
@@ -48,53 +148,30 @@ Nodes Tree::nodes() const
     return nodes;
 }
 
-unsigned Tree::makeTreeOfDepth(const TreeLimits& limits, const Theorem* goal)
+std::optional<std::size_t> Tree::indexOfDerived(const Theorem& line) const
 {
-    if (!m_root.hasText() || m_rules == nullptr || limits.children == 0
-        || limits.theoremLength == 0) {
-        return 0;
+    if (const auto* plain = std::get_if<PlainDerivation>(&m_derivation)) {
+        return indexOfDerivedIn(*plain, line);
     }
-    m_nodes = std::make_shared<Arena>();
-    m_examined = 0;
-    Arena& nodes = *m_nodes;
-    nodes.emplace_back(nullptr, m_root, m_rules);
-
-    // The root's own line is not counted as seen: it is kept once more when it is derived again, so
-    // that a goal equal to the root can be found.
-    std::unordered_set<std::string> seen;
-    for (std::size_t i = 0; i < nodes.size() && m_examined < limits.children; ++i) {
-        nodes[i].makeChildren();
-        // The children are taken out of the node, so that memory holds the kept ones only.
-        std::vector<TreeNode> children = nodes[i].takeChildren();
-        for (TreeNode& child : children) {
-            if (m_examined >= limits.children) {
-                return kGoalNotFound;
-            }
-            const std::string& line = child.theorem().theorem();
-            if (line.size() <= limits.theoremLength && seen.insert(line).second) {
-                nodes.push_back(std::move(child));
-                if (goal != nullptr && nodes.back().theorem() == *goal) {
-                    return static_cast<unsigned>(i); // found before it is counted
-                }
-            }
-            ++m_examined;
-        }
-        if (!children.empty() && i % kNodesBetweenPathChecks == 0
-            && pathLength(nodes[i]) > limits.path) {
-            break;
-        }
-    }
-    return kGoalNotFound;
+    const std::optional<PackedLine> packed
+        = line.hasText() ? PackedLine::pack(line.theorem()) : std::nullopt;
+    return packed ? indexOfDerivedIn(std::get<PackedDerivation>(m_derivation), *packed)
+                  : std::nullopt;
 }
 
-bool Tree::makeTreeOfDepth(unsigned childLimit, unsigned theoremLengthLimit, const Theorem& goal)
+Path Tree::pathTo(std::size_t index) const
 {
-    return makeTreeOfDepth(TreeLimits { childLimit, theoremLengthLimit }, &goal) != kGoalNotFound;
-}
-
-void Tree::makeTreeOfDepth(unsigned childLimit, unsigned theoremLengthLimit)
-{
-    makeTreeOfDepth(TreeLimits { childLimit, theoremLengthLimit }, nullptr);
+    std::vector<std::size_t> indices { index };
+    while (indices.back() != 0) {
+        indices.push_back(parentOf(indices.back()));
+    }
+    const auto nodes = std::make_shared<Arena>();
+    Path path;
+    for (auto i = indices.rbegin(); i != indices.rend(); ++i) {
+        const TreeNode* parent = nodes->empty() ? nullptr : &nodes->back();
+        path.emplace_back(nodes, &nodes->emplace_back(parent, lineAt(*i), m_rules));
+    }
+    return path;
 }
 
 Path Tree::pathForNode(const NodePtr& node)

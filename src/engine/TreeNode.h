@@ -26,9 +26,6 @@ public:
     // the same line make two children.
     void makeChildren();
 
-    // Gives the children away, leaving the node as it was before makeChildren.
-    [[nodiscard]] std::vector<TreeNode> takeChildren() { return std::move(m_children); }
-
 private:
     const TreeNode* m_parent;
     Theorem m_theorem;
