@@ -1,5 +1,6 @@
 #include "app/Application.h"
 #include "app/Demo.h"
+#include "app/Gallery.h"
 #include "platform/qt/DataFolder.h"
 
 #include <QApplication>
@@ -13,7 +14,15 @@ namespace {
 // Status for a command line that cannot be followed.
 constexpr int kBadArguments = 2;
 
-int run(const std::optional<std::string>& demoFolder)
+// Where to leave pictures, if that is all that is wanted.
+struct Pictures {
+    std::optional<std::string> demoFolder;
+    std::optional<std::string> galleryFolder;
+
+    [[nodiscard]] bool wanted() const { return demoFolder || galleryFolder; }
+};
+
+int run(const Pictures& pictures)
 {
     const QString dataFolder = veyrand::platform::qt::findDataFolder();
     if (dataFolder.isEmpty()) {
@@ -22,8 +31,13 @@ int run(const std::optional<std::string>& demoFolder)
                             << " and VEYRAND_DATA names no folder" << Qt::endl;
         return 1;
     }
-    if (demoFolder) {
-        return veyrand::app::playDemonstration(dataFolder, QString::fromStdString(*demoFolder));
+    if (pictures.demoFolder) {
+        return veyrand::app::playDemonstration(
+            dataFolder, QString::fromStdString(*pictures.demoFolder));
+    }
+    if (pictures.galleryFolder) {
+        return veyrand::app::paintGallery(
+            dataFolder, QString::fromStdString(*pictures.galleryFolder));
     }
     return veyrand::app::runGame(dataFolder);
 }
@@ -34,23 +48,29 @@ int main(int argc, char* argv[])
 {
     CLI::App options("Veyrand, a puzzle game of rewrite moves", "veyrand");
     options.set_version_flag("--version", "veyrand " VEYRAND_VERSION);
-    std::optional<std::string> demoFolder;
+    Pictures pictures;
+    CLI::Option* const demo
+        = options
+              .add_option("--demo", pictures.demoFolder,
+                  "Play by itself, off the screen, and leave pictures in the folder DIR")
+              ->expected(0, 1)
+              ->default_str("veyrand-demo")
+              ->type_name("DIR");
     options
-        .add_option("--demo", demoFolder,
-            "Play by itself, off the screen, and leave pictures in the folder DIR")
-        ->expected(0, 1)
-        ->default_str("veyrand-demo")
-        ->type_name("DIR");
+        .add_option("--gallery", pictures.galleryFolder,
+            "Leave a picture of every page, the title page, the dialogues and the boards in DIR")
+        ->type_name("DIR")
+        ->excludes(demo);
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return options.exit(error) == 0 ? 0 : kBadArguments;
     }
-    if (demoFolder && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    if (pictures.wanted() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
-    return run(demoFolder);
+    return run(pictures);
 }

@@ -1,0 +1,189 @@
+#include "app/Gallery.h"
+
+#include "app/VirtualGame.h"
+#include "progress/PlayerKeys.h"
+
+#include <QDir>
+#include <QTextStream>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace veyrand::app {
+
+namespace {
+
+constexpr double kEverythingHasFadedIn = 3.0;
+
+// Where in the Classic game a page is at home, and the chip that is clicked there before it opens.
+struct Scene {
+    std::string_view page;
+    int level;
+    int stage;
+    const char* click = nullptr;
+};
+
+constexpr std::array kScenes {
+    Scene { "howToPlayMessageWindow", 1, 1 },
+    Scene { "stage1MessageWindow", 1, 1 },
+    Scene { "stage1Help", 1, 1 },
+    Scene { "stage2MessageWindow", 1, 2 },
+    Scene { "stage2aHelp", 1, 2 },
+    Scene { "stage2bHelp", 1, 2, "chip-0-0" },
+    Scene { "stage2XHelp", 1, 2, "chip-0-0" },
+    Scene { "stage3MessageWindow", 1, 3 },
+    Scene { "stage3aHelp", 1, 3 },
+    Scene { "stage4MessageWindow", 1, 4 },
+    Scene { "stage4aHelp", 1, 4 },
+    Scene { "stage4bHelp", 1, 4, "chip-0-0" },
+    Scene { "stage5MessageWindow", 1, 5 },
+    Scene { "stage5aHelp", 1, 5 },
+    Scene { "stage5bHelp", 1, 5, "chip-1-0" },
+    Scene { "stage6MessageWindow", 1, 6 },
+    Scene { "stage6IntermediateMessageWindow", 1, 6 },
+    Scene { "stage6IntermediateMessageWindow2", 1, 6 },
+    Scene { "stage8MessageWindow", 1, 8 },
+    Scene { "stage8aHelp", 1, 8 },
+    Scene { "stage9MessageWindow", 1, 9 },
+    Scene { "stage10MessageWindow", 1, 10 },
+    Scene { "stage11MessageWindow", 2, 1 },
+    Scene { "stage21MessageWindow", 3, 1 },
+    Scene { "stage31MessageWindow", 4, 1 },
+    Scene { "showSuccessMessage", 4, 1 },
+    Scene { "stage41MessageWindow", 5, 1 },
+    Scene { "stage45MessageWindow", 5, 5 },
+    Scene { "classicGameFinished", 11, 10 },
+};
+constexpr Scene kUsualScene { {}, 6, 2 };
+
+struct SavedGames {
+    const char* picture;
+    int level;
+    int stage;
+    int endlessScore;
+    bool unlocked;
+};
+constexpr std::array kTitlePages {
+    SavedGames { "title-nothing-saved", 1, 1, 0, false },
+    SavedGames { "title-endless-saved", 1, 1, 120, true },
+    SavedGames { "title-classic-saved", 5, 7, 0, true },
+    SavedGames { "title-both-saved", 5, 7, 120, true },
+};
+
+class Gallery {
+public:
+    Gallery(const QString& dataFolder, QDir folder)
+        : m_game({ .dataFolder = dataFolder })
+        , m_folder(std::move(folder))
+    {
+    }
+
+    bool paint()
+    {
+        for (const SavedGames& games : kTitlePages) {
+            paintTitlePage(games);
+        }
+        controller::GameFlow& flow = m_game.controller().flow();
+        paintDialogue("dialogue-classic", [&flow] { flow.newClassicGame(); });
+        paintDialogue("dialogue-endless", [&flow] { flow.newEndlessGame(); });
+        for (const auto& [name, page] : m_game.game().script().pages) {
+            paintPage(name);
+        }
+        startClassicGame(5, 7);
+        take("board-classic");
+        flow.newEndlessGame();
+        flow.startEndlessGame();
+        m_game.wait(kEverythingHasFadedIn);
+        take("board-endless");
+        return m_complete;
+    }
+
+private:
+    void take(const std::string& name)
+    {
+        const QString file
+            = m_folder.filePath(QString::fromStdString(name) + QStringLiteral(".png"));
+        const bool written = m_game.picture().save(file);
+        m_complete = m_complete && written;
+        QTextStream(stdout) << (written ? file : file + QStringLiteral(" could not be written"))
+                            << Qt::endl;
+    }
+
+    void save(const SavedGames& games)
+    {
+        m_game.preferences().setRecord(progress::playerRecordKey(progress::kDefaultPlayerName),
+            { { std::string(progress::kLevelKey), std::int64_t { games.level } },
+                { std::string(progress::kStageKey), std::int64_t { games.stage } },
+                { std::string(progress::kScoreKey), std::int64_t { 850 } },
+                { std::string(progress::kEndlessScoreKey), std::int64_t { games.endlessScore } } });
+        m_game.preferences().setValue(progress::kEndlessGameUnlockedKey, games.unlocked);
+    }
+
+    void paintTitlePage(const SavedGames& games)
+    {
+        save(games);
+        m_game.launch();
+        m_game.controller().flow().returnToMenu();
+        m_game.wait(kEverythingHasFadedIn);
+        take(games.picture);
+    }
+
+    template <class Function> void paintDialogue(const std::string& name, Function&& ask)
+    {
+        save(kTitlePages.back());
+        m_game.controller().flow().returnToMenu();
+        ask();
+        m_game.wait(kEverythingHasFadedIn);
+        take(name);
+        m_game.controller().dialogues().dismiss();
+    }
+
+    void startClassicGame(int level, int stage)
+    {
+        save({ .picture = "",
+            .level = level,
+            .stage = stage,
+            .endlessScore = 0,
+            .unlocked = false });
+        m_game.controller().flow().startClassicGame();
+        m_game.controller().messages().dismiss();
+        m_game.wait(kEverythingHasFadedIn);
+    }
+
+    void paintPage(const std::string& name)
+    {
+        const auto* const found = std::find_if(kScenes.begin(), kScenes.end(),
+            [&name](const Scene& scene) { return scene.page == name; });
+        const Scene& scene = found != kScenes.end() ? *found : kUsualScene;
+        startClassicGame(scene.level, scene.stage);
+        if (scene.click != nullptr) {
+            if (const auto place = m_game.centreOf(scene.click)) {
+                m_game.click(*place);
+            }
+            m_game.wait(kEverythingHasFadedIn);
+            m_game.controller().messages().dismiss(); // what the click may have brought
+        }
+        m_game.preferences().setValue(progress::kEndlessGameUnlockedKey, false);
+        m_game.controller().pages().show(name);
+        m_game.wait(kEverythingHasFadedIn);
+        take(name);
+    }
+
+    VirtualGame m_game;
+    QDir m_folder;
+    bool m_complete = true;
+};
+
+} // namespace
+
+int paintGallery(const QString& dataFolder, const QString& pictureFolder)
+{
+    if (!QDir().mkpath(pictureFolder)) {
+        QTextStream(stderr) << "The folder " << pictureFolder << " cannot be made" << Qt::endl;
+        return 1;
+    }
+    return Gallery(dataFolder, QDir(pictureFolder)).paint() ? 0 : 1;
+}
+
+} // namespace veyrand::app
