@@ -31,3 +31,10 @@ function(veyrand_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
+
+# veyrand_game_test(NAME): the same, for tests that play whole games.
+function(veyrand_game_test name)
+  veyrand_test(${name} LINK veyrand_app)
+  target_compile_definitions(${name} PRIVATE VEYRAND_DATA_DIR="${VEYRAND_DATA_DIR}")
+  add_dependencies(${name} veyrand_data)
+endfunction()
