@@ -82,6 +82,8 @@ void BoardWidget::resizeEvent(QResizeEvent* event)
 {
     m_parts.resized({ .width = static_cast<double>(event->size().width()),
         .height = static_cast<double>(event->size().height()) });
+    // Every picture is needed at another size now; those of the old one would only fill memory.
+    m_parts.images.forgetSizes();
     // The window shows everything anew at the new size, at once.
     nextFrame();
     update();

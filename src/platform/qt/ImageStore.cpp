@@ -113,6 +113,13 @@ const QPixmap& ImageStore::text(const present::TextContent& text, QSize size)
     return *found;
 }
 
+void ImageStore::forgetSizes()
+{
+    m_images.clear();
+    m_glows.clear();
+    m_texts.clear();
+}
+
 QImage ImageStore::draw(const std::string& name, QSize size)
 {
     const QString base = QDir(m_folder).filePath(QString::fromStdString(name));

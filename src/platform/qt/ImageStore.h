@@ -33,6 +33,8 @@ public:
     // The picture's light, blurred by the radius, to be added over it; it reaches twice the radius
     // past every edge. Device pixels.
     const QPixmap& glow(const std::string& name, QSize size, int radius);
+    // Forgets what was drawn for sizes that are no longer asked for; the sources stay.
+    void forgetSizes();
     // One line of text as high as the size.
     const QPixmap& text(const present::TextContent& text, QSize size);
 
