@@ -220,7 +220,7 @@ TEST_F(CurrentGameTest, OpensEveryMoveInAnEndlessGameWhereverTheClassicOneStands
 TEST_F(CurrentGameTest, DrawsUntilAnEndlessPuzzleHasThePar)
 {
     store("Ada", 2, 2);
-    random.numbers = { 3, 4, kEndlessEntries + 16, 1 };
+    random.numbers = { 3, 10, 4, kEndlessEntries + 16, 1 };
     game.newPlayer("Ada", Mode::Endless);
     EXPECT_TRUE(game.endlessGame());
     EXPECT_EQ(game.par(), 7);

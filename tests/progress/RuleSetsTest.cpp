@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(ClassicGame, HighestRule,
     testing::Values(Opening { 1, 1, 1 }, Opening { 1, 2, 1 }, Opening { 1, 3, 2 },
         Opening { 1, 7, 2 }, Opening { 1, 8, 3 }, Opening { 1, 10, 3 }, Opening { 2, 1, 4 },
         Opening { 2, 10, 4 }, Opening { 3, 1, 5 }, Opening { 4, 1, 6 }, Opening { 5, 1, 7 },
-        Opening { 11, 10, 7 }),
+        Opening { 6, 1, 7 }, Opening { 11, 10, 7 }),
     [](const auto& opening) {
         return std::to_string(opening.param.level) + "_" + std::to_string(opening.param.stage);
     });
