@@ -90,7 +90,7 @@ public:
         auto starts = roots(place.level < kFirstLevelWithBlue ? "RG" : "RGB", 2, 6);
         shuffle(starts, m_random);
         for (const std::string& root : starts) {
-            if (m_used.count(root) != 0) {
+            if (m_used.contains(root)) {
                 continue;
             }
             if (const auto goal = goalFrom(root, place)) {
@@ -125,7 +125,7 @@ private:
     bool fits(const Derivations& derivations, const engine::NodePtr& node, Place place) const
     {
         const std::string& goal = node->theorem().theorem();
-        if (goal.size() < 2 || m_used.count(goal) != 0) {
+        if (goal.size() < 2 || m_used.contains(goal)) {
             return false;
         }
         const std::string sequence = derivations.ruleSequence(node);
@@ -167,7 +167,7 @@ Puzzles classicPuzzles(platform::Random& random, const Progress& progress)
             const auto given = givenPuzzles().find({ level, stage });
             puzzles.push_back(
                 given != givenPuzzles().end() ? given->second : maker.make({ level, stage }));
-            progress(puzzles.size() - 1, kLevels * kStages);
+            progress(puzzles.size() - 1, std::size_t { kLevels } * kStages);
         }
     }
     return puzzles;

@@ -77,7 +77,7 @@ private:
         std::size_t tried = 0;
         for (const engine::NodePtr& node : candidates) {
             const std::string& goal = node->theorem().theorem();
-            if (goal.size() < 2 || m_goals.count(goal) != 0) {
+            if (goal.size() < 2 || m_goals.contains(goal)) {
                 continue;
             }
             const int score = derivations.score(node);

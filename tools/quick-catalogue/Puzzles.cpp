@@ -4,7 +4,7 @@ namespace veyrand::quick_catalogue {
 
 Derivations::Derivations(const std::string& root, engine::SharedRules rules)
     : m_tree([&] {
-        const auto tree = std::make_shared<engine::Tree>(engine::Theorem(root), rules, 0U, 0U);
+        auto tree = std::make_shared<engine::Tree>(engine::Theorem(root), rules, 0U, 0U);
         tree->makeTreeOfDepth(engine::kSolutionLimits, nullptr);
         return tree;
     }())
