@@ -15,6 +15,7 @@ namespace veyrand::app {
 namespace {
 
 constexpr double kEverythingHasFadedIn = 3.0;
+constexpr double kNextPuzzleHasCome = 9.0;
 
 // Where in the Classic game a page is at home, and the chip that is clicked there before it opens.
 struct Scene {
@@ -23,6 +24,9 @@ struct Scene {
     int stage;
     const char* click = nullptr;
 };
+
+constexpr int kTitlePage = 0; // instead of a level
+constexpr int kLastLevel = 11;
 
 constexpr std::array kScenes {
     Scene { "howToPlayMessageWindow", 1, 1 },
@@ -53,7 +57,8 @@ constexpr std::array kScenes {
     Scene { "showSuccessMessage", 4, 1 },
     Scene { "stage41MessageWindow", 5, 1 },
     Scene { "stage45MessageWindow", 5, 5 },
-    Scene { "classicGameFinished", 11, 10 },
+    Scene { "classicGameFinished", kLastLevel, 10, "chip-1-0" },
+    Scene { "endlessGameLockedMessage", kTitlePage, 0 },
 };
 constexpr Scene kUsualScene { {}, 6, 2 };
 
@@ -71,6 +76,7 @@ constexpr std::array kTitlePages {
     SavedGames { "title-both-saved", 5, 7, 120, true },
 };
 
+// Goes from picture to picture in one game, by the operations that a player's clicks would reach.
 class Gallery {
 public:
     Gallery(const QString& dataFolder, QDir folder)
@@ -91,6 +97,7 @@ public:
             paintPage(name);
         }
         startClassicGame(5, 7);
+        m_game.wait(kEverythingHasFadedIn);
         take("board-classic");
         flow.newEndlessGame();
         flow.startEndlessGame();
@@ -141,13 +148,24 @@ private:
 
     void startClassicGame(int level, int stage)
     {
-        save({ .picture = "",
-            .level = level,
-            .stage = stage,
-            .endlessScore = 0,
-            .unlocked = false });
+        save(
+            { .picture = "", .level = level, .stage = stage, .endlessScore = 0, .unlocked = true });
         m_game.controller().flow().startClassicGame();
         m_game.controller().messages().dismiss();
+    }
+
+    void setTheScene(const Scene& scene)
+    {
+        if (scene.level == kTitlePage) {
+            save(kTitlePages.front());
+            m_game.controller().flow().returnToMenu();
+        } else if (scene.level == kLastLevel) {
+            // Any puzzle ends the game when it is the last one.
+            m_game.play(
+                { .root = "YR", .goal = "YRG", .par = 2, .level = kLastLevel, .stage = 10 });
+        } else {
+            startClassicGame(scene.level, scene.stage);
+        }
         m_game.wait(kEverythingHasFadedIn);
     }
 
@@ -156,12 +174,12 @@ private:
         const auto* const found = std::find_if(kScenes.begin(), kScenes.end(),
             [&name](const Scene& scene) { return scene.page == name; });
         const Scene& scene = found != kScenes.end() ? *found : kUsualScene;
-        startClassicGame(scene.level, scene.stage);
+        setTheScene(scene);
         if (scene.click != nullptr) {
             if (const auto place = m_game.centreOf(scene.click)) {
                 m_game.click(*place);
             }
-            m_game.wait(kEverythingHasFadedIn);
+            m_game.wait(kNextPuzzleHasCome);
             m_game.controller().messages().dismiss(); // what the click may have brought
         }
         m_game.preferences().setValue(progress::kEndlessGameUnlockedKey, false);
