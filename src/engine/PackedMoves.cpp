@@ -39,7 +39,7 @@ std::optional<PackedMoves> PackedMoves::derive(const Rules& rules)
 {
     PackedMoves moves;
     for (const Rule& rule : rules) {
-        const std::optional<Move> move = derive(rule);
+        const std::optional<Move> move = fastFormOf(rule);
         if (!move) {
             return std::nullopt;
         }
@@ -54,7 +54,7 @@ std::optional<PackedMoves> PackedMoves::derive(const Rules& rules)
 
 // Patterns of letters alone match themselves and nothing else, whatever the letters; the three
 // other moves are known by their very texts. A template of letters alone stands for itself.
-std::optional<PackedMoves::Move> PackedMoves::derive(const Rule& rule)
+std::optional<PackedMoves::Move> PackedMoves::fastFormOf(const Rule& rule)
 {
     Move move;
     if (rule == doubleAfterYellow()) {

@@ -85,7 +85,7 @@ private:
         return (std::uint64_t { 1 } << (PackedLine::kBitsPerChip * column)) - 1;
     }
 
-    [[nodiscard]] static std::optional<Move> derive(const Rule& rule);
+    [[nodiscard]] static std::optional<Move> fastFormOf(const Rule& rule);
 
     // The line with `removed` chips from a column on replaced by others.
     static PackedLine spliced(std::uint64_t line, unsigned column, unsigned removed,
