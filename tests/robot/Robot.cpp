@@ -1,0 +1,165 @@
+#include "robot/Robot.h"
+
+#include "controller/MoveDecision.h"
+#include "engine/HintHelper.h"
+#include "support/BoardRows.h"
+
+#include <gtest/gtest.h>
+
+namespace veyrand::test {
+
+namespace {
+
+// Beside every button and chip, so that a press there only closes pages.
+constexpr platform::Point kNowhere { .x = 1.59, .y = 0.5 };
+constexpr double kPoll = 0.25;
+constexpr double kAnimationsEnd = 2.0;
+
+} // namespace
+
+bool Robot::solvePuzzle()
+{
+    const auto proof = m_game.controller().proof();
+    while (proof && proof == m_game.controller().proof()) {
+        readPages();
+        if (proof != m_game.controller().proof()) {
+            break; // the celebration is over
+        }
+        checkAtRest();
+        const auto next = engine::HintHelper(proof).nextTheorem();
+        const auto gesture = next ? gestureFor(*next) : std::nullopt;
+        const std::size_t before = proof->lines().size();
+        if (!gesture) {
+            ADD_FAILURE() << "no way from " << proof->lines().back().theorem() << " to "
+                          << proof->goal().theorem();
+            return false;
+        }
+        perform(*gesture);
+        if (proof->lines().size() != before + 1 || proof->lines().back() != *next) {
+            ADD_FAILURE() << "the move to " << next->theorem() << " was refused";
+            return false;
+        }
+        waitUntilUnblocked();
+        m_game.wait(kAnimationsEnd);
+        checkAlways();
+    }
+    return true;
+}
+
+void Robot::readPages()
+{
+    waitUntilUnblocked();
+    while (!m_game.controller().messages().page().empty()) {
+        m_pagesRead.push_back(m_game.controller().messages().page());
+        press(kNowhere);
+        release(kNowhere);
+        waitUntilUnblocked();
+    }
+    EXPECT_EQ(m_game.controller().messages().displayMessageWindowOnClick(), 0)
+        << "no page is left, but a code is";
+}
+
+void Robot::click(const std::string& key)
+{
+    const auto place = m_game.centreOf(key);
+    ASSERT_TRUE(place.has_value()) << key;
+    press(*place);
+    release(*place);
+    waitUntilUnblocked();
+}
+
+void Robot::waitUntilUnblocked()
+{
+    while (m_game.game().view().block().blockClick()) {
+        m_game.wait(kPoll);
+        checkAlways();
+    }
+}
+
+std::optional<Robot::Gesture> Robot::gestureFor(const engine::Theorem& next) const
+{
+    const engine::Proof& proof = *m_game.controller().proof();
+    const engine::Theorem& line = proof.lines().back();
+    const int highestRule = m_game.currentGame().highestRule();
+    for (unsigned column = 0; column < line.theorem().size(); ++column) {
+        const auto click = controller::decideClick(line, proof.rules(), column, highestRule);
+        if (click && makes(next, click->rule, click->match)) {
+            return Gesture { column, std::nullopt };
+        }
+        for (const unsigned target : controller::dropTargets(line, column)) {
+            const auto drag
+                = controller::decideDrag(line, proof.rules(), column, target, highestRule);
+            if (drag && makes(next, drag->rule, drag->match)) {
+                return Gesture { column, target };
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+bool Robot::makes(const engine::Theorem& next, unsigned rule, unsigned match) const
+{
+    const engine::Proof& proof = *m_game.controller().proof();
+    engine::Proof trial(proof.lines().back(), proof.goal(), proof.sharedRules());
+    return trial.applyRule(rule, match) && trial.lines().back() == next;
+}
+
+void Robot::perform(const Gesture& gesture)
+{
+    const auto row = static_cast<unsigned>(m_game.controller().proof()->lines().size() - 1);
+    const auto place = [row](unsigned column) {
+        return platform::Point { .x = board::xPositionForColumn(column),
+            .y = board::yPositionForRow(row) };
+    };
+    press(place(gesture.from));
+    release(place(gesture.to.value_or(gesture.from)));
+}
+
+void Robot::press(platform::Point place)
+{
+    m_game.press(place);
+    ++m_eventsSent;
+    checkAlways();
+}
+
+void Robot::release(platform::Point place)
+{
+    m_game.release(place);
+    ++m_eventsSent;
+    checkAlways();
+}
+
+void Robot::checkAlways()
+{
+    const board::ObjectTable& table = m_game.gameData().gameObjects();
+    for (const std::string& key : table.keys()) {
+        EXPECT_EQ(table.objectForKey(key)->keyInGameData(), key);
+        EXPECT_NE(m_game.game().layers().layerForKey(key), nullptr) << key;
+    }
+    const auto& view = m_game.game().view();
+    const bool pageOpen = !m_game.controller().messages().page().empty();
+    EXPECT_EQ(pageOpen, view.messageWindow() || view.tutorialWindow());
+    EXPECT_EQ(pageOpen, table.contains("fullScreen"));
+    if (const auto& proof = m_game.controller().proof()) {
+        EXPECT_LE(proof->lines().size(), engine::kMostLines);
+        for (const engine::Theorem& line : proof->lines()) {
+            EXPECT_LE(line.theorem().size(), 12U);
+        }
+    }
+}
+
+void Robot::checkAtRest()
+{
+    const board::ObjectTable& table = m_game.gameData().gameObjects();
+    const engine::Proof& proof = *m_game.controller().proof();
+    std::size_t chips = 0;
+    for (unsigned row = 0; row < proof.lines().size(); ++row) {
+        EXPECT_EQ(rowText(table, row), proof.lines()[row].theorem());
+        EXPECT_EQ(table.contains(board::deleteButtonKey(row)), row > 0);
+        chips += proof.lines()[row].theorem().size();
+    }
+    EXPECT_EQ(keysFrom(table, "chip").size(), chips) << "stray chips";
+    EXPECT_EQ(rowText(table, board::kGoalRow, "goal"), proof.goal().theorem());
+}
+
+} // namespace veyrand::test
