@@ -72,9 +72,9 @@ std::string entryFault(const CatalogueEntry& entry, std::size_t firstLine)
     return {};
 }
 
-// The letters of UTF-16 text of either byte order; nothing when it is no such text or holds
-// anything but ASCII.
-std::optional<std::string> lettersOf(std::string_view bytes)
+} // namespace
+
+std::optional<std::string> lettersOfUtf16(std::string_view bytes)
 {
     const std::string_view mark = bytes.substr(0, 2);
     if (bytes.size() % 2 != 0 || (mark != kLittleEndianMark && mark != kBigEndianMark)) {
@@ -93,11 +93,9 @@ std::optional<std::string> lettersOf(std::string_view bytes)
     return text;
 }
 
-} // namespace
-
 ParsedCatalogue parseCatalogue(std::string_view utf16Bytes)
 {
-    const std::optional<std::string> text = lettersOf(utf16Bytes);
+    const std::optional<std::string> text = lettersOfUtf16(utf16Bytes);
     if (!text) {
         return { {}, "no UTF-16 text of plain letters with a byte-order mark" };
     }

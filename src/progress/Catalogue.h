@@ -40,6 +40,10 @@ inline constexpr int kGreatestPar = 12;
 // The same from a text of one byte a letter, as it is kept in the sources.
 [[nodiscard]] ParsedCatalogue parseCatalogueText(std::string_view text);
 
+// The letters of UTF-16 text of either byte order, one byte each; nothing when it has no byte-order
+// mark or holds anything but ASCII.
+[[nodiscard]] std::optional<std::string> lettersOfUtf16(std::string_view bytes);
+
 // The text as the game reads it: UTF-16, little-endian, with a byte-order mark.
 [[nodiscard]] std::string catalogueBytes(std::string_view text);
 

@@ -4,6 +4,7 @@
 #include "platform/Random.h"
 #include "platform/Resources.h"
 #include "progress/PlayerKeys.h"
+#include "progress/Position.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>
@@ -13,8 +14,6 @@ namespace veyrand::progress {
 
 namespace {
 
-constexpr int kLastLevel = 11;
-constexpr int kLastStage = 10; // of every level
 constexpr int kDefaultEndlessPar = 5;
 
 int targetPar(int wantedPar)
@@ -83,7 +82,7 @@ void CurrentGame::loadPlayer(const std::string& name, Mode mode)
 void CurrentGame::generateProof()
 {
     // A position before 1-1 makes an index beyond every catalogue.
-    const int index = m_stage - kLastStage + m_level * kLastStage;
+    const int index = catalogueIndex({ m_level, m_stage });
     const CatalogueEntry& puzzle = m_proofs.at(static_cast<std::size_t>(index));
     setProof(puzzle.root, puzzle.goal, puzzle.par);
 }
@@ -103,16 +102,9 @@ void CurrentGame::generateEndlessProofForPar(int wantedPar)
 
 void CurrentGame::nextLevel()
 {
-    if (m_stage == kLastStage) {
-        m_stage = 1;
-        ++m_level;
-    } else {
-        ++m_stage;
-    }
-    if (m_level > kLastLevel) {
-        m_level = kLastLevel;
-        m_stage = kLastStage;
-    }
+    const Position next = nextPosition({ m_level, m_stage });
+    m_level = next.level;
+    m_stage = next.stage;
     generateProof();
 }
 
