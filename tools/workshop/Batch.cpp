@@ -1,0 +1,59 @@
+#include "Batch.h"
+
+#include "Command.h"
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+#include <sstream>
+
+namespace veyrand::workshop {
+
+namespace {
+
+std::vector<std::string> wordsOf(const std::string& line)
+{
+    std::istringstream stream(line);
+    std::vector<std::string> words;
+    for (std::string word; stream >> word;) {
+        words.push_back(word == "\"\"" ? std::string() : word);
+    }
+    return words;
+}
+
+Json answer(std::vector<std::string> words)
+{
+    const std::vector<CommandEntry>& commands = allCommands();
+    const std::string name = words.empty() ? std::string() : words.front();
+    const auto found = std::find_if(commands.begin(), commands.end(),
+        [&](const CommandEntry& command) { return command.name == name; });
+    if (found == commands.end()) {
+        throw UsageError(name.empty() ? "no command" : "no such command: " + name);
+    }
+    CLI::App arguments(found->help, name);
+    const std::unique_ptr<Command> command = found->make();
+    command->declare(arguments);
+    words.erase(words.begin());
+    std::reverse(words.begin(), words.end()); // the parser takes them from the end
+    arguments.parse(words);
+    return command->run();
+}
+
+} // namespace
+
+void runBatch(std::istream& in, std::ostream& out)
+{
+    for (std::string line; std::getline(in, line);) {
+        Json document;
+        try {
+            document = answer(wordsOf(line));
+        } catch (const std::exception& error) {
+            document = { { "error", error.what() } };
+        }
+        // A foreign byte in an error's text must not end the batch.
+        out << document.dump(-1, ' ', true, Json::error_handler_t::replace) << '\n';
+        out.flush();
+    }
+}
+
+} // namespace veyrand::workshop
