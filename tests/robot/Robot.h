@@ -24,6 +24,10 @@ public:
     void readPages();
     void waitUntilUnblocked();
 
+    // What holds after every event: each record has its key and its layer, a page's flags agree
+    // with what is shown, and no line is too long.
+    void checkAlways();
+
     [[nodiscard]] const std::vector<std::string>& pagesRead() const { return m_pagesRead; }
     [[nodiscard]] unsigned long eventsSent() const { return m_eventsSent; }
 
@@ -38,7 +42,6 @@ private:
     void perform(const Gesture& gesture);
     void press(platform::Point place);
     void release(platform::Point place);
-    void checkAlways();
     void checkAtRest();
 
     app::VirtualGame& m_game;
