@@ -6,6 +6,7 @@
 #include "platform/qt/FilePreferences.h"
 #include "platform/qt/Logging.h"
 #include "platform/qt/OpenAlSounds.h"
+#include "platform/qt/QtOverlayWindow.h"
 #include "platform/qt/QtRunLoop.h"
 #include "platform/qt/SystemPorts.h"
 #include "progress/PlayerKeys.h"
@@ -25,6 +26,7 @@ public:
         , m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
         , m_images(dataFolder + QStringLiteral("/images"), m_font)
+        , m_overlay(m_images)
         , m_menu(withDefaults(m_preferences))
         , m_currentGame(progress::CurrentGame::sharedInstance(m_preferences, m_random, m_resources))
         , m_game({ .runLoop = m_runLoop,
@@ -35,7 +37,8 @@ public:
                      .textMetrics = m_font,
                      .menu = m_menu,
                      .log = m_log,
-                     .quit = m_quit },
+                     .quit = m_quit,
+                     .overlay = m_overlay },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -44,6 +47,7 @@ public:
               .resized = [this](platform::Size size) { resized(size); } })
         , m_window(m_menu, m_board)
     {
+        m_overlay.setMainWindow(m_window);
         controller::GameController& controller = m_game.controller();
         m_menu.connectActions({ .classicGame = [&] { controller.flow().newClassicGame(); },
             .endlessGame = [&] { controller.flow().newEndlessGame(); },
@@ -89,6 +93,7 @@ private:
     platform::TrackedPointer m_pointer;
     platform::qt::GameFont m_font;
     platform::qt::ImageStore m_images;
+    platform::qt::QtOverlayWindow m_overlay;
     platform::qt::GameMenu m_menu;
     progress::CurrentGame& m_currentGame;
     controller::Game m_game;

@@ -65,7 +65,8 @@ VirtualGame::VirtualGame(const Options& options)
                                                     .textMetrics = m_font,
                                                     .menu = m_menu,
                                                     .log = m_log,
-                                                    .quit = m_quit },
+                                                    .quit = m_quit,
+                                                    .overlay = m_overlay },
           m_currentGame, m_gameData))
 {
     m_menu.connectActions({ .classicGame = [this] { controller().flow().newClassicGame(); },

@@ -62,6 +62,23 @@ private:
     bool m_terminated = false;
 };
 
+class NotedOverlay final : public platform::OverlayWindow {
+public:
+    struct Opened {
+        platform::RectF frame;
+        std::string imageName;
+    };
+
+    void open(const platform::RectF& frame, std::string_view imageName) override
+    {
+        m_opened = Opened { frame, std::string(imageName) };
+    }
+    [[nodiscard]] const std::optional<Opened>& opened() const { return m_opened; }
+
+private:
+    std::optional<Opened> m_opened;
+};
+
 class NotedLog final : public platform::Log {
 public:
     void write(std::string_view line) override { m_lines.emplace_back(line); }
@@ -118,6 +135,8 @@ public:
     [[nodiscard]] platform::MemoryPreferences& preferences() { return m_preferences; }
     [[nodiscard]] RecordedSounds& sounds() { return m_sounds; }
     [[nodiscard]] const NotedQuit& quit() const { return m_quit; }
+    [[nodiscard]] const NotedLog& log() const { return m_log; }
+    [[nodiscard]] const NotedOverlay& overlay() const { return m_overlay; }
 
 private:
     [[nodiscard]] QPointF toWidget(platform::Point place);
@@ -131,6 +150,7 @@ private:
     RecordedSounds m_sounds;
     NotedQuit m_quit;
     NotedLog m_log;
+    NotedOverlay m_overlay;
     platform::TrackedPointer m_pointer;
     platform::qt::GameFont m_font;
     platform::qt::ImageStore m_images;

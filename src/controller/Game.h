@@ -19,6 +19,7 @@ struct GamePorts {
     const platform::Menu& menu;
     platform::Log& log;
     platform::Quit& quit;
+    platform::OverlayWindow& overlay;
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -47,7 +48,8 @@ public:
             .menu = ports.menu,
             .script = m_script,
             .log = ports.log,
-            .quit = ports.quit }
+            .quit = ports.quit,
+            .overlay = ports.overlay }
         , m_controller(m_context)
     {
     }

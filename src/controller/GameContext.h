@@ -4,6 +4,7 @@
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
 #include "platform/Log.h"
+#include "platform/OverlayWindow.h"
 #include "platform/Preferences.h"
 #include "platform/Quit.h"
 #include "present/BoardLayers.h"
@@ -26,6 +27,7 @@ struct GameContext {
     const TutorialScript& script;
     platform::Log& log;
     platform::Quit& quit;
+    platform::OverlayWindow& overlay;
 };
 
 } // namespace veyrand::controller

@@ -1,5 +1,7 @@
 #include "controller/GameController.h"
 
+#include "controller/OverlayFrame.h"
+
 namespace veyrand::controller {
 
 GameController::GameController(GameContext& context)
@@ -46,6 +48,14 @@ void GameController::musicMenuClick()
 {
     // Muting is by volume: the music goes on unheard.
     m_context.sounds.setLoopVolume(m_context.menu.musicOn() ? 1.0 : 0.0);
+}
+
+void GameController::loadOverlayWindow()
+{
+    const board::GameData& data = m_context.board.gameData;
+    m_context.overlay.open(overlayFrame(m_context.layers.viewSize(),
+                               { .width = data.gameWidth(), .height = data.gameHeight() }),
+        "MessageBackground");
 }
 
 bool GameController::gameMenuItemEnabled() const

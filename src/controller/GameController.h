@@ -36,6 +36,8 @@ public:
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
     void musicMenuClick();
+    // A pane in a window of its own, in the middle of the game. Nothing in the game opens it.
+    void loadOverlayWindow();
     // Menu items that start games are for the title page only.
     [[nodiscard]] bool gameMenuItemEnabled() const;
 

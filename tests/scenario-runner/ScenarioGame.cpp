@@ -60,7 +60,9 @@ void ScenarioGame::play(const QJSValue& puzzle)
 
 void ScenarioGame::show(const QString& page)
 {
-    if (!game().controller().pages().show(page.toStdString())) {
+    if (page == QLatin1String("loadOverlayWindow")) {
+        game().controller().loadOverlayWindow();
+    } else if (!game().controller().pages().show(page.toStdString())) {
         m_engine.throwError(QStringLiteral("there is no page \"%1\"").arg(page));
     }
 }
@@ -301,6 +303,21 @@ QJSValue ScenarioGame::record()
 {
     const auto record = game().preferences().record(recordKey());
     return record ? toScript(m_engine, *record) : QJSValue(QJSValue::NullValue);
+}
+
+QJSValue ScenarioGame::overlay()
+{
+    const auto& opened = game().overlay().opened();
+    if (!opened) {
+        return QJSValue::NullValue;
+    }
+    QJSValue value = m_engine.newObject();
+    value.setProperty(QStringLiteral("image"), QString::fromStdString(opened->imageName));
+    value.setProperty(QStringLiteral("x"), static_cast<double>(opened->frame.x));
+    value.setProperty(QStringLiteral("y"), static_cast<double>(opened->frame.y));
+    value.setProperty(QStringLiteral("width"), static_cast<double>(opened->frame.width));
+    value.setProperty(QStringLiteral("height"), static_cast<double>(opened->frame.height));
+    return value;
 }
 
 bool ScenarioGame::terminated()

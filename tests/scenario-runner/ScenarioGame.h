@@ -63,6 +63,7 @@ public:
     Q_INVOKABLE QJSValue preference(const QString& key);
     Q_INVOKABLE QJSValue record();
     Q_INVOKABLE bool terminated();
+    Q_INVOKABLE QJSValue overlay();
 
 private:
     app::VirtualGame& game(); // started with the defaults when no script has
