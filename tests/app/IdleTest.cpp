@@ -36,6 +36,16 @@ void serveEvents()
     }
 }
 
+// Serves events until nothing is left to wait for. A program that never rests is given up.
+void serveUntil(const std::function<bool()>& rests)
+{
+    constexpr int kMostTurns = 2000;
+    for (int turn = 0; turn < kMostTurns && !rests(); ++turn) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    serveEvents();
+}
+
 } // namespace
 
 using Idle = test::PlayedGame;
@@ -48,10 +58,7 @@ TEST_F(Idle, AGameAtRestAsksForNoFrame)
     EXPECT_TRUE(game().widget().isFrameDue()); // the clock stands still in the middle of a slide
     settle();
     // The frame that shows the end, and perhaps one that finds nothing new.
-    while (game().widget().isFrameDue()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    serveEvents();
+    serveUntil([this] { return !game().widget().isFrameDue(); });
 
     const WakeUps wakeUps;
     const int painted = game().widget().framesPainted();
@@ -67,9 +74,7 @@ TEST_F(Idle, ThePointerMovingOverNothingPaintsNothing)
 {
     play("YR", "YB");
     game().move({ .x = 0.05, .y = 0.05 });
-    while (game().widget().isFrameDue()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
+    serveUntil([this] { return !game().widget().isFrameDue(); });
     game().move({ .x = 0.06, .y = 0.06 });
     EXPECT_FALSE(game().widget().isFrameDue());
 }
@@ -106,10 +111,7 @@ TEST(IdleBoard, WithTheRealClockTheTimersStopOnceEverythingRests)
     lines.createChipsForTheorem("YR", 0);
     lines.introduceNewTheorem("YR", 1);
     EXPECT_TRUE(runLoop.isWaiting());
-    while (widget.isFrameDue() || runLoop.isWaiting()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    serveEvents();
+    serveUntil([&] { return !widget.isFrameDue() && !runLoop.isWaiting(); });
     EXPECT_TRUE(data.gameObjects().contains("delete-1"));
     EXPECT_GT(widget.framesPainted(), 2);
     EXPECT_FALSE(scene.isAnimating());

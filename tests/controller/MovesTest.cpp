@@ -14,20 +14,26 @@ constexpr double kInstant = 1e-9; // seconds
 
 class MovesTest : public test::PlayedGame {
 protected:
-    // YGG doubles to YGGGG, whose greens vanish to YGG again: twelve lines, the last of them YGGGG.
-    void playToTwelveLines(const std::string& goal)
+    // YGG doubles to YGGGG, whose greens vanish to YGG again, as often as there is to play.
+    void playUpTo(std::size_t count)
     {
-        play("YGG", goal);
-        while (lines().size() < 12) {
-            const std::string row = std::to_string(lines().size() - 1);
+        for (auto row = lines().size() - 1; row + 1 < count; ++row) {
+            const std::string last = std::to_string(row);
             if (lines().back() == "YGG") {
-                click("chip-0-" + row);
+                click("chip-0-" + last);
             } else {
-                drag("chip-1-" + row, "chip-2-" + row);
+                drag("chip-1-" + last, "chip-2-" + last);
             }
             settle();
         }
+        ASSERT_EQ(lines().size(), count);
         sounds();
+    }
+    // Twelve lines, the last of them YGGGG.
+    void playToTwelveLines(const std::string& goal)
+    {
+        play("YGG", goal);
+        playUpTo(12);
     }
     // A refused click sounds "No", adds no line and leaves the board as it is.
     void expectRefused(const std::string& key)
@@ -151,15 +157,7 @@ TEST_F(MovesTest, FromTwelveLinesOnNothingCanBeDragged)
 TEST_F(MovesTest, WithElevenLinesADragStillMakesTheTwelfth)
 {
     play("YGGGG", "YB");
-    while (lines().size() < 11) {
-        const std::string row = std::to_string(lines().size() - 1);
-        if (lines().back() == "YGG") {
-            click("chip-0-" + row);
-        } else {
-            drag("chip-1-" + row, "chip-2-" + row);
-        }
-        settle();
-    }
+    playUpTo(11);
     ASSERT_EQ(lines().back(), "YGGGG");
     drag("chip-3-10", "chip-4-10");
     EXPECT_THAT(lines(), SizeIs(12));

@@ -81,7 +81,7 @@ TEST(Damage, ChangingPlacesInTheStackDamagesBothOrTheOneThatPassed)
 {
     const auto damage
         = damageBetween({ item(1, kLeft), item(2, kLeft) }, { item(2, kLeft), item(1, kLeft) });
-    EXPECT_FALSE(damage.empty());
+    ASSERT_FALSE(damage.empty());
     EXPECT_EQ(damage.front(), kLeft);
 }
 

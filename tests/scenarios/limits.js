@@ -17,8 +17,7 @@ function refused(gesture, label) {
 // Two greens double and vanish in turn, so any number of lines can be made.
 function playUpTo(lines, goal) {
     play("YGG", goal);
-    while (game.lines().length < lines) {
-        const row = game.lines().length - 1;
+    for (let row = 0; row + 1 < lines; ++row) {
         if (game.lines()[row] === "YGG")
             game.click("chip-0-" + row);
         else
