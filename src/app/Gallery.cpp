@@ -85,6 +85,9 @@ public:
     {
     }
 
+    // What is wrong with the pages; empty when nothing is.
+    [[nodiscard]] const std::string& fault() { return m_game.game().script().errors; }
+
     bool paint()
     {
         for (const SavedGames& games : kTitlePages) {
@@ -201,7 +204,13 @@ int paintGallery(const QString& dataFolder, const QString& pictureFolder)
         QTextStream(stderr) << "The folder " << pictureFolder << " cannot be made" << Qt::endl;
         return 1;
     }
-    return Gallery(dataFolder, QDir(pictureFolder)).paint() ? 0 : 1;
+    Gallery gallery(dataFolder, QDir(pictureFolder));
+    if (!gallery.fault().empty()) {
+        QTextStream(stderr) << "The pages cannot be painted: " << dataFolder << '/'
+                            << QString::fromStdString(gallery.fault()) << Qt::endl;
+        return 1;
+    }
+    return gallery.paint() ? 0 : 1;
 }
 
 } // namespace veyrand::app
