@@ -66,6 +66,54 @@ TEST(FilePreferences, AFileThatCannotBeUnderstoodIsKeptUnderAnotherName)
     EXPECT_TRUE(qt::FilePreferences(file).boolForKey("Music"));
 }
 
+TEST(FilePreferences, AFileThatCannotBeUnderstoodIsReportedByName)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("preferences.json");
+    write(file, "[]"); // JSON, but no object
+    static QString reported;
+    reported.clear();
+    const QtMessageHandler usual
+        = qInstallMessageHandler([](QtMsgType /*type*/, const QMessageLogContext& /*context*/,
+                                     const QString& message) { reported += message; });
+    const qt::FilePreferences preferences(file);
+    qInstallMessageHandler(usual);
+    EXPECT_TRUE(reported.contains(file)) << reported.toStdString();
+    EXPECT_FALSE(QFile::exists(file)); // moved, and nothing written in its place yet
+}
+
+TEST(FilePreferences, ASecondDamagedFileLeavesTheFirstOneKept)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("preferences.json");
+    for (const char* damaged : { "first", "second" }) {
+        write(file, damaged);
+        const qt::FilePreferences preferences(file);
+    }
+    QStringList kept;
+    for (const QString& name : QDir(folder.path()).entryList(QDir::Files)) {
+        kept += QString::fromUtf8(contentsOf(folder.filePath(name)));
+    }
+    kept.sort();
+    EXPECT_EQ(kept, QStringList({ "first", "second" }));
+}
+
+// The new contents take the old file's place only once they are complete.
+TEST(FilePreferences, AFileIsReplacedWhole)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("preferences.json");
+    qt::FilePreferences preferences(file);
+    preferences.setValue("Name", std::string("Ada"));
+    QFile open(file);
+    ASSERT_TRUE(open.open(QIODevice::ReadOnly));
+    preferences.setValue("Name", std::string("Grace"));
+    // Whoever had the old file open still reads it unharmed.
+    EXPECT_TRUE(open.readAll().contains("Ada"));
+    EXPECT_TRUE(contentsOf(file).contains("Grace"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({ "preferences.json" }));
+}
+
 TEST(FilePreferences, WhatNobodyHereKnowsSurvives)
 {
     const QTemporaryDir folder;
