@@ -79,9 +79,9 @@ constexpr std::array kTitlePages {
 // Goes from picture to picture in one game, by the operations that a player's clicks would reach.
 class Gallery {
 public:
-    Gallery(const QString& dataFolder, QDir folder)
+    Gallery(const QString& dataFolder, const QDir& folder)
         : m_game({ .dataFolder = dataFolder })
-        , m_folder(std::move(folder))
+        , m_folder(folder)
     {
     }
 

@@ -80,7 +80,7 @@ public:
     void end() const
     {
         for (const auto& [name, value] : m_object.items()) {
-            if (m_asked.count(name) == 0) {
+            if (!m_asked.contains(name)) {
                 fail(m_place + " has an unknown \"" + name + '"');
             }
         }
@@ -282,7 +282,7 @@ Greeting readGreeting(const Json& json, const std::string& place)
     greeting.stage = fields.required<int>("stage");
     const auto when = fields.get("when", std::string("always"));
     if (when != "always" && when != "arriving") {
-        fail(place + ": \"when\" is neither \"always\" nor \"arriving\"");
+        fail(place + R"(: "when" is neither "always" nor "arriving")");
     }
     greeting.when = when == "arriving" ? Greeting::When::Arriving : Greeting::When::Always;
     greeting.page = fields.required<std::string>("page");
@@ -388,14 +388,14 @@ private:
 
     void checkPage(const std::string& name, const std::string& place) const
     {
-        if (!name.empty() && m_script.pages.count(name) == 0) {
+        if (!name.empty() && !m_script.pages.contains(name)) {
             fail(place + ": there is no page \"" + name + '"');
         }
     }
 
     void checkCode(std::optional<int> code, const std::string& place) const
     {
-        if (code.value_or(0) != 0 && m_script.chains.count(*code) == 0) {
+        if (code.value_or(0) != 0 && !m_script.chains.contains(*code)) {
             fail(place + ": there is no code " + std::to_string(*code));
         }
     }

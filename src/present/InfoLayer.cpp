@@ -54,7 +54,7 @@ void InfoLayer::addText(
     const std::string& text, Offsets offsets, const board::Color& color, double size)
 {
     const auto number = static_cast<double>(m_text.size());
-    const double multiplier = static_cast<double>(m_fontMultiplier);
+    const auto multiplier = static_cast<double>(m_fontMultiplier);
     const double y = kFirstLineY - static_cast<double>(m_verticalOffset)
         - kLinePitch * number * multiplier + offsets.vertical;
     fadeInText({ .text = text, .fontSize = multiplier * size, .color = color },
