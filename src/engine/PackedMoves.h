@@ -122,9 +122,9 @@ private:
         case Kind::FlipOverTwo:
             return visitFlip(planes, longest, visit);
         case Kind::DropBetweenBlues:
-            return visitDrop(planes, longest, visit);
+            break;
         }
-        return true;
+        return visitDrop(planes, longest, visit);
     }
 
     template <class Visit>

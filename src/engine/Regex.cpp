@@ -67,12 +67,11 @@ URegularExpression* cachedRegex(std::string_view pattern)
     return cache.emplace(key, compiled(pattern)).first->second.get();
 }
 
-// Points a compiled pattern at a text, which must outlive the search.
-bool setText(URegularExpression* regex, const std::u16string& text)
+// Points a compiled pattern at a text, which must outlive the search. That cannot fail.
+void setText(URegularExpression* regex, const std::u16string& text)
 {
     UErrorCode status = U_ZERO_ERROR;
     uregex_setText(regex, text.data(), length(text), &status);
-    return U_SUCCESS(status);
 }
 
 // ICU calls a template malformed when it names a group that the pattern has not got; here such a
@@ -112,12 +111,14 @@ Range rangeOfRegex(std::string_view text, std::string_view pattern)
 Range rangeOfRegex(std::string_view text, std::string_view pattern, Range range)
 {
     URegularExpression* regex = cachedRegex(pattern);
-    const std::u16string wide = widened(text.substr(range.location, range.length));
-    if (regex == nullptr || !setText(regex, wide)) {
+    if (regex == nullptr) {
         return { kNotFound, 0 };
     }
+    const std::u16string wide = widened(text.substr(range.location, range.length));
+    setText(regex, wide);
     UErrorCode status = U_ZERO_ERROR;
-    if (uregex_find(regex, 0, &status) == 0 || U_FAILURE(status)) {
+    // A search that needs more memory than ICU allows itself fails, and finds nothing either.
+    if (uregex_find(regex, 0, &status) == 0) {
         return { kNotFound, 0 };
     }
     const std::int32_t start = uregex_start(regex, 0, &status);
@@ -130,10 +131,11 @@ std::string stringByReplacingOccurrencesOfRegex(
     std::string_view text, std::string_view pattern, std::string_view replacement)
 {
     URegularExpression* regex = cachedRegex(pattern);
-    const std::u16string wide = widened(text);
-    if (regex == nullptr || !setText(regex, wide)) {
+    if (regex == nullptr) {
         return std::string(text);
     }
+    const std::u16string wide = widened(text);
+    setText(regex, wide);
     UErrorCode status = U_ZERO_ERROR;
     const std::int32_t groups = uregex_groupCount(regex, &status);
     const std::u16string wideReplacement = widened(withoutAbsentGroups(replacement, groups));

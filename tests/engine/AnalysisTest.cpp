@@ -96,6 +96,21 @@ TEST(RuleIndex, OfSeveralMovesTheHighestWins)
     EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YR"), line("YG")), 2);
 }
 
+TEST(RuleIndex, LinesOfForeignLettersAreJoinedByThePatterns)
+{
+    const Analysis analysis = analysisWithoutTree();
+    EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YxGG"), line("Yx")), 3);
+    EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YRRRR"), line("YxG")), kNoRule);
+    EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YRRRRx"), line("YRGx")), 2);
+}
+
+TEST(RuleIndex, RulesWithoutAFastFormAreTriedByTheirPatterns)
+{
+    const Analysis analysis(nullptr, std::make_shared<const Rules>(Rules { { "R+", "$0G" } }));
+    EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YRR"), line("YRRG")), 0);
+    EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YRR"), line("YG")), kNoRule);
+}
+
 TEST(RuleIndex, CountsAMatchThatIsNotTheFirst)
 {
     EXPECT_EQ(analysisWithoutTree().ruleIndexFromTheorem(line("YRRRR"), line("YRG")), 2);

@@ -21,6 +21,12 @@ TEST(Regex, FindsTheFirstMatch)
     EXPECT_EQ(rangeOfRegex("chip-12-5", "[0-9]+$"), (Range { 8, 1 }));
 }
 
+TEST(Regex, RangesDifferInEitherNumber)
+{
+    EXPECT_NE((Range { 1, 2 }), (Range { 1, 3 }));
+    EXPECT_NE((Range { 1, 2 }), (Range { 0, 2 }));
+}
+
 TEST(Regex, AnswersNotFoundWithNoLength)
 {
     EXPECT_EQ(rangeOfRegex("YR", "G"), kNowhere);
@@ -84,7 +90,18 @@ INSTANTIATE_TEST_SUITE_P(Templates, RegexReplacement,
         Replacement { "YR", "R", "\\$1", "Y$1" }, // an escaped dollar
         Replacement { "YR", "R", "$0$0", "YRR" }, // the whole match
         Replacement { "YR", "R", "G$", "YR" }, // a malformed template
+        Replacement { "YR", "R", "G\\", "YG" }, // nothing left to escape
+        Replacement { "YR", "R", "$/", "YR" }, // no digit: malformed
+        Replacement { "YR", "R", "$:", "YR" }, //
         Replacement { "YR", "R", "\\u4e00", "Y?" })); // what no byte can hold
+
+TEST(Regex, ATextTooLongToSearchHasNoMatchAndComesBackUnchanged)
+{
+    // Each red is a choice to be remembered: more of them than ICU has room for.
+    const std::string text(3'000'000, 'R');
+    EXPECT_EQ(rangeOfRegex(text, "(R|Y)*G"), kNowhere);
+    EXPECT_EQ(stringByReplacingOccurrencesOfRegex(text, "(R|Y)*G", "B"), text);
+}
 
 TEST(Regex, IsMatchedAnywhere)
 {

@@ -144,6 +144,40 @@ TEST(Tree, ABuildWithoutALimitARootOrRulesIsRefusedAndLeavesTheNodes)
     EXPECT_EQ(ruleless.count(), 0U);
 }
 
+TEST(Tree, AGoalWithoutATextIsNeverFound)
+{
+    Tree tree = unbuilt("YR");
+    const Theorem none;
+    EXPECT_EQ(tree.makeTreeOfDepth({ 100, 12, 13 }, &none), kGoalNotFound);
+    EXPECT_EQ(tree.indexOfDerived(none), std::nullopt);
+    EXPECT_EQ(unbuilt("YR").indexOfDerived(line("YR")), std::nullopt);
+}
+
+TEST(Tree, ADesignersBuildGoesFarBeyondTheGamesLimits)
+{
+    const Tree tree(line("YR"), sevenMoves(), 200000, 12);
+    EXPECT_EQ(tree.examined(), 200000U);
+    const Tree usual(line("YR"), sevenMoves(), 15000, 12);
+    for (std::size_t i = 0; i < usual.count(); i += 50) {
+        EXPECT_EQ(tree.lineAt(i), usual.lineAt(i));
+    }
+}
+
+TEST(Tree, RulesWithoutAFastFormAreSearchedByTheirPatterns)
+{
+    const auto rules = std::make_shared<const Rules>(Rules { { "R+", "GB" }, { "GB", "R" } });
+    const Tree tree(line("YRR"), rules, 15000, 12);
+    EXPECT_EQ(textsOf(tree.nodes()), (Texts { "YRR", "YGB", "YRGB", "YR", "YGBGB", "YRR", "YGBR" }));
+}
+
+TEST(Tree, FindsLinesOfForeignLettersToo)
+{
+    const Tree tree(line("xRRR"), sevenMoves(), 15000, 12);
+    EXPECT_EQ(tree.lineAt(*tree.indexOfDerived(line("xG"))), line("xG"));
+    EXPECT_EQ(tree.indexOfDerived(line("xRRR")), std::nullopt); // never derived
+    EXPECT_EQ(tree.indexOfDerived(line("xYY")), std::nullopt);
+}
+
 TEST(Tree, ARefusedBuildAnswersThatTheGoalWasFound)
 {
     Tree tree = unbuilt("YR");
