@@ -1,0 +1,160 @@
+#include "Batch.h"
+
+#include "Command.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace veyrand::workshop {
+namespace {
+
+Json ask(const std::string& line)
+{
+    std::istringstream in(line + '\n');
+    std::ostringstream out;
+    runBatch(in, out);
+    return Json::parse(out.str());
+}
+
+Json json(const char* text)
+{
+    return Json::parse(text);
+}
+
+struct Question {
+    const char* line;
+    const char* answer;
+};
+
+class Batch : public testing::TestWithParam<Question> { };
+
+TEST_P(Batch, AnswersWithOneDocument)
+{
+    EXPECT_EQ(ask(GetParam().line), json(GetParam().answer));
+}
+
+INSTANTIATE_TEST_SUITE_P(Matches, Batch,
+    testing::Values(
+        Question { "matches YRR", R"([["YRR", [[2, 1, "YRRG"]], [[0, 3, "YRRRR"]], [], [],
+            [[0, 3, "RRY"]], [], []]])" },
+        Question { "matches G \"\"",
+            R"([["G", [], [], [], [], [], [], []], ["", [], [], [], [], [], [], []]])" },
+        Question { "matches YGGG", R"([["YGGG", [], [[0, 4, "YGGGGGG"]], [],
+            [[1, 2, "YG"], [2, 2, "YG"]], [[0, 3, "GGYG"]],
+            [[1, 2, "YGBGG"], [2, 2, "YGGBG"]], []]])" }));
+
+INSTANTIATE_TEST_SUITE_P(Tree, Batch,
+    testing::Values(Question { "tree YR --goal YRRG", R"({"result": 2, "count": 6, "examined": 4,
+            "path": ["YR", "YRR", "YRRG"], "lines": ["YR", "YRG", "YRR", "YRGRG", "GRY", "YRRG"]})" },
+        Question { "tree YR --children 1", R"({"result": -1, "count": 2, "examined": 1,
+            "path": null, "lines": ["YR", "YRG"]})" },
+        Question { "tree YR --children 9 --length 2", R"({"result": -1, "count": 1, "examined": 2,
+            "path": null, "lines": ["YR"]})" },
+        Question { "tree YR --path 0", R"({"result": -1, "count": 3, "examined": 2,
+            "path": null, "lines": ["YR", "YRG", "YRR"]})" },
+        Question { "tree YR --children 0", R"({"result": 0, "count": 0, "examined": 0,
+            "path": null, "lines": []})" }));
+
+INSTANTIATE_TEST_SUITE_P(SolveAndHint, Batch,
+    testing::Values(Question { "solve YR YRRG",
+                        R"({"path": ["YR", "YRR", "YRRG"], "sequence": "10", "score": 2})" },
+        Question {
+            "solve YR YRRG --limit 2", R"({"path": null, "sequence": null, "score": null})" },
+        Question { "hint YR YRRGRRG YRR", R"({"solution": ["YRR", "YRRG", "YRRGRRG"],
+            "next": "YRRG", "matrix": {"Y": 1, "R": 2, "G": 1, "B": 0}, "lastGoodRow": 1})" },
+        Question { "hint YR YRRG YRR G",
+            R"({"solution": null, "next": null, "matrix": null, "lastGoodRow": 1})" }));
+
+INSTANTIATE_TEST_SUITE_P(Analysis, Batch,
+    testing::Values(Question { "analysis YR --children 100 --length 12 --lines 2",
+                        R"j({"unique": ["YRG", "YRR"], "ranked": [["YRG", "0", 3], ["YRR", "1", 3]],
+            "log": ["Compiling list for: 2", "Thinning list for: 2 (1 to thin)",
+            "Deleting list for: 2 (0 to delete)", "Finished Deleting: 2"]})j" },
+        Question { "analysis YR --children 1 --length 12 --lines 5",
+            R"j({"unique": null, "ranked": [],
+            "log": ["Compiling list for: 5", "Thinning list for: 5 (2 to thin)",
+            "Deleting list for: 5 (0 to delete)", "Finished Deleting: 5"]})j" },
+        Question { "report YR --children 2",
+            R"j(["Tree", "----------", "0: YR", "1: YRG", "2: YRR", "----------"])j" },
+        Question { "report YR --children 2 --lines 2 --plain",
+            R"j(["Compiling list for: 2", "Thinning list for: 2 (1 to thin)",
+            "Deleting list for: 2 (0 to delete)", "Finished Deleting: 2", "YRG", "YRR"])j" }));
+
+INSTANTIATE_TEST_SUITE_P(Board, Batch,
+    testing::Values(Question { "gestures YR --highest-rule 1 --line-count 1",
+                        R"([{"click": 0, "rule": 1, "line": "YRR"}])" },
+        Question { "gestures YRGG --highest-rule 7 --line-count 1",
+            R"([{"click": 0, "rule": 1, "line": "YRGGRGG"},
+            {"drag": [0, 2], "rule": 4, "line": "GRYG"},
+            {"click": 2, "rule": 5, "line": "YRGBG"},
+            {"drag": [2, 3], "rule": 3, "line": "YR"},
+            {"drag": [3, 2], "rule": 3, "line": "YR"}])" },
+        // No targets are offered from twelve lines on, and the thirteenth line must be the goal.
+        Question { "gestures YRGG --highest-rule 7 --line-count 12 --goal YRGBG",
+            R"([{"click": 2, "rule": 5, "line": "YRGBG"}])" },
+        Question { "gestures YRGG --highest-rule 7 --line-count 12", "[]" },
+        Question { "gestures YRGG --highest-rule 7 --line-count 13 --goal YRGBG", "[]" },
+        // Thirteen chips are too many, eleven are not.
+        Question { "gestures YRRRRRR --highest-rule 1 --line-count 1", "[]" },
+        Question { "gestures YRRRRR --highest-rule 1 --line-count 1",
+            R"([{"click": 0, "rule": 1, "line": "YRRRRRRRRRR"}])" },
+        Question { "position 1 10",
+            R"({"highestRule": 3, "index": 10, "next": {"level": 2, "stage": 1}})" },
+        Question { "position 11 10",
+            R"({"highestRule": 7, "index": 110, "next": {"level": 11, "stage": 10}})" },
+        Question { "position 1 1 --endless",
+            R"({"highestRule": 7, "index": 1, "next": {"level": 1, "stage": 2}})" }));
+
+INSTANTIATE_TEST_SUITE_P(Distances, Batch,
+    testing::Values(Question { "distances YR --length 3", "[1, 2, 2]" },
+        Question { "distances \"\" --length 3", "[1]" }));
+
+TEST(BatchErrors, AreAnsweredAndTheNextLineGoesOn)
+{
+    std::istringstream in("nonsense\n\nsolve YR\ntree YR --children few\nmatches Y\xC3\xA9\n"
+                          "distances YX\nposition 1 1 --extra\nsolve YR YRG\n");
+    std::ostringstream out;
+    runBatch(in, out);
+    std::istringstream answers(out.str());
+    std::vector<Json> documents;
+    for (std::string line; std::getline(answers, line);) {
+        documents.push_back(Json::parse(line));
+    }
+    ASSERT_EQ(documents.size(), 8U);
+    for (std::size_t i = 0; i < 7; ++i) {
+        EXPECT_TRUE(documents[i].contains("error")) << documents[i];
+    }
+    EXPECT_EQ(documents[7]["sequence"], "0");
+}
+
+TEST(BatchErrors, AnOptionOfOneLineIsForgottenByTheNext)
+{
+    std::istringstream in("tree YR --children 1\ntree YR\n");
+    std::ostringstream out;
+    runBatch(in, out);
+    std::istringstream answers(out.str());
+    std::string first;
+    std::string second;
+    std::getline(answers, first);
+    std::getline(answers, second);
+    EXPECT_EQ(Json::parse(first)["examined"], 1);
+    EXPECT_EQ(Json::parse(second)["examined"], 15000);
+}
+
+TEST(CatalogueCommands, AnalyseAllListsTheClassicPuzzlesOnce)
+{
+    const Json log = ask("analyse-all --data " DATA_FOLDER);
+    ASSERT_EQ(log.size(), 110U);
+    EXPECT_EQ(log[0], "YGR,YGRGR,1");
+    EXPECT_EQ(log[1], "YG,YGGGG,2");
+}
+
+TEST(CatalogueCommands, TheSignatureIsOneNumberAndAlwaysTheSame)
+{
+    const Json signature = ask("bench-signature --data " DATA_FOLDER);
+    EXPECT_TRUE(signature.is_number_unsigned());
+    EXPECT_EQ(ask("bench-signature --data " DATA_FOLDER), signature);
+}
+
+} // namespace
+} // namespace veyrand::workshop
