@@ -25,7 +25,11 @@ void Hints::lightBulbClick()
 {
     const progress::CurrentGame& game = m_game.currentGame;
     if ((game.endlessGame() ? game.endlessScore() : game.score()) < kPrice) {
-        m_controller.pages().show("stopHintClick");
+        if (m_controller.proof()) {
+            m_controller.pages().show("stopHintClick");
+        } else {
+            hintClick(); // nothing is left to be hinted at, and that is said for nothing
+        }
         return;
     }
     m_game.currentGame.addToScore(-kPrice);

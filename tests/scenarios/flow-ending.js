@@ -59,3 +59,14 @@ game.wait(1);
 game.click("chip-1-0");
 game.wait(6.5);
 equal([game.page(), game.lines().length], ["", 1], "the next puzzle");
+
+// A poor player is told the same, and nothing is charged.
+game.start({ record: { TRNLevelKey: 11, TRNStageKey: 10, TRNScoreKey: -120, TRNFirstHintClickKey: true } });
+game.play({ root: "YR", goal: "YRG", par: 2, level: 11, stage: 10 });
+game.wait(1);
+game.click("chip-1-0");
+game.wait(8);
+game.click([1.58, 0.4]);
+game.wait(1);
+game.click("button-lightbulbon");
+equal([game.page(), game.score()], ["classicGameFinished", 30], "a hint that costs more than there is");
