@@ -8,8 +8,8 @@ const std::vector<CommandEntry>& allCommands()
 {
     static const std::vector<CommandEntry> kCommands = [] {
         std::vector<CommandEntry> commands;
-        for (auto group :
-            { lineCommands(), analysisCommands(), boardCommands(), catalogueCommands() }) {
+        for (auto group : { lineCommands(), analysisCommands(), boardCommands(),
+                 catalogueCommands(), puzzleCommands() }) {
             std::move(group.begin(), group.end(), std::back_inserter(commands));
         }
         return commands;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "catalogue/Evidence.h"
+
+#include <string>
+
+namespace veyrand::catalogue {
+
+// A picture of both catalogues, as SVG: par and bits of the Classic game from place to place, and
+// of the Endless puzzles how many there are of each par and how many bits those have.
+[[nodiscard]] std::string plot(
+    const std::vector<Evidence>& classic, const std::vector<Evidence>& endless);
+
+} // namespace veyrand::catalogue

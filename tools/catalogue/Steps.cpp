@@ -1,0 +1,63 @@
+#include "catalogue/Steps.h"
+
+#include "progress/RuleSets.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace veyrand::catalogue {
+
+const engine::PackedMoves& gameMoves()
+{
+    static const engine::PackedMoves kMoves
+        = engine::PackedMoves::derive(progress::advancedRules()).value();
+    return kMoves;
+}
+
+engine::PackedLine packed(const std::string& line)
+{
+    const std::optional<engine::PackedLine> word = engine::PackedLine::pack(line);
+    if (!word) {
+        throw std::runtime_error(line + ": not a line of chips");
+    }
+    return *word;
+}
+
+std::vector<Step> stepsFrom(engine::PackedLine line, MoveSet open)
+{
+    std::vector<Step> steps;
+    for (unsigned rule = 0; rule < progress::kMoveCount; ++rule) {
+        if ((open & only(rule)) == 0) {
+            continue;
+        }
+        gameMoves().forEachChildByRule(rule, line, kMostChips, [&](engine::PackedLine child) {
+            if (child == engine::PackedLine() || child == line) {
+                return true;
+            }
+            const auto known = std::find_if(steps.begin(), steps.end(),
+                [child](const Step& step) { return step.line == child; });
+            if (known == steps.end()) {
+                steps.push_back({ child, only(rule) });
+            } else {
+                known->moves |= only(rule);
+            }
+            return true;
+        });
+    }
+    return steps;
+}
+
+std::optional<Move> moveBetween(engine::PackedLine from, engine::PackedLine to, MoveSet open)
+{
+    for (unsigned rule = 0; rule < progress::kMoveCount; ++rule) {
+        unsigned match = 0;
+        const auto isOther = [&](engine::PackedLine child) { return child != to && ++match != 0; };
+        if ((open & only(rule)) != 0
+            && !gameMoves().forEachChildByRule(rule, from, kMostChips, isOther)) {
+            return Move { rule, match };
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace veyrand::catalogue

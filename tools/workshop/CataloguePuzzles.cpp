@@ -1,0 +1,216 @@
+#include "Command.h"
+#include "FileResources.h"
+#include "JsonOf.h"
+#include "ProgressLine.h"
+#include "catalogue/Certificate.h"
+#include "catalogue/Check.h"
+#include "catalogue/ClassicMaker.h"
+#include "catalogue/EndlessMaker.h"
+#include "catalogue/Plot.h"
+#include "catalogue/SolutionText.h"
+
+#include <array>
+#include <fstream>
+
+namespace veyrand::workshop {
+
+namespace {
+
+constexpr const char* kClassicFile = "assets/catalogues/Theorems.txt";
+constexpr const char* kEndlessFile = "assets/catalogues/EndlessTheorems.txt";
+constexpr const char* kCertificateFile = "assets/catalogues/certificate.txt";
+constexpr const char* kPlotFile = "docs/puzzles.svg";
+
+catalogue::Puzzles read(const std::string& file)
+{
+    const auto bytes = bytesOf(file);
+    if (!bytes) {
+        throw UsageError(file + ": cannot be read");
+    }
+    return catalogue::puzzlesIn(*bytes);
+}
+
+void write(const std::string& file, const std::string& text)
+{
+    std::ofstream out(file, std::ios::binary);
+    out << text << std::flush;
+    if (!out.good()) {
+        throw std::runtime_error(file + ": cannot be written");
+    }
+}
+
+// The bar of one piece of work; the total is known once it has begun.
+catalogue::Progress bar(const std::string& unit)
+{
+    const auto line = std::make_shared<std::unique_ptr<ProgressLine>>();
+    return [line, unit](std::size_t done, std::size_t all) {
+        if (!*line) {
+            *line = std::make_unique<ProgressLine>(unit, all);
+        }
+        (*line)->show(done);
+        if (done == all) {
+            line->reset();
+        }
+    };
+}
+
+// What the subcommands of `catalogue` are asked with. Each uses what it needs.
+struct Arguments {
+    std::uint32_t seed = 5; // what the catalogues of the game were made with
+    std::string classic = kClassicFile;
+    std::string endless = kEndlessFile;
+    std::string file;
+    std::string out;
+    std::string place;
+    bool isEndless = false;
+};
+
+void declareSources(CLI::App& arguments, Arguments& values)
+{
+    arguments.add_option("--classic", values.classic, "The Classic puzzles")->capture_default_str();
+    arguments.add_option("--endless", values.endless, "The Endless puzzles")->capture_default_str();
+}
+
+// The new catalogue: written to a file, or as the answer.
+Json deliver(const catalogue::Puzzles& puzzles, const std::string& out)
+{
+    if (!out.empty()) {
+        write(out, catalogue::textOf(puzzles));
+        return std::to_string(puzzles.size()) + " puzzles in " + out;
+    }
+    Json lines = Json::array();
+    for (const catalogue::Puzzle& puzzle : puzzles) {
+        lines.push_back(puzzle.root);
+        lines.push_back(puzzle.goal);
+        lines.push_back(std::to_string(puzzle.moves));
+    }
+    return lines;
+}
+
+Json makeClassic(const Arguments& arguments)
+{
+    return deliver(catalogue::classicPuzzles(arguments.seed, bar("roots")), arguments.out);
+}
+
+Json makeEndless(const Arguments& arguments)
+{
+    return deliver(
+        catalogue::endlessPuzzles(arguments.seed, read(arguments.classic), bar("puzzles")),
+        arguments.out);
+}
+
+Json checkFile(const Arguments& arguments)
+{
+    const catalogue::Game game
+        = arguments.isEndless ? catalogue::Game::Endless : catalogue::Game::Classic;
+    const catalogue::Verdict verdict = catalogue::check(game, read(arguments.file), bar("puzzles"));
+    if (!verdict.faults.empty()) {
+        std::string all = arguments.file + ": " + std::to_string(verdict.faults.size()) + " faults";
+        for (const std::string& fault : verdict.faults) {
+            all += "\n  " + fault;
+        }
+        throw std::runtime_error(all);
+    }
+    return std::to_string(verdict.evidence.size()) + " puzzles, every one as it should be";
+}
+
+Json show(const Arguments& arguments)
+{
+    const catalogue::Puzzles puzzles = read(arguments.classic);
+    for (std::size_t entry = 1; entry < puzzles.size(); ++entry) {
+        if (catalogue::nameOf(catalogue::placeOfEntry(entry)) != arguments.place) {
+            continue;
+        }
+        Json answer = Json::object();
+        for (const auto& [name, value] : catalogue::description(entry, puzzles[entry])) {
+            answer[name] = value;
+        }
+        return answer;
+    }
+    throw UsageError(arguments.place + ": no place of the Classic game, such as 7-3");
+}
+
+std::vector<catalogue::Evidence> measure(catalogue::Game game, const std::string& file)
+{
+    return catalogue::measureAll(game, read(file), bar("puzzles"));
+}
+
+Json certify(const Arguments& arguments)
+{
+    write(arguments.out.empty() ? kCertificateFile : arguments.out,
+        catalogue::certificate(measure(catalogue::Game::Classic, arguments.classic),
+            measure(catalogue::Game::Endless, arguments.endless)));
+    return "certified";
+}
+
+Json plot(const Arguments& arguments)
+{
+    write(arguments.out.empty() ? kPlotFile : arguments.out,
+        catalogue::plot(measure(catalogue::Game::Classic, arguments.classic),
+            measure(catalogue::Game::Endless, arguments.endless)));
+    return "drawn";
+}
+
+// Everything about the puzzles themselves: making, proving and showing them. Files are those of the
+// sources unless said otherwise, so it is at home in the root of the repository.
+class Catalogue final : public Command {
+public:
+    void declare(CLI::App& arguments) override
+    {
+        arguments.require_subcommand(1);
+        CLI::App* classic = add(arguments, "classic", "Makes the Classic puzzles", makeClassic);
+        classic->add_option("--seed", m_values.seed, "What they depend on")->capture_default_str();
+        addOut(*classic);
+
+        CLI::App* endless = add(arguments, "endless", "Makes the Endless puzzles", makeEndless);
+        endless->add_option("--seed", m_values.seed, "What they depend on")->capture_default_str();
+        endless->add_option("--classic", m_values.classic, "Puzzles whose goals not to use again")
+            ->capture_default_str();
+        addOut(*endless);
+
+        CLI::App* checking = add(arguments, "check", "Proves every puzzle of a file", checkFile);
+        checking->add_option("FILE", m_values.file, "Three lines a puzzle, in UTF-8")->required();
+        checking->add_flag("--endless", m_values.isEndless, "Endless puzzles, not Classic ones");
+
+        CLI::App* showing = add(arguments, "show", "One Classic puzzle, all about it", show);
+        showing->add_option("PLACE", m_values.place, "Level and stage, such as 7-3")->required();
+        showing->add_option("--classic", m_values.classic, "The puzzles")->capture_default_str();
+
+        CLI::App* certifying = add(arguments, "certify", "Writes the certificate", certify);
+        declareSources(*certifying, m_values);
+        addOut(*certifying);
+
+        CLI::App* plotting = add(arguments, "plot", "Draws par and bits as SVG", plot);
+        declareSources(*plotting, m_values);
+        addOut(*plotting);
+    }
+
+    Json run() override { return m_chosen(m_values); }
+
+private:
+    using Action = Json (*)(const Arguments&);
+
+    CLI::App* add(CLI::App& arguments, const char* name, const char* help, Action action)
+    {
+        CLI::App* subcommand = arguments.add_subcommand(name, help);
+        subcommand->callback([this, action] { m_chosen = action; });
+        return subcommand;
+    }
+
+    void addOut(CLI::App& subcommand)
+    {
+        subcommand.add_option("--out", m_values.out, "The file to write");
+    }
+
+    Arguments m_values;
+    Action m_chosen = nullptr;
+};
+
+} // namespace
+
+std::vector<CommandEntry> puzzleCommands()
+{
+    return { entry<Catalogue>("catalogue", "Makes, proves and shows the puzzles") };
+}
+
+} // namespace veyrand::workshop
