@@ -1,0 +1,133 @@
+#include "catalogue/HintSearch.h"
+
+#include "catalogue/Gestures.h"
+#include "catalogue/HintPlayer.h"
+#include "engine/HintHelper.h"
+#include "platform/SeededRandom.h"
+#include "progress/RuleSets.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+
+namespace veyrand::catalogue {
+
+namespace {
+
+Puzzles classicPuzzles()
+{
+    std::ifstream file(VEYRAND_CATALOGUES "/Theorems.txt", std::ios::binary);
+    return puzzlesIn(std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+// What the game itself would hint at with these lines on the board; an empty text to go back.
+std::string hintOfGame(const HintSearch::Lines& lines, const std::string& goal)
+{
+    static const auto kRules = std::make_shared<const engine::Rules>(progress::advancedRules());
+    const auto proof = std::make_shared<engine::Proof>(
+        engine::Theorem(lines[0].text()), engine::Theorem(goal), kRules);
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        proof->appendLine(engine::Theorem(lines[i].text()));
+    }
+    const auto next = engine::HintHelper(proof).nextTheorem();
+    return next ? next->theorem() : "";
+}
+
+std::string hintOfSearch(
+    HintSearch& search, const HintSearch::Lines& lines, const std::string& goal)
+{
+    const auto next = search.nextLine(lines, packed(goal));
+    return next ? next->text() : "";
+}
+
+} // namespace
+
+// On the way and off it: the lines of a game with a detour, one after the other.
+TEST(HintSearch, AnswersWhatTheGameAnswers)
+{
+    HintSearch search;
+    std::size_t backwards = 0;
+    const Puzzles puzzles = classicPuzzles();
+    for (std::size_t entry = 1; entry < puzzles.size(); ++entry) {
+        const Puzzle& puzzle = puzzles[entry];
+        platform::SeededRandom random(static_cast<std::uint32_t>(entry));
+        HintSearch::Lines lines { packed(puzzle.root) };
+        while (lines.size() < 4 && lines.back() != packed(puzzle.goal)) {
+            const std::string hint = hintOfGame(lines, puzzle.goal);
+            EXPECT_EQ(hintOfSearch(search, lines, puzzle.goal), hint) << puzzle.goal;
+            backwards += hint.empty() ? 1 : 0;
+            const std::vector<Step> steps = stepsFrom(lines.back(), kAllMoves);
+            if (steps.empty()) {
+                break;
+            }
+            lines.push_back(steps[random.next() % steps.size()].line);
+        }
+    }
+    EXPECT_GT(backwards, 5U); // or nothing was tried
+}
+
+TEST(HintSearch, LeavesNoWayThatDoesNotFitOnTheBoard)
+{
+    HintSearch search;
+    const HintSearch::Lines full(12, packed("YR"));
+    EXPECT_TRUE(search.solution(full, packed("YRG")));
+    EXPECT_FALSE(search.solution(full, packed("YRRG")));
+}
+
+TEST(HintPlayer, SolvesAtParWhatTheHintsKnow)
+{
+    HintSearch hints;
+    const HintPlayer::Game game = HintPlayer(hints, 3).play({ "YR", "YRGG", 4 });
+    EXPECT_TRUE(game.solved);
+    EXPECT_EQ(game.lines.size(), 5U);
+    EXPECT_FALSE(HintPlayer(hints, 2).play({ "YR", "YRGG", 4 }).solved); // three reds are not open
+}
+
+TEST(HintPlayer, ComesBackFromEveryDetour)
+{
+    HintSearch hints;
+    HintPlayer player(hints, 3);
+    unsigned strayed = 0;
+    for (std::uint32_t seed = 0; seed < 20; ++seed) {
+        platform::SeededRandom random(seed);
+        const HintPlayer::Game game = player.playWithDetour({ "YR", "YRGG", 4 }, random);
+        EXPECT_TRUE(game.solved);
+        strayed += game.strayed ? 1 : 0;
+    }
+    EXPECT_EQ(strayed, 20U);
+    // Where doubling is all there is, there is no way to stray.
+    platform::SeededRandom random(1);
+    EXPECT_FALSE(HintPlayer(hints, 1).playWithDetour({ "YG", "YGGGG", 2 }, random).strayed);
+}
+
+TEST(Gestures, ComeWithTheMovesThatAreOpen)
+{
+    const auto made = [](const char* from, const char* to, int highestRule, std::size_t standing) {
+        return gestureFor(packed(from), packed(to), packed("YBBB"), highestRule, standing)
+            .has_value();
+    };
+    EXPECT_TRUE(made("YRG", "GRY", 5, 1));
+    EXPECT_FALSE(made("YRG", "GRY", 4, 1));
+    EXPECT_TRUE(made("YGG", "YGBG", 6, 1));
+    EXPECT_FALSE(made("YGG", "YGBG", 5, 1));
+    EXPECT_TRUE(made("YGG", "Y", 4, 11));
+    EXPECT_FALSE(made("YGG", "Y", 4, 12)); // a drag finds no targets any more
+    EXPECT_FALSE(made("YR", "YRG", 7, 12)); // the last line must be the goal
+    EXPECT_FALSE(made("YR", "YRG", 7, 13));
+    EXPECT_FALSE(made("YR", "YB", 7, 1)); // no move at all
+}
+
+TEST(Gestures, AreClicksAndDragsOnTheRightChips)
+{
+    const auto click = gestureFor(packed("YGGG"), packed("YGGBG"), packed("Y"), 7, 1);
+    ASSERT_TRUE(click);
+    EXPECT_EQ(click->kind, Gesture::Kind::Click);
+    EXPECT_EQ(click->from, 2U);
+    const auto drag = gestureFor(packed("YBRGB"), packed("YBB"), packed("Y"), 7, 1);
+    ASSERT_TRUE(drag);
+    EXPECT_EQ(drag->kind, Gesture::Kind::Drag);
+    EXPECT_EQ(drag->from, 1U);
+    EXPECT_EQ(drag->to, 4U);
+}
+
+} // namespace veyrand::catalogue
