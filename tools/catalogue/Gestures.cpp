@@ -21,9 +21,9 @@ bool makes(const std::optional<controller::MoveDecision>& decision, engine::Pack
     engine::PackedLine to)
 {
     unsigned match = 0;
-    return decision
-        && !gameMoves().forEachChildByRule(decision->rule, from, engine::PackedLine::kMostChips,
-            [&](engine::PackedLine child) { return match++ != decision->match || child != to; });
+    return decision && !forEachMatch(decision->rule, from, [&](engine::PackedLine child) {
+        return match++ != decision->match || child != to;
+    });
 }
 
 } // namespace

@@ -13,8 +13,8 @@ std::optional<HintSearch::Lines> HintSearch::solution(const Lines& proof, engine
     if (m_kept.result == engine::kGoalNotFound) {
         return std::nullopt;
     }
-    Lines way;
-    for (std::size_t index = m_kept.lines.size() - 1; index != 0; index = m_kept.parents[index]) {
+    Lines way { goal };
+    for (std::size_t index = m_kept.result; index != 0; index = m_kept.parents[index]) {
         way.push_back(m_kept.lines[index]);
     }
     way.push_back(proof.back());

@@ -28,7 +28,7 @@ std::string element(
 {
     std::string svg = '<' + name;
     for (const auto& [key, value] : attributes) {
-        svg += ' ' + key + "=" + '"' + value + '"';
+        svg.append(" ").append(key).append(R"(=")").append(value).append(R"(")");
     }
     return svg + '>' + std::string(content) + "</" + name + ">\n";
 }

@@ -90,8 +90,8 @@ void Reach::addEdgesFrom(std::uint32_t index)
     const engine::PackedLine line = m_lines[index];
     const unsigned distance = m_distances[index] + 1U;
     for (unsigned rule = 0; rule < progress::kMoveCount; ++rule) {
-        gameMoves().forEachChildByRule(rule, line, kMostChips, [&](engine::PackedLine child) {
-            if (child == engine::PackedLine()) {
+        forEachMatch(rule, line, [&](engine::PackedLine child) {
+            if (child.length() > kMostChips) {
                 return true;
             }
             const auto next = static_cast<std::uint32_t>(m_lines.size());

@@ -30,8 +30,8 @@ std::vector<Step> stepsFrom(engine::PackedLine line, MoveSet open)
         if ((open & only(rule)) == 0) {
             continue;
         }
-        gameMoves().forEachChildByRule(rule, line, kMostChips, [&](engine::PackedLine child) {
-            if (child == engine::PackedLine() || child == line) {
+        forEachMatch(rule, line, [&](engine::PackedLine child) {
+            if (child.length() > kMostChips || child == line) {
                 return true;
             }
             const auto known = std::find_if(steps.begin(), steps.end(),
@@ -52,8 +52,7 @@ std::optional<Move> moveBetween(engine::PackedLine from, engine::PackedLine to, 
     for (unsigned rule = 0; rule < progress::kMoveCount; ++rule) {
         unsigned match = 0;
         const auto isOther = [&](engine::PackedLine child) { return child != to && ++match != 0; };
-        if ((open & only(rule)) != 0
-            && !gameMoves().forEachChildByRule(rule, from, kMostChips, isOther)) {
+        if ((open & only(rule)) != 0 && !forEachMatch(rule, from, isOther)) {
             return Move { rule, match };
         }
     }
