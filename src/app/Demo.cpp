@@ -12,9 +12,9 @@ namespace {
 // Takes numbered pictures, and remembers whether all of them could be written.
 class Album {
 public:
-    Album(VirtualGame& game, QDir folder)
+    Album(VirtualGame& game, const QDir& folder)
         : m_game(game)
-        , m_folder(std::move(folder))
+        , m_folder(folder)
     {
     }
 

@@ -7,6 +7,8 @@
 #include <QTextStream>
 
 #include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
 #include <optional>
 
 namespace {
@@ -42,9 +44,7 @@ int run(const Pictures& pictures)
     return veyrand::app::runGame(dataFolder);
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+int start(int argc, char* argv[])
 {
     CLI::App options("Veyrand, a puzzle game of rewrite moves", "veyrand");
     options.set_version_flag("--version", "veyrand " VEYRAND_VERSION);
@@ -73,4 +73,16 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
     return run(pictures);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    try {
+        return start(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "veyrand cannot go on: %s\n", error.what());
+        return 1;
+    }
 }
