@@ -126,7 +126,7 @@ QImage ImageStore::draw(const std::string& name, QSize size)
     for (const char* suffix : { ".svg", ".jpg", ".png" }) {
         const QString file = base + QLatin1String(suffix);
         if (QFileInfo::exists(file)) {
-            const QImage image = drawSource(file, size);
+            QImage image = drawSource(file, size);
             if (!image.isNull()) {
                 return image;
             }
