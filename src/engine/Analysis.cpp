@@ -25,7 +25,7 @@ std::vector<std::size_t> indicesOfLines(
 {
     std::vector<std::size_t> indices;
     for (std::size_t i = 0; i < nodes.size(); ++i) {
-        if (lines.count(nodes[i]->theorem().theorem()) > 0) {
+        if (lines.contains(nodes[i]->theorem().theorem())) {
             indices.push_back(i);
         }
     }
@@ -74,8 +74,9 @@ bool Analysis::leadsTo(std::size_t rule, const Theorem& from, const Theorem& to)
     const std::optional<PackedLine> packedFrom = PackedLine::pack(from.theorem());
     const std::optional<PackedLine> packedTo = PackedLine::pack(to.theorem());
     if (m_packedMoves && packedFrom && packedTo) {
-        return !m_packedMoves->forEachChildByRule(rule, *packedFrom, PackedLine::kMostChips,
-            [&](PackedLine child) { return child != *packedTo; });
+        PackedMoves::Children children;
+        m_packedMoves->childrenByRule(rule, *packedFrom, PackedLine::kMostChips, children);
+        return std::find(children.begin(), children.end(), *packedTo) != children.end();
     }
     const unsigned matches = from.numberOfMatchesWithRule((*m_rules)[rule]);
     for (unsigned match = 0; match < matches; ++match) {
@@ -106,10 +107,12 @@ int Analysis::scoreRuleSequence(std::string_view sequence) const
     int score = 0;
     for (std::size_t rule = 0; rule < m_tree->rules()->size(); ++rule) {
         const std::string digit = std::to_string(rule);
+        std::string thrice = digit;
+        thrice.append(digit).append(digit);
         if (isMatchedByRegex(sequence, digit)) {
             score += 1;
         }
-        if (isMatchedByRegex(sequence, digit + digit + digit)) {
+        if (isMatchedByRegex(sequence, thrice)) {
             score -= 2;
         }
     }

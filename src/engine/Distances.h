@@ -47,17 +47,21 @@ private:
     template <class Seen, class Visit> void run(PackedLine root, Seen& seen, const Visit& visit)
     {
         m_lines.assign(1, root);
+        std::size_t found = 1;
+        seen.makeRoomFor(found);
         seen.insert(root);
         for (unsigned distance = 0; !m_lines.empty(); ++distance) {
             visit(distance, static_cast<const Lines&>(m_lines));
             m_next.clear();
             for (const PackedLine line : m_lines) {
-                m_moves.forEachChild(line, m_longest, [&](PackedLine child) {
+                m_moves.childrenOf(line, m_longest, m_children);
+                seen.makeRoomFor(found + m_children.size());
+                for (const PackedLine child : m_children) {
                     if (child != PackedLine() && seen.insert(child)) {
                         m_next.push_back(child);
+                        ++found;
                     }
-                    return true;
-                });
+                }
             }
             m_lines.swap(m_next);
         }
@@ -70,6 +74,7 @@ private:
     PackedLineSet m_any;
     Lines m_lines; // of the distance at hand
     Lines m_next;
+    PackedMoves::Children m_children;
 };
 
 } // namespace veyrand::engine

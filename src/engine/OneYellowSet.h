@@ -18,6 +18,9 @@ public:
 
     void clear();
 
+    // There is always room for every line.
+    void makeRoomFor(std::size_t /*lines*/) { }
+
     // True when the line was not yet there. It must have one yellow at most, and at most `longest`
     // chips.
     bool insert(PackedLine line)

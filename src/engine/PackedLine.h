@@ -18,6 +18,7 @@ public:
     static constexpr unsigned kBitsPerChip = 2;
 
     enum Chip : std::uint64_t { Yellow, Red, Green, Blue };
+    static constexpr std::string_view kLetters = "YRGB"; // in that order
 
     constexpr PackedLine() = default;
     constexpr explicit PackedLine(std::uint64_t word)
@@ -26,11 +27,25 @@ public:
     }
 
     // Nothing for a line that does not fit.
-    [[nodiscard]] static std::optional<PackedLine> pack(std::string_view text);
+    [[nodiscard]] static constexpr std::optional<PackedLine> pack(std::string_view text)
+    {
+        if (text.size() > kMostChips) {
+            return std::nullopt;
+        }
+        std::uint64_t word = 1;
+        for (std::size_t i = text.size(); i-- > 0;) {
+            const std::size_t chip = kLetters.find(text[i]);
+            if (chip == std::string_view::npos) {
+                return std::nullopt;
+            }
+            word = word << kBitsPerChip | chip;
+        }
+        return PackedLine(word);
+    }
 
     [[nodiscard]] std::string text() const;
-    [[nodiscard]] std::uint64_t word() const { return m_word; }
-    [[nodiscard]] unsigned length() const // in chips
+    [[nodiscard]] constexpr std::uint64_t word() const { return m_word; }
+    [[nodiscard]] constexpr unsigned length() const // in chips
     {
         return static_cast<unsigned>(63 - __builtin_clzll(m_word)) / kBitsPerChip;
     }

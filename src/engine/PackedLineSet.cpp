@@ -7,8 +7,8 @@ namespace veyrand::engine {
 namespace {
 
 constexpr unsigned kWordBits = 64;
-// The lines a solution search keeps fit without growing.
-constexpr unsigned kFewestBits = 14;
+// The lines that a search for a solution keeps fit without growing.
+constexpr unsigned kFewestBits = 15;
 
 } // namespace
 
@@ -20,7 +20,6 @@ PackedLineSet::PackedLineSet()
 void PackedLineSet::clear()
 {
     std::fill(m_table.begin(), m_table.end(), 0);
-    m_count = 0;
 }
 
 void PackedLineSet::grow()
@@ -37,9 +36,7 @@ void PackedLineSet::grow()
 void PackedLineSet::resize(unsigned bits)
 {
     m_table.assign(std::size_t { 1 } << bits, 0);
-    m_mask = m_table.size() - 1;
     m_shift = kWordBits - bits;
-    m_count = 0;
 }
 
 } // namespace veyrand::engine

@@ -2,41 +2,54 @@
 
 #include "engine/PackedLine.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace veyrand::engine {
 
-// The lines a search has seen: an open hash table of words that is never more than half full, with
-// zero, which is no line, for an empty place. It keeps its size when it is cleared, for the next
-// search.
+// The lines a search has seen: an open hash table of words that is never more than a third full,
+// with zero, which is no line, for an empty place. It keeps its size when it is cleared, for the
+// next search.
 class PackedLineSet {
 public:
     PackedLineSet();
 
     void clear();
 
-    // True when the line was not yet there.
+    // Makes sure that the set can hold so many lines in all.
+    void makeRoomFor(std::size_t lines)
+    {
+        while (lines > m_table.size() / kPlacesPerLine) {
+            grow();
+        }
+    }
+
+    // True when the line was not yet there and is one. There must be room for it.
+    //
+    // Whether a line is new cannot be foreseen, and a wrong guess of the processor costs more than
+    // all the rest. So nothing here branches on it: a place is where the search ends when it is
+    // empty or holds the line, that is when the smaller of two numbers is zero, and it is written
+    // either way. Most searches end where they begin.
     bool insert(PackedLine line)
     {
         std::size_t place = hash(line);
-        while (m_table[place] != 0) {
-            if (m_table[place] == line.word()) {
-                return false;
-            }
-            place = (place + 1) & m_mask;
+        std::uint64_t there = m_table[place];
+        while (std::min(there, there ^ line.word()) != 0) {
+            place = (place + 1) & (m_table.size() - 1);
+            there = m_table[place];
         }
+        const bool isNew = (there < line.word()) & (there == 0);
         m_table[place] = line.word();
-        if (++m_count > m_mask / 2) {
-            grow();
-        }
-        return true;
+        return isNew;
     }
 
     [[nodiscard]] std::size_t bytes() const { return m_table.size() * sizeof(std::uint64_t); }
 
 private:
+    static constexpr std::size_t kPlacesPerLine = 3;
+
     [[nodiscard]] std::size_t hash(PackedLine line) const
     {
         constexpr std::uint64_t kGoldenRatio = 0x9E3779B97F4A7C15U;
@@ -46,8 +59,6 @@ private:
     void resize(unsigned bits);
 
     std::vector<std::uint64_t> m_table;
-    std::size_t m_mask = 0;
-    std::size_t m_count = 0;
     unsigned m_shift = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 namespace veyrand::engine {
 
@@ -12,23 +13,22 @@ namespace veyrand::engine {
 class PlainMoves {
 public:
     using Line = Theorem;
+    using Children = std::vector<Theorem>;
 
     explicit PlainMoves(SharedRules rules)
         : m_rules(std::move(rules))
     {
     }
 
-    // As PackedMoves::forEachChild.
-    template <class Visit>
-    void forEachChild(const Theorem& line, unsigned longest, const Visit& visit) const
+    // As PackedMoves::childrenOf.
+    void childrenOf(const Theorem& line, unsigned longest, Children& children) const
     {
         TreeNode node(nullptr, line, m_rules);
         node.makeChildren();
+        children.clear();
         for (const TreeNode& child : node.children()) {
             const bool fits = child.theorem().theorem().size() <= longest;
-            if (!visit(fits ? child.theorem() : Theorem())) {
-                return;
-            }
+            children.push_back(fits ? child.theorem() : Theorem());
         }
     }
 
@@ -41,8 +41,13 @@ class PlainLineSet {
 public:
     void clear() { m_lines.clear(); }
 
-    // True when the line was not yet there.
-    bool insert(const Theorem& line) { return m_lines.insert(line.theorem()).second; }
+    void makeRoomFor(std::size_t lines) { m_lines.reserve(lines); }
+
+    // True when the line was not yet there and is one.
+    bool insert(const Theorem& line)
+    {
+        return line.hasText() && m_lines.insert(line.theorem()).second;
+    }
 
 private:
     std::unordered_set<std::string> m_lines;

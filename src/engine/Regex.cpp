@@ -46,7 +46,10 @@ CompiledRegex compiled(std::string_view pattern)
     const std::u16string wide = widened(pattern);
     UErrorCode status = U_ZERO_ERROR;
     CompiledRegex regex(uregex_open(wide.data(), length(wide), 0, nullptr, &status));
-    return U_SUCCESS(status) ? std::move(regex) : nullptr;
+    if (U_FAILURE(status) != 0) {
+        return nullptr;
+    }
+    return regex;
 }
 
 // The game knows a dozen patterns; the bound only keeps a designer's session from growing for ever.

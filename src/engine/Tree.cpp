@@ -25,7 +25,7 @@ Derivation<PackedLine> derivePacked(const PackedMoves& moves, PackedLine root,
 {
     thread_local PackedWorkspace workspace;
     derive(moves, root, limits, goal ? &*goal : nullptr, workspace.seen, workspace.kept);
-    Derivation<PackedLine> derivation = workspace.kept;
+    Derivation<PackedLine> derivation = workspace.kept.trimmed();
     if (limits.children > kMostChildrenKeptInMind) {
         workspace = PackedWorkspace();
     }
@@ -81,7 +81,7 @@ unsigned Tree::makeTreeOfDepth(const TreeLimits& limits, const Theorem* goal)
         PlainLineSet seen;
         PlainDerivation derivation;
         derive(PlainMoves(m_rules), m_root, limits, goal, seen, derivation);
-        m_derivation = std::move(derivation);
+        m_derivation = derivation.trimmed();
     }
     return std::visit([](const auto& derivation) { return derivation.result; }, m_derivation);
 }

@@ -114,6 +114,7 @@ TEST(PackedLineSet, AgreesWithASetOfWords)
         std::set<std::uint64_t> words;
         for (int i = 0; i < 40000; ++i) { // past two growings
             const std::uint64_t word = random() % 60000 + 1;
+            set.makeRoomFor(words.size() + 1);
             ASSERT_EQ(set.insert(PackedLine(word)), words.insert(word).second);
         }
         set.clear();

@@ -25,6 +25,12 @@ TEST(Rule, TheConsequentIsTestedAsAPatternToo)
     EXPECT_EQ(Rule("R", "").consequent(), "");
 }
 
+TEST(Rule, RulesDifferInEitherText)
+{
+    EXPECT_NE(Rule("GG", ""), Rule("GG", "GBG"));
+    EXPECT_NE(Rule("GG", ""), Rule("G", ""));
+}
+
 TEST(Rule, ARuleOfNothingIsEmpty)
 {
     EXPECT_EQ(Rule(), Rule("", ""));

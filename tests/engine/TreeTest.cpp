@@ -167,7 +167,8 @@ TEST(Tree, RulesWithoutAFastFormAreSearchedByTheirPatterns)
 {
     const auto rules = std::make_shared<const Rules>(Rules { { "R+", "GB" }, { "GB", "R" } });
     const Tree tree(line("YRR"), rules, 15000, 12);
-    EXPECT_EQ(textsOf(tree.nodes()), (Texts { "YRR", "YGB", "YRGB", "YR", "YGBGB", "YRR", "YGBR" }));
+    EXPECT_EQ(
+        textsOf(tree.nodes()), (Texts { "YRR", "YGB", "YRGB", "YR", "YGBGB", "YRR", "YGBR" }));
 }
 
 TEST(Tree, FindsLinesOfForeignLettersToo)

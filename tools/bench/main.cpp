@@ -6,7 +6,9 @@
 // Measures the search against the plain one it must agree with. Every figure is of this run and
 // this machine; compare ratios, not milliseconds.
 
-int main(int argc, char** argv)
+namespace {
+
+int run(int argc, char** argv)
 {
     using namespace veyrand::bench;
     CLI::App app("Measures the search behind hints and puzzles.", "veyrand-bench");
@@ -36,4 +38,16 @@ int main(int argc, char** argv)
         return 1;
     }
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
 }
