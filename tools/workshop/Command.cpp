@@ -19,14 +19,13 @@ const std::vector<CommandEntry>& allCommands()
 
 CLI::Validator plainLine()
 {
-    return CLI::Validator(
-        [](const std::string& text) {
-            constexpr unsigned char kAsciiEnd = 0x80;
-            const bool ascii = std::all_of(text.begin(), text.end(),
-                [](char c) { return static_cast<unsigned char>(c) < kAsciiEnd; });
-            return ascii ? std::string() : "a line of chips has plain letters only: " + text;
-        },
-        "LINE");
+    return { [](const std::string& text) {
+                constexpr unsigned char kAsciiEnd = 0x80;
+                const bool ascii = std::all_of(text.begin(), text.end(),
+                    [](char c) { return static_cast<unsigned char>(c) < kAsciiEnd; });
+                return ascii ? std::string() : "a line of chips has plain letters only: " + text;
+            },
+        "LINE" };
 }
 
 } // namespace veyrand::workshop

@@ -25,7 +25,7 @@ std::optional<std::string> FileResources::dataNamed(
 fs::path dataFolder()
 {
     std::error_code none;
-    const fs::path program = fs::read_symlink("/proc/self/exe", none).parent_path();
+    fs::path program = fs::read_symlink("/proc/self/exe", none).parent_path();
     for (const char* candidate : { "../share/veyrand", "../share/games/veyrand" }) {
         if (fs::is_directory(program / candidate, none)) {
             return fs::weakly_canonical(program / candidate, none);

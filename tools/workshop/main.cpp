@@ -29,9 +29,7 @@ void answer(Command& command, bool json)
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int run(int argc, char** argv)
 {
     CLI::App app("Questions to the engine of Veyrand, for the designers of its puzzles.",
         "veyrand-workshop");
@@ -65,6 +63,15 @@ int main(int argc, char** argv)
         return complain(error.what(), kBadArguments);
     } catch (const UsageError& error) {
         return complain(error.what(), kBadArguments);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(argc, argv);
     } catch (const std::exception& error) {
         return complain(error.what(), 1);
     }
