@@ -30,7 +30,8 @@ RC_GTEST_PROP(EngineProperties, MatchesStandInOrderAndInsideTheLine, ())
     const Theorem theorem = line(*lines());
     const auto matches = *theorem.matchesWithRule(*rc::gen::elementOf(*sevenMoves()));
     for (std::size_t i = 0; i < matches.size(); ++i) {
-        RC_ASSERT(i == 0 || matches[i - 1].location < matches[i].location);
+        // In brackets, as the macro would otherwise take the two sides apart and evaluate both.
+        RC_ASSERT((i == 0 || matches[i - 1].location < matches[i].location));
         RC_ASSERT(matches[i].location + matches[i].length <= theorem.theorem().size());
     }
 }

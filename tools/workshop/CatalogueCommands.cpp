@@ -126,7 +126,8 @@ private:
         add(tree.makeTreeOfDepth(engine::kSolutionLimits, &goal));
         add(tree.count());
         for (std::size_t i = 0; i < tree.count(); ++i) {
-            for (const char chip : tree.lineAt(i).theorem()) {
+            const engine::Theorem line = tree.lineAt(i); // a loop would not keep it alive
+            for (const char chip : line.theorem()) {
                 add(static_cast<unsigned char>(chip));
             }
         }
