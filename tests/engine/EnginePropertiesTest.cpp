@@ -112,7 +112,7 @@ RC_GTEST_PROP(EngineProperties, EveryLineOfAProofFollowsFromTheOneBefore, ())
         const std::size_t before = proof.lines().size();
         RC_ASSERT(proof.applyRule(rule, match) == (match < matches));
         RC_ASSERT(proof.lines().size() == before + (match < matches ? 1 : 0));
-        RC_ASSERT(match >= matches || joinedByAMove(last, proof.lines().back()));
+        RC_ASSERT((match >= matches || joinedByAMove(last, proof.lines().back())));
     }
 }
 
