@@ -93,6 +93,7 @@ TEST(HumanText, PrintsListsObjectsAndSingleValues)
 {
     EXPECT_EQ(forPeople(R"(["YR", "YG"])"), "YR\nYG\n");
     EXPECT_EQ(forPeople(R"({"a": null, "b": {"c": 1}, "d": []})"), "a: none\nb: c 1\nd: 0\n");
+    EXPECT_EQ(forPeople("[1, 20]"), "0  1\n1  20\n"); // counts, by what they count
     EXPECT_EQ(forPeople("7"), "7\n");
 }
 

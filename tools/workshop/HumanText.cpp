@@ -33,6 +33,21 @@ bool isTable(const Json& value)
     return value.is_array() && !value.empty() && value.front().is_structured();
 }
 
+// Counts stand for what they count: the first is of distance 0, the second of distance 1.
+bool isListOfNumbers(const Json& value)
+{
+    return value.is_array() && !value.empty() && value.front().is_number();
+}
+
+Json numbered(const Json& list)
+{
+    Json table = Json::array();
+    for (const Json& item : list) {
+        table.push_back({ table.size(), item });
+    }
+    return table;
+}
+
 std::vector<Row> rowsOf(const Json& table)
 {
     std::vector<Row> rows;
@@ -70,6 +85,8 @@ void print(const Json& value, const std::string& indent, std::ostream& out)
 {
     if (isTable(value)) {
         printTable(value, indent, out);
+    } else if (isListOfNumbers(value)) {
+        printTable(numbered(value), indent, out);
     } else if (value.is_array()) {
         for (const Json& item : value) {
             out << indent << cell(item) << '\n';
