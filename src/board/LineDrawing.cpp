@@ -113,4 +113,17 @@ void LineDrawing::settleRow(const std::string& line, unsigned row)
     }
 }
 
+void LineDrawing::redrawRow(const std::string& line, unsigned row)
+{
+    const std::string_view prefix = "chip-";
+    const std::string suffix = '-' + std::to_string(row);
+    for (const std::string& key : m_gameData.gameObjects().keys()) {
+        if (key.compare(0, prefix.size(), prefix) == 0
+            && key.compare(key.size() - suffix.size(), suffix.size(), suffix) == 0) {
+            m_gameData.gameObjects().removeGameObjectForKey(key);
+        }
+    }
+    createChipsForTheorem(line, row);
+}
+
 } // namespace veyrand::board

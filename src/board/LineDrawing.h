@@ -44,6 +44,8 @@ public:
 
     // Makes the row read as the line: nothing when it does, else its chips are drawn anew.
     void settleRow(const std::string& line, unsigned row);
+    // Draws every chip of the row anew, whatever an animation had made of it.
+    void redrawRow(const std::string& line, unsigned row);
 
 private:
     void dropTheorem2(const std::string& key, const std::weak_ptr<GameObject>& dropped);

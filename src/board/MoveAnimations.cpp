@@ -20,8 +20,18 @@ void MoveAnimations::start(const std::string& line, unsigned row, unsigned colum
     const auto move = std::make_shared<const Move>(
         Move { m_lines.introduceNewTheorem(line, row), line, row, column, endingColumn });
     for (const auto& [delay, phase] : phases) {
-        m_runLoop.performAfterDelay(delay, [this, move, phase = phase] { (this->*phase)(*move); });
+        m_runLoop.performAfterDelay(delay, [this, move, phase = phase, begun = m_abandoned] {
+            if (begun == m_abandoned) {
+                (this->*phase)(*move);
+            }
+        });
     }
+}
+
+void MoveAnimations::abandonAll()
+{
+    ++m_abandoned;
+    m_gameData.gameObjects().removeGameObjectForKey(kTemporaryGreen);
 }
 
 void MoveAnimations::addGreenToEnd(const std::string& line, unsigned row)

@@ -6,9 +6,9 @@ namespace veyrand::board {
 
 // The choreography of the seven moves. A new line is first shown as a copy of the line before the
 // move; then, in phases, its chips slide, drop, merge or fade in until the copy reads as the new
-// line. Every phase is scheduled at the start and always runs; it works on whatever the table holds
-// under the keys it computes, and a chip that has gone is passed over. Arguments: the line before
-// the move, the new line's row, and the columns named in each operation.
+// line. Every phase is scheduled at the start and runs unless the animation is abandoned; it works
+// on whatever the table holds under the keys it computes, and a chip that has gone is passed over.
+// Arguments: the line before the move, the new line's row, and the columns named in each operation.
 class MoveAnimations {
 public:
     MoveAnimations(GameData& gameData, LineDrawing& lines, platform::RunLoop& runLoop)
@@ -39,6 +39,10 @@ public:
     // Everything between the blues in the two columns drops off the board and the rest closes up.
     void dropBetweenBlues(
         const std::string& line, unsigned row, unsigned column, unsigned endingColumn);
+
+    // The phases still to come of every animation under way do nothing: for whoever draws the rows
+    // anew in the middle of one.
+    void abandonAll();
 
 private:
     // What the phases of one move share: the columns' meaning is the animation's.
@@ -83,6 +87,7 @@ private:
     GameData& m_gameData;
     LineDrawing& m_lines;
     platform::RunLoop& m_runLoop;
+    unsigned m_abandoned = 0; // how often; a phase begun before the last time no longer counts
 };
 
 } // namespace veyrand::board
