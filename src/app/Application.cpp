@@ -1,6 +1,8 @@
 #include "app/Application.h"
 
+#include "app/AboutBox.h"
 #include "app/MainWindow.h"
+#include "app/MenuActions.h"
 #include "controller/Game.h"
 #include "platform/qt/DataFolder.h"
 #include "platform/qt/FilePreferences.h"
@@ -8,6 +10,7 @@
 #include "platform/qt/OpenAlSounds.h"
 #include "platform/qt/QtOverlayWindow.h"
 #include "platform/qt/QtRunLoop.h"
+#include "platform/qt/QtWindow.h"
 #include "platform/qt/SystemPorts.h"
 #include "progress/PlayerKeys.h"
 
@@ -38,7 +41,8 @@ public:
                      .menu = m_menu,
                      .log = m_log,
                      .quit = m_quit,
-                     .overlay = m_overlay },
+                     .overlay = m_overlay,
+                     .window = m_windowModes },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -48,12 +52,9 @@ public:
         , m_window(m_menu, m_board)
     {
         m_overlay.setMainWindow(m_window);
-        controller::GameController& controller = m_game.controller();
-        m_menu.connectActions({ .classicGame = [&] { controller.flow().newClassicGame(); },
-            .endlessGame = [&] { controller.flow().newEndlessGame(); },
-            .musicChanged = [&] { controller.musicMenuClick(); },
-            .quit = [this] { m_quit.terminate(); },
-            .gamesEnabled = [&] { return controller.gameMenuItemEnabled(); } });
+        m_windowModes.setMainWindow(m_window);
+        m_window.setClosingListener([this] { savePlaceOfWindow(); });
+        m_menu.connectActions(menuActions(m_game.controller(), [this] { showAboutBox(m_window); }));
     }
 
     // What keeps the game from being played; empty when nothing does.
@@ -64,7 +65,7 @@ public:
 
     void show()
     {
-        m_window.show();
+        m_window.open(savedPlace(m_preferences));
         m_game.controller().awake({ .width = static_cast<double>(m_board.width()),
             .height = static_cast<double>(m_board.height()) });
     }
@@ -82,6 +83,13 @@ private:
         m_game.controller().windowDidResize();
     }
 
+    void savePlaceOfWindow()
+    {
+        savePlace(m_preferences,
+            { .geometry = m_window.ownGeometry(),
+                .zoomed = m_game.controller().fullScreen().staysZoomed() });
+    }
+
     platform::qt::QtRunLoop m_runLoop;
     platform::qt::FilePreferences m_preferences;
     platform::qt::OpenAlSounds m_sounds;
@@ -94,6 +102,7 @@ private:
     platform::qt::GameFont m_font;
     platform::qt::ImageStore m_images;
     platform::qt::QtOverlayWindow m_overlay;
+    platform::qt::QtWindow m_windowModes;
     platform::qt::GameMenu m_menu;
     progress::CurrentGame& m_currentGame;
     controller::Game m_game;

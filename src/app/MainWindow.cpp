@@ -1,5 +1,7 @@
 #include "app/MainWindow.h"
 
+#include <QCloseEvent>
+#include <QGuiApplication>
 #include <QScreen>
 
 #include <algorithm>
@@ -13,13 +15,8 @@ MainWindow::MainWindow(platform::qt::GameMenu& menu, platform::qt::BoardWidget& 
     setWindowTitle(QStringLiteral("Veyrand"));
     setMenuBar(m_menu.bar());
     setCentralWidget(&m_board);
-    // As large as comfortably fits the screen, in the game's own shape.
-    constexpr double kShare = 0.85;
-    constexpr double kAspect = 1.6;
-    const QSizeF available = screen()->availableSize();
-    const double height = std::min(available.height(), available.width() / kAspect) * kShare;
-    resize(static_cast<int>(height * kAspect),
-        static_cast<int>(height) + m_menu.bar()->sizeHint().height());
+    addActions(m_menu.actions());
+    m_board.setFocus(); // or the desktop's first key press would go to the menu bar
 }
 
 MainWindow::~MainWindow()
@@ -27,6 +24,49 @@ MainWindow::~MainWindow()
     // Both are members of the application, which outlives the window.
     m_menu.bar()->setParent(nullptr);
     m_board.setParent(nullptr);
+}
+
+void MainWindow::open(const std::optional<WindowPlace>& place)
+{
+    if (place) {
+        QList<QRect> screens;
+        for (const QScreen* const each : QGuiApplication::screens()) {
+            screens.append(each->availableGeometry());
+        }
+        setGeometry(fittedTo(screens, place->geometry));
+        setWindowState(windowState().setFlag(Qt::WindowMaximized, place->zoomed));
+    } else {
+        constexpr double kShare = 0.85;
+        constexpr double kAspect = 1.6; // the game's own shape
+        const QSizeF available = screen()->availableSize();
+        const double height = std::min(available.height(), available.width() / kAspect) * kShare;
+        resize(static_cast<int>(height * kAspect),
+            static_cast<int>(height) + m_menu.bar()->sizeHint().height());
+    }
+    show();
+}
+
+QRect MainWindow::ownGeometry() const
+{
+    return isMaximized() || isFullScreen() ? normalGeometry() : geometry();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    // Also when the desktop changes the state by itself.
+    if (event->type() == QEvent::WindowStateChange) {
+        m_menu.bar()->setVisible(!isFullScreen());
+        m_menu.setFullScreen(isFullScreen());
+    }
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_closing) {
+        m_closing();
+    }
+    QMainWindow::closeEvent(event);
 }
 
 } // namespace veyrand::app

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "app/WindowPlace.h"
 #include "platform/qt/BoardWidget.h"
 #include "platform/qt/GameMenu.h"
 
 #include <QMainWindow>
 
+#include <functional>
+
 namespace veyrand::app {
 
-// The window: the menu bar and, below it, the board.
+// The window: the menu bar and, below it, the board. In full-screen mode the bar is hidden and its
+// shortcuts go on working.
 class MainWindow final : public QMainWindow {
 public:
     // Takes the menu's bar and the widget into its own keeping only for as long as it lives.
@@ -16,9 +20,23 @@ public:
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow() override;
 
+    // Before the window is shown: as it was left, as far as today's screens allow; or, for the
+    // first time, as large as comfortably fits.
+    void open(const std::optional<WindowPlace>& place);
+    // Its place when it is neither zoomed nor in full-screen mode.
+    [[nodiscard]] QRect ownGeometry() const;
+
+    // Called whenever the window is about to go.
+    void setClosingListener(std::function<void()> closing) { m_closing = std::move(closing); }
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     platform::qt::GameMenu& m_menu;
     platform::qt::BoardWidget& m_board;
+    std::function<void()> m_closing;
 };
 
 } // namespace veyrand::app

@@ -1,7 +1,9 @@
 #include "app/VirtualGame.h"
 
+#include "app/MenuActions.h"
 #include "progress/PlayerKeys.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -35,6 +37,7 @@ platform::MemoryPreferences& prepared(
 void RecordedSounds::startLoop(std::string_view name, double volume)
 {
     m_loop = Loop { std::string(name), volume };
+    ++m_loopsStarted;
 }
 
 void RecordedSounds::setLoopVolume(double volume)
@@ -66,14 +69,11 @@ VirtualGame::VirtualGame(const Options& options)
                                                     .menu = m_menu,
                                                     .log = m_log,
                                                     .quit = m_quit,
-                                                    .overlay = m_overlay },
+                                                    .overlay = m_overlay,
+                                                    .window = m_window },
           m_currentGame, m_gameData))
 {
-    m_menu.connectActions({ .classicGame = [this] { controller().flow().newClassicGame(); },
-        .endlessGame = [this] { controller().flow().newEndlessGame(); },
-        .musicChanged = [this] { controller().musicMenuClick(); },
-        .quit = [this] { m_quit.terminate(); },
-        .gamesEnabled = [this] { return controller().gameMenuItemEnabled(); } });
+    m_menu.connectActions(menuActions(controller(), [this] { ++m_timesAbout; }));
     m_widget = std::make_unique<platform::qt::BoardWidget>(
         platform::qt::BoardWidget::Parts { .layers = m_game->layers(),
             .view = m_game->view(),
@@ -86,6 +86,11 @@ VirtualGame::VirtualGame(const Options& options)
     m_widget->setAttribute(Qt::WA_DontShowOnScreen);
     m_widget->resize(options.window);
     m_widget->show();
+    const QSize screen(
+        static_cast<int>(options.screen.width), static_cast<int>(options.screen.height));
+    m_window.setModeListener([this, screen, own = options.window] {
+        resize(m_window.isZoomed() || m_window.isInFullScreenMode() ? screen : own);
+    });
 }
 
 void VirtualGame::launch()
@@ -145,6 +150,12 @@ void VirtualGame::click(Point place)
 void VirtualGame::key(const QString& sequence)
 {
     const QKeySequence keys(sequence);
+    for (QAction* const action : m_menu.actions()) {
+        if (action->shortcut() == keys) {
+            action->trigger(); // as the desktop does before the widget hears of it
+            return;
+        }
+    }
     for (int i = 0; i < keys.count(); ++i) {
         const QKeyCombination combination = keys[static_cast<uint>(i)];
         for (const QEvent::Type type : { QEvent::KeyPress, QEvent::KeyRelease }) {

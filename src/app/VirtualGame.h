@@ -3,6 +3,7 @@
 #include "controller/Game.h"
 #include "platform/Log.h"
 #include "platform/MemoryPreferences.h"
+#include "platform/MemoryWindow.h"
 #include "platform/SeededRandom.h"
 #include "platform/VirtualRunLoop.h"
 #include "platform/qt/BoardWidget.h"
@@ -35,10 +36,13 @@ public:
     // The effects played since this was last asked.
     std::vector<std::string> takePlayed();
     [[nodiscard]] const std::optional<Loop>& loop() const { return m_loop; }
+    // How often a loop was started, from its beginning each time.
+    [[nodiscard]] int loopsStarted() const { return m_loopsStarted; }
 
 private:
     std::vector<std::string> m_played;
     std::optional<Loop> m_loop;
+    int m_loopsStarted = 0;
 };
 
 class FixedScreen final : public platform::Screen {
@@ -137,6 +141,9 @@ public:
     [[nodiscard]] const NotedQuit& quit() const { return m_quit; }
     [[nodiscard]] const NotedLog& log() const { return m_log; }
     [[nodiscard]] const NotedOverlay& overlay() const { return m_overlay; }
+    [[nodiscard]] platform::MemoryWindow& window() { return m_window; }
+    // How often the box about the program would have been shown.
+    [[nodiscard]] int timesAbout() const { return m_timesAbout; }
 
 private:
     [[nodiscard]] QPointF toWidget(platform::Point place);
@@ -151,6 +158,7 @@ private:
     NotedQuit m_quit;
     NotedLog m_log;
     NotedOverlay m_overlay;
+    platform::MemoryWindow m_window;
     platform::TrackedPointer m_pointer;
     platform::qt::GameFont m_font;
     platform::qt::ImageStore m_images;
@@ -162,6 +170,7 @@ private:
     platform::Point m_place;
     Qt::MouseButtons m_held;
     Qt::KeyboardModifiers m_modifiers;
+    int m_timesAbout = 0;
 };
 
 } // namespace veyrand::app

@@ -20,6 +20,7 @@ struct GamePorts {
     platform::Log& log;
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
+    platform::Window& window;
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -49,7 +50,8 @@ public:
             .script = m_script,
             .log = ports.log,
             .quit = ports.quit,
-            .overlay = ports.overlay }
+            .overlay = ports.overlay,
+            .window = ports.window }
         , m_controller(m_context)
     {
     }

@@ -7,6 +7,7 @@
 #include "platform/OverlayWindow.h"
 #include "platform/Preferences.h"
 #include "platform/Quit.h"
+#include "platform/Window.h"
 #include "present/BoardLayers.h"
 #include "progress/CurrentGame.h"
 
@@ -28,6 +29,7 @@ struct GameContext {
     platform::Log& log;
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
+    platform::Window& window;
 };
 
 } // namespace veyrand::controller

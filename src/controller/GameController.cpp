@@ -15,6 +15,7 @@ GameController::GameController(GameContext& context)
     , m_pages(*this)
     , m_dialogues(*this)
     , m_tutorial(*this)
+    , m_fullScreen(*this)
 {
     m_context.view.setGestureTarget(*this);
 }
@@ -37,7 +38,7 @@ void GameController::windowDidResize()
     }
     if (dialogueState() != 0) {
         m_context.view.hover().establishDialogueButtonTracking();
-    } else if (m_context.board.gameData.gameObjects().contains("label-points")) {
+    } else if (isPuzzleOnBoard()) {
         m_context.view.establishButtonTracking();
     } else {
         m_context.view.hover().establishTitlePagButtonTracking();
@@ -58,9 +59,26 @@ void GameController::loadOverlayWindow()
         "MessageBackground");
 }
 
+bool GameController::isPuzzleOnBoard() const
+{
+    return m_context.board.gameData.gameObjects().contains("label-points");
+}
+
 bool GameController::gameMenuItemEnabled() const
 {
     return !m_context.board.gameData.gameObjects().contains("button-lightbulbon");
+}
+
+bool GameController::canOpenPage() const
+{
+    return m_messages.messageWindow() == nullptr && dialogueState() == 0
+        && !m_context.view.block().blockClick();
+}
+
+void GameController::showHowToPlay()
+{
+    m_pages.show("howToPlayMessageWindow");
+    m_messages.setDisplayMessageWindowOnClick(0);
 }
 
 void GameController::mouseClick(const input::MouseEvent& /*event*/, unsigned row, unsigned column)

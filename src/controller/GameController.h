@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/Dialogues.h"
+#include "controller/FullScreen.h"
 #include "controller/GameFlow.h"
 #include "controller/Hints.h"
 #include "controller/Messages.h"
@@ -22,6 +23,8 @@ public:
     void awake(platform::Size viewSize);
     void updateContentViewFrame(platform::Size viewSize);
     void windowDidResize();
+    void toggleFullscreen() { m_fullScreen.toggleFullscreen(); }
+    void exitFullscreen() { m_fullScreen.exitFullscreen(); }
 
     [[nodiscard]] GameContext& context() const { return m_context; }
     [[nodiscard]] Moves& moves() { return m_moves; }
@@ -33,13 +36,23 @@ public:
     [[nodiscard]] Pages& pages() { return m_pages; }
     [[nodiscard]] Dialogues& dialogues() { return m_dialogues; }
     [[nodiscard]] Tutorial& tutorial() { return m_tutorial; }
+    [[nodiscard]] const FullScreen& fullScreen() const { return m_fullScreen; }
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
     void musicMenuClick();
     // A pane in a window of its own, in the middle of the game. Nothing in the game opens it.
     void loadOverlayWindow();
-    // Menu items that start games are for the title page only.
+    // A puzzle's panel is on the board, not the title page. It stays when the Classic game is over.
+    [[nodiscard]] bool isPuzzleOnBoard() const;
+    // Whether the screen shows nothing but the title page: no game, and nothing before it.
     [[nodiscard]] bool gameMenuItemEnabled() const;
+
+    // For the menu: it opens nothing over a page, note or dialogue, nor while input is blocked.
+    [[nodiscard]] bool canOpenPage() const;
+    [[nodiscard]] bool canStartGame() const { return canOpenPage() && gameMenuItemEnabled(); }
+    [[nodiscard]] bool canListMoves() const { return canOpenPage() && lineCount() > 0; }
+    // The page alone: the first lesson, which follows it for a new player, would be out of place.
+    void showHowToPlay();
 
     void mouseClick(const input::MouseEvent& event, unsigned row, unsigned column) override;
     bool mouseDrag(const input::MouseEvent& event, unsigned fromRow, unsigned fromColumn,
@@ -67,6 +80,7 @@ private:
     Pages m_pages;
     Dialogues m_dialogues;
     Tutorial m_tutorial;
+    FullScreen m_fullScreen;
 };
 
 } // namespace veyrand::controller

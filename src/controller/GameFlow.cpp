@@ -218,15 +218,9 @@ void GameFlow::regenerateBoard()
     if (!m_proof) {
         return;
     }
+    m_game.board.animations.abandonAll();
     for (unsigned row = 0; row < m_proof->lines().size(); ++row) {
-        const std::string& line = m_proof->lines()[row].theorem();
-        for (unsigned column = 0; column < line.size(); ++column) {
-            m_game.board.gameData.gameObjects().removeGameObjectForKey(
-                board::generateKeyChipKey(column, row));
-        }
-    }
-    for (unsigned row = 0; row < m_proof->lines().size(); ++row) {
-        m_game.board.lines.createChipsForTheorem(m_proof->lines()[row].theorem(), row);
+        m_game.board.lines.redrawRow(m_proof->lines()[row].theorem(), row);
     }
 }
 

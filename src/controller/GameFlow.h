@@ -36,7 +36,8 @@ public:
 
     // Puts the current game's puzzle on the board, without greeting or music.
     void layOutPuzzle();
-    // Draws every chip of every line anew.
+    // Draws every chip of every line anew, at once in its place. A move that was still being shown
+    // is over then.
     void regenerateBoard();
 
     // Runs the call later, unless another proof is in play by then.

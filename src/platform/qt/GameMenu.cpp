@@ -14,6 +14,11 @@ QString tr(const char* text)
     return QCoreApplication::translate("GameMenu", text);
 }
 
+QString shortcut(const char* keys)
+{
+    return QString::fromLatin1(keys);
+}
+
 void call(const std::function<void()>& action)
 {
     if (action) {
@@ -28,79 +33,121 @@ GameMenu::GameMenu(Preferences& preferences)
 {
     buildGameMenu();
     buildOptionsMenu();
+    buildHelpMenu();
 }
 
 void GameMenu::buildGameMenu()
 {
-    QMenu* const menu = m_bar.addMenu(tr("&Game"));
-    m_classic = menu->addAction(tr("&Classic Game"));
-    m_classic->setShortcut(QKeySequence(QStringLiteral("Ctrl+N")));
-    QObject::connect(
-        m_classic, &QAction::triggered, &m_bar, [this] { startGame(m_actions.classicGame); });
-    m_endless = menu->addAction(tr("&Endless Game"));
-    m_endless->setShortcut(QKeySequence(QStringLiteral("Ctrl+E")));
-    QObject::connect(
-        m_endless, &QAction::triggered, &m_bar, [this] { startGame(m_actions.endlessGame); });
-    menu->addSeparator();
-    QAction* const quit = menu->addAction(tr("&Quit"));
-    quit->setShortcut(QKeySequence(QKeySequence::Quit));
-    QObject::connect(quit, &QAction::triggered, &m_bar, [this] { call(m_actions.quit); });
-    // Greyed out while the menu is open and no game may be started; a shortcut meets startGame's
-    // own test.
-    QObject::connect(
-        menu, &QMenu::aboutToShow, &m_bar, [this] { setGamesEnabled(gamesEnabled()); });
-    QObject::connect(menu, &QMenu::aboutToHide, &m_bar, [this] { setGamesEnabled(true); });
+    QMenu& menu = *addMenu(tr("&Game"));
+    addItem(menu, tr("&Classic Game"), shortcut("Ctrl+N"), &Actions::classicGame,
+        &Actions::canStartGame);
+    addItem(menu, tr("&Endless Game"), shortcut("Ctrl+E"), &Actions::endlessGame,
+        &Actions::canStartGame);
+    menu.addSeparator();
+    addItem(menu, tr("&Quit"), shortcut("Ctrl+Q"), &Actions::quit);
 }
 
 void GameMenu::buildOptionsMenu()
 {
-    QMenu* const menu = m_bar.addMenu(tr("&Options"));
-    m_music = addSwitch(*menu, tr("&Music"), progress::kPlayMusicKey);
-    m_music->setShortcut(QKeySequence(QStringLiteral("Ctrl+M")));
+    QMenu& menu = *addMenu(tr("&Options"));
+    m_music = addSwitch(menu, tr("&Music"), shortcut("Ctrl+M"), progress::kPlayMusicKey);
     QObject::connect(m_music, &QAction::toggled, &m_bar, [this] { call(m_actions.musicChanged); });
-    m_effects = addSwitch(*menu, tr("&Sound Effects"), progress::kPlayEffectsKey);
-    m_effects->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+M")));
-}
-
-QAction* GameMenu::addSwitch(QMenu& menu, const QString& text, std::string_view key)
-{
-    QAction* const item = menu.addAction(text);
-    item->setCheckable(true);
-    item->setChecked(m_preferences.boolForKey(key));
+    m_effects = addSwitch(
+        menu, tr("&Sound Effects"), shortcut("Ctrl+Shift+M"), progress::kPlayEffectsKey);
+    menu.addSeparator();
+    m_fullScreen = addItem(menu, tr("&Full Screen"), shortcut("F11"), &Actions::toggleFullScreen);
+    m_fullScreen->setCheckable(true);
+    // In no menu, but what everybody presses to get out.
+    auto* const leave = new QAction(&m_bar);
+    addShortcut(*leave, shortcut("Esc"));
     QObject::connect(
-        item, &QAction::toggled, &m_bar, [this, key](bool on) { m_preferences.setValue(key, on); });
-    return item;
+        leave, &QAction::triggered, &m_bar, [this] { call(m_actions.exitFullScreen); });
 }
 
-bool GameMenu::gamesEnabled() const
+void GameMenu::buildHelpMenu()
 {
-    return !m_actions.gamesEnabled || m_actions.gamesEnabled();
+    QMenu& menu = *addMenu(tr("&Help"));
+    addItem(menu, tr("&How to Play"), shortcut("F1"), &Actions::howToPlay, &Actions::canOpenPage);
+    addItem(menu, tr("&Moves"), shortcut("F2"), &Actions::moves, &Actions::canListMoves);
+    menu.addSeparator();
+    addItem(menu, tr("&About Veyrand"), {}, &Actions::about);
 }
 
-void GameMenu::setGamesEnabled(bool enabled)
+QMenu* GameMenu::addMenu(const QString& title)
 {
-    m_classic->setEnabled(enabled);
-    m_endless->setEnabled(enabled);
+    QMenu* const menu = m_bar.addMenu(title);
+    // What may not be chosen is grey while the menu is open. A shortcut meets the test itself, for
+    // nothing tells when the answer to it changes.
+    QObject::connect(menu, &QMenu::aboutToShow, &m_bar, [this] {
+        for (const Item& item : m_items) {
+            item.action->setEnabled(passes(item.isEnabled));
+        }
+    });
+    QObject::connect(menu, &QMenu::aboutToHide, &m_bar, [this] {
+        for (const Item& item : m_items) {
+            item.action->setEnabled(true);
+        }
+    });
+    return menu;
 }
 
-void GameMenu::startGame(const std::function<void()>& start) const
+QAction* GameMenu::addItem(
+    QMenu& menu, const QString& text, const QString& keys, Action chosen, Test isEnabled)
 {
-    if (gamesEnabled()) {
-        call(start);
+    QAction* const action = menu.addAction(text);
+    addShortcut(*action, keys);
+    m_items.push_back({ action, isEnabled });
+    QObject::connect(action, &QAction::triggered, &m_bar, [this, chosen, isEnabled] {
+        if (passes(isEnabled)) {
+            call(m_actions.*chosen);
+        }
+    });
+    return action;
+}
+
+QAction* GameMenu::addSwitch(
+    QMenu& menu, const QString& text, const QString& keys, std::string_view key)
+{
+    QAction* const action = menu.addAction(text);
+    addShortcut(*action, keys);
+    action->setCheckable(true);
+    action->setChecked(m_preferences.boolForKey(key));
+    QObject::connect(action, &QAction::toggled, &m_bar,
+        [this, key](bool on) { m_preferences.setValue(key, on); });
+    return action;
+}
+
+void GameMenu::addShortcut(QAction& action, const QString& keys)
+{
+    if (!keys.isEmpty()) {
+        action.setShortcut(QKeySequence(keys));
+        m_shortcuts.append(&action);
     }
+}
+
+bool GameMenu::passes(Test test) const
+{
+    return test == nullptr || !(m_actions.*test) || (m_actions.*test)();
 }
 
 bool GameMenu::trigger(const QString& text)
 {
-    for (QAction* const menu : m_bar.actions()) {
-        for (QAction* const item : menu->menu()->actions()) {
-            QString plain = item->text();
+    for (QAction* const title : m_bar.actions()) {
+        QMenu& menu = *title->menu();
+        emit menu.aboutToShow();
+        for (QAction* const action : menu.actions()) {
+            QString plain = action->text();
             plain.remove(QLatin1Char('&'));
-            if (plain == text && item->isEnabled()) {
-                item->trigger();
-                return true;
+            if (plain == text) {
+                const bool enabled = action->isEnabled();
+                emit menu.aboutToHide();
+                if (enabled) {
+                    action->trigger();
+                }
+                return enabled;
             }
         }
+        emit menu.aboutToHide();
     }
     return false;
 }
