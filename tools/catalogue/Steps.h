@@ -16,19 +16,14 @@ namespace veyrand::catalogue {
 
 // Calls visit(child) for each match of one rule, in order, however long the child is: from a line
 // of the board none is ever too long for a word. Ends early, answering false, as soon as visit
-// does. Serves both forms of the engine's call while it is being made faster.
-template <class Visit, class Moves = engine::PackedMoves>
-bool forEachMatch(
-    unsigned rule, engine::PackedLine line, const Visit& visit, const Moves& moves = gameMoves())
+// does.
+template <class Visit>
+bool forEachMatch(unsigned rule, engine::PackedLine line, const Visit& visit,
+    const engine::PackedMoves& moves = gameMoves())
 {
-    constexpr unsigned kLongest = engine::PackedLine::kMostChips;
-    if constexpr (requires { typename Moves::Children; }) {
-        typename Moves::Children children;
-        moves.childrenByRule(rule, line, kLongest, children);
-        return std::all_of(children.begin(), children.end(), visit);
-    } else {
-        return moves.forEachChildByRule(rule, line, kLongest, visit);
-    }
+    engine::PackedMoves::Children children;
+    moves.childrenByRule(rule, line, engine::PackedLine::kMostChips, children);
+    return std::all_of(children.begin(), children.end(), visit);
 }
 
 // A line of the game's letters; throws std::runtime_error for any other.
