@@ -1,0 +1,30 @@
+#include "platform/linux/AppImage.h"
+
+#include "platform/linux/MountTable.h"
+
+#include <cstdlib>
+
+namespace veyrand::platform::linux {
+
+namespace {
+
+std::string environment(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+} // namespace
+
+bool AppImage::holds(const std::string& path) const
+{
+    return !file.empty() && (path == file || isWithin(path, mountPoint));
+}
+
+AppImage AppImage::of(const std::string& program)
+{
+    const AppImage named { .file = environment("APPIMAGE"), .mountPoint = environment("APPDIR") };
+    return !named.mountPoint.empty() && named.holds(program) ? named : AppImage {};
+}
+
+} // namespace veyrand::platform::linux
