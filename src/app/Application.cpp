@@ -3,6 +3,7 @@
 #include "app/AboutBox.h"
 #include "app/MainWindow.h"
 #include "app/MenuActions.h"
+#include "app/SystemInstallation.h"
 #include "controller/Game.h"
 #include "platform/qt/DataFolder.h"
 #include "platform/qt/FilePreferences.h"
@@ -15,6 +16,7 @@
 #include "progress/PlayerKeys.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QTextStream>
 
 namespace veyrand::app {
@@ -28,6 +30,7 @@ public:
         : m_preferences(platform::qt::FilePreferences::usualFile())
         , m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
+        , m_installation(m_preferences)
         , m_images(dataFolder + QStringLiteral("/images"), m_font)
         , m_overlay(m_images)
         , m_menu(withDefaults(m_preferences))
@@ -42,7 +45,8 @@ public:
                      .log = m_log,
                      .quit = m_quit,
                      .overlay = m_overlay,
-                     .window = m_windowModes },
+                     .window = m_windowModes,
+                     .installation = m_installation.installation() },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -70,6 +74,23 @@ public:
             .height = static_cast<double>(m_board.height()) });
     }
 
+    // The application's own loop has ended by now, and what is asked here still needs one to be
+    // answered in.
+    void terminate()
+    {
+        m_window.hide();
+        m_sounds.stopLoop();
+        QEventLoop lastQuestions;
+        bool isDone = false;
+        m_game.controller().applicationWillTerminate([&] {
+            isDone = true;
+            lastQuestions.quit();
+        });
+        if (!isDone) {
+            lastQuestions.exec();
+        }
+    }
+
 private:
     static platform::Preferences& withDefaults(platform::Preferences& preferences)
     {
@@ -95,6 +116,7 @@ private:
     platform::qt::OpenAlSounds m_sounds;
     platform::qt::SystemRandom m_random;
     platform::qt::FileResources m_resources;
+    SystemInstallation m_installation;
     platform::qt::MainScreen m_screen;
     platform::qt::QtQuit m_quit;
     platform::qt::QtLog m_log;
@@ -121,7 +143,9 @@ int runGame(const QString& dataFolder)
         return 1;
     }
     application.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    application.terminate();
+    return status;
 }
 
 } // namespace veyrand::app

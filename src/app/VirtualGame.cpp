@@ -56,6 +56,7 @@ VirtualGame::VirtualGame(const Options& options)
     : m_random(options.seed)
     , m_resources(options.dataFolder)
     , m_screen(options.screen)
+    , m_installation(m_preferences)
     , m_images(options.dataFolder + QStringLiteral("/images"), m_font)
     , m_menu(prepared(m_preferences, options.preferences))
     , m_currentGame(m_preferences, m_random, m_resources)
@@ -70,7 +71,8 @@ VirtualGame::VirtualGame(const Options& options)
                                                     .log = m_log,
                                                     .quit = m_quit,
                                                     .overlay = m_overlay,
-                                                    .window = m_window },
+                                                    .window = m_window,
+                                                    .installation = m_installation.installation() },
           m_currentGame, m_gameData))
 {
     m_menu.connectActions(menuActions(controller(), [this] { ++m_timesAbout; }));

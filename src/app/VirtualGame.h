@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/VirtualInstallation.h"
 #include "controller/Game.h"
 #include "platform/Log.h"
-#include "platform/MemoryPreferences.h"
 #include "platform/MemoryWindow.h"
 #include "platform/SeededRandom.h"
 #include "platform/VirtualRunLoop.h"
@@ -140,6 +140,7 @@ public:
     [[nodiscard]] RecordedSounds& sounds() { return m_sounds; }
     [[nodiscard]] const NotedQuit& quit() const { return m_quit; }
     [[nodiscard]] const NotedLog& log() const { return m_log; }
+    [[nodiscard]] VirtualInstallation& installation() { return m_installation; }
     [[nodiscard]] const NotedOverlay& overlay() const { return m_overlay; }
     [[nodiscard]] platform::MemoryWindow& window() { return m_window; }
     // How often the box about the program would have been shown.
@@ -159,6 +160,7 @@ private:
     NotedLog m_log;
     NotedOverlay m_overlay;
     platform::MemoryWindow m_window;
+    VirtualInstallation m_installation;
     platform::TrackedPointer m_pointer;
     platform::qt::GameFont m_font;
     platform::qt::ImageStore m_images;

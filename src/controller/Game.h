@@ -21,6 +21,7 @@ struct GamePorts {
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
     platform::Window& window;
+    const install::Installation& installation;
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -51,7 +52,8 @@ public:
             .log = ports.log,
             .quit = ports.quit,
             .overlay = ports.overlay,
-            .window = ports.window }
+            .window = ports.window,
+            .installation = ports.installation }
         , m_controller(m_context)
     {
     }

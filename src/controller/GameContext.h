@@ -3,6 +3,7 @@
 #include "board/Board.h"
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
+#include "install/Installation.h"
 #include "platform/Log.h"
 #include "platform/OverlayWindow.h"
 #include "platform/Preferences.h"
@@ -30,6 +31,7 @@ struct GameContext {
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
     platform::Window& window;
+    const install::Installation& installation;
 };
 
 } // namespace veyrand::controller

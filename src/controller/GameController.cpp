@@ -1,6 +1,9 @@
 #include "controller/GameController.h"
 
 #include "controller/OverlayFrame.h"
+#include "install/M3InstallController.h"
+
+#include <memory>
 
 namespace veyrand::controller {
 
@@ -49,6 +52,13 @@ void GameController::musicMenuClick()
 {
     // Muting is by volume: the music goes on unheard.
     m_context.sounds.setLoopVolume(m_context.menu.musicOn() ? 1.0 : 0.0);
+}
+
+void GameController::applicationWillTerminate(std::function<void()> done)
+{
+    const auto installer = std::make_shared<install::M3InstallController>(m_context.installation);
+    // It lives in its own continuation, for there is no saying when the player answers.
+    installer->displayInstaller([installer, done = std::move(done)] { done(); });
 }
 
 void GameController::loadOverlayWindow()

@@ -11,6 +11,8 @@
 #include "controller/TitlePage.h"
 #include "controller/Tutorial.h"
 
+#include <functional>
+
 namespace veyrand::controller {
 
 // The game as the view and the menus see it: one name for each thing they can ask. The work is done
@@ -40,6 +42,9 @@ public:
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
     void musicMenuClick();
+    // The last thing the game does: the offer to install it, where there is reason for one. The
+    // game must live until `done` is called, which may be at once.
+    void applicationWillTerminate(std::function<void()> done);
     // A pane in a window of its own, in the middle of the game. Nothing in the game opens it.
     void loadOverlayWindow();
     // A puzzle's panel is on the board, not the title page. It stays when the Classic game is over.
