@@ -79,8 +79,11 @@ constexpr std::array kTitlePages {
 // Goes from picture to picture in one game, by the operations that a player's clicks would reach.
 class Gallery {
 public:
-    Gallery(const QString& dataFolder, const QDir& folder)
-        : m_game({ .dataFolder = dataFolder })
+    Gallery(const QString& dataFolder, const QDir& folder, QSize size)
+        : m_game({ .screen = { .width = static_cast<double>(size.width()),
+                       .height = static_cast<double>(size.height()) },
+            .window = size,
+            .dataFolder = dataFolder })
         , m_folder(folder)
     {
     }
@@ -106,6 +109,7 @@ public:
         flow.startEndlessGame();
         m_game.wait(kEverythingHasFadedIn);
         take("board-endless");
+        paintHandsOn();
         return m_complete;
     }
 
@@ -157,6 +161,31 @@ private:
         m_game.controller().messages().dismiss();
     }
 
+    // A lit button, a drag in the air over the chip it may fall on, and a chip that glows.
+    void paintHandsOn()
+    {
+        m_game.play({ .root = "YRRRGB", .goal = "YGRRB", .par = 3, .level = 5, .stage = 2 });
+        m_game.wait(kEverythingHasFadedIn);
+        pointAt("button-movesbuttonoff");
+        m_game.wait(kEverythingHasFadedIn);
+        take("board-pointed-at");
+        const auto from = m_game.centreOf("chip-1-0");
+        const auto onto = m_game.centreOf("chip-3-0");
+        if (from && onto) {
+            m_game.press(*from);
+            m_game.move({ .x = onto->x - 0.02, .y = onto->y - 0.02 });
+            take("board-dragging");
+            m_game.release(*onto);
+        }
+    }
+
+    void pointAt(const char* key)
+    {
+        if (const auto place = m_game.centreOf(key)) {
+            m_game.move(*place);
+        }
+    }
+
     void setTheScene(const Scene& scene)
     {
         if (scene.level == kTitlePage) {
@@ -198,13 +227,13 @@ private:
 
 } // namespace
 
-int paintGallery(const QString& dataFolder, const QString& pictureFolder)
+int paintGallery(const QString& dataFolder, const QString& pictureFolder, QSize size)
 {
     if (!QDir().mkpath(pictureFolder)) {
         QTextStream(stderr) << "The folder " << pictureFolder << " cannot be made" << Qt::endl;
         return 1;
     }
-    Gallery gallery(dataFolder, QDir(pictureFolder));
+    Gallery gallery(dataFolder, QDir(pictureFolder), size);
     if (!gallery.fault().empty()) {
         QTextStream(stderr) << "The pages cannot be painted: " << dataFolder << '/'
                             << QString::fromStdString(gallery.fault()) << Qt::endl;

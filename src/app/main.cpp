@@ -20,6 +20,7 @@ constexpr int kBadArguments = 2;
 struct Pictures {
     std::optional<std::string> demoFolder;
     std::optional<std::string> galleryFolder;
+    std::vector<int> gallerySize { 1440, 900 };
 
     [[nodiscard]] bool wanted() const { return demoFolder || galleryFolder; }
 };
@@ -38,8 +39,9 @@ int run(const Pictures& pictures)
             dataFolder, QString::fromStdString(*pictures.demoFolder));
     }
     if (pictures.galleryFolder) {
-        return veyrand::app::paintGallery(
-            dataFolder, QString::fromStdString(*pictures.galleryFolder));
+        return veyrand::app::paintGallery(dataFolder,
+            QString::fromStdString(*pictures.galleryFolder),
+            { pictures.gallerySize.at(0), pictures.gallerySize.at(1) });
     }
     return veyrand::app::runGame(dataFolder);
 }
@@ -56,11 +58,20 @@ int start(int argc, char* argv[])
               ->expected(0, 1)
               ->default_str("veyrand-demo")
               ->type_name("DIR");
-    options
-        .add_option("--gallery", pictures.galleryFolder,
-            "Leave a picture of every page, the title page, the dialogues and the boards in DIR")
-        ->type_name("DIR")
-        ->excludes(demo);
+    CLI::Option* const gallery
+        = options
+              .add_option("--gallery", pictures.galleryFolder,
+                  "Leave a picture of every page, the title page, the dialogues and the boards in "
+                  "DIR")
+              ->type_name("DIR")
+              ->excludes(demo);
+    options.add_option("--size", pictures.gallerySize, "The size of the gallery's pictures")
+        ->delimiter('x')
+        ->expected(2)
+        ->check(CLI::Range(320, 7680))
+        ->type_name("WIDTHxHEIGHT")
+        ->default_str("1440x900")
+        ->needs(gallery);
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

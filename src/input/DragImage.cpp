@@ -5,6 +5,7 @@ namespace veyrand::input {
 namespace {
 
 constexpr float kOpacity = 0.9F;
+constexpr float kLift = 0.16F; // of its side, above the board it was taken from
 constexpr float kAboveTheBoard = 10.0F;
 constexpr double kFlight = 0.25;
 constexpr double kRemoval = 0.5;
@@ -19,6 +20,7 @@ void DragImage::createDragImageLayer(
     image->setBounds({ .width = length, .height = length });
     image->setPosition(centre);
     image->setOpacity(kOpacity);
+    image->setLift(length * kLift);
     image->setZPosition(kAboveTheBoard);
     m_current = image->id();
     m_layers.backgroundLayer().addSublayer(std::move(image));

@@ -19,10 +19,12 @@ RectF intersection(const RectF& a, const RectF& b)
         .height = std::min(a.y + a.height, b.y + b.height) - bottom };
 }
 
-// Everything the item may touch: its bloom reaches past its rectangle.
+// Everything the item may touch: what surrounds it reaches past its rectangle.
 RectF extent(const DisplayItem& item)
 {
-    const float reach = 2.0F * item.glow;
+    const bool isText = std::holds_alternative<TextContent>(item.content);
+    const float reach = std::max({ kGlowReach * item.glow, kShadowReach * item.lift,
+        isText ? kTextReach * item.rect.height : 0.0F });
     return intersection({ .x = item.rect.x - reach,
                             .y = item.rect.y - reach,
                             .width = item.rect.width + 2.0F * reach,

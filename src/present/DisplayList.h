@@ -28,6 +28,12 @@ struct TextContent {
 
 using Content = std::variant<SolidContent, ImageContent, TextContent>;
 
+// How far past its rectangle a text may reach with what sets it off from its ground, as a share of
+// its line's height; and a bloom and a shadow, as a multiple of the radius and of the lift.
+inline constexpr float kTextReach = 0.15F;
+inline constexpr float kGlowReach = 2.0F;
+inline constexpr float kShadowReach = 2.0F;
+
 enum class Motion { Resting, Moving };
 
 // One layer as it is shown at one moment. Rectangles are in the view's points, origin lower left.
@@ -38,6 +44,7 @@ struct DisplayItem {
     platform::RectF clip;
     float opacity = 1.0F;
     float glow = 0.0F; // radius of the bloom, in points; 0 for none
+    float lift = 0.0F; // height above what lies behind, which sees its shadow, in points
     Motion motion = Motion::Resting; // resting items may be snapped to whole pixels
     friend bool operator==(const DisplayItem&, const DisplayItem&) = default;
 };

@@ -84,6 +84,12 @@ void Layer::setGlow(float radius)
     m_scene.setNeedsDisplay();
 }
 
+void Layer::setLift(float height)
+{
+    m_lift = height;
+    m_scene.setNeedsDisplay();
+}
+
 void Layer::setScale(float scale)
 {
     m_scale = scale;
@@ -203,6 +209,7 @@ void Layer::flattenInto(DisplayList& list, const Placement& outer) const
             .clip = outer.clip,
             .opacity = opacity,
             .glow = m_glow * scale,
+            .lift = m_lift * scale,
             .motion = motion });
     }
     const Placement inner { .origin = { .x = rect.x, .y = rect.y },

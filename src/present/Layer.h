@@ -49,6 +49,7 @@ public:
     void setHidden(bool hidden);
     void setZPosition(float z);
     void setGlow(float radius); // bloom, in points
+    void setLift(float height); // above what lies behind, in points: throws a shadow there
     void setScale(float scale); // of the layer and everything in it, about its centre
     void setMasksToBounds(bool masks);
 
@@ -105,6 +106,7 @@ private:
     float m_zPosition = 0.0F;
     float m_scale = 1.0F;
     float m_glow = 0.0F;
+    float m_lift = 0.0F;
     bool m_hidden = false;
     bool m_masksToBounds = false;
 };

@@ -68,6 +68,22 @@ TEST(Damage, AGlowReachesTwiceItsRadiusPastEveryEdge)
         UnorderedElementsAre(kRight, RectF { 42.0F, 2.0F, 26.0F, 26.0F }));
 }
 
+TEST(Damage, TheShadowOfWhatIsLiftedReachesTwiceItsHeightPastEveryEdge)
+{
+    DisplayItem lifted = item(1, kRight);
+    lifted.lift = 4.0F;
+    EXPECT_THAT(damageBetween({ item(1, kRight) }, { lifted }),
+        UnorderedElementsAre(kRight, RectF { 42.0F, 2.0F, 26.0F, 26.0F }));
+}
+
+TEST(Damage, ATextReachesAShareOfItsHeightPastEveryEdge)
+{
+    DisplayItem text = item(1, { 50.0F, 40.0F, 30.0F, 20.0F });
+    text.content = TextContent { "4-2", {} };
+    EXPECT_THAT(
+        damageBetween({}, { text }), UnorderedElementsAre(RectF { 47.0F, 37.0F, 36.0F, 26.0F }));
+}
+
 TEST(Damage, WhatTheClipCutsOffIsNotDamaged)
 {
     DisplayItem falling = item(1, { 10.0F, -5.0F, 10.0F, 10.0F });

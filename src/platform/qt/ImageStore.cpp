@@ -1,14 +1,15 @@
 #include "platform/qt/ImageStore.h"
 
+#include "platform/qt/Effects.h"
 #include "platform/qt/Logging.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QGraphicsBlurEffect>
-#include <QGraphicsPixmapItem>
-#include <QGraphicsScene>
+#include <QImageReader>
 #include <QPainter>
 #include <QPainterPath>
+
+#include <cmath>
 
 namespace veyrand::platform::qt {
 
@@ -32,20 +33,6 @@ QImage standIn(QSize size)
     painter.setPen(Qt::NoPen);
     painter.drawEllipse(image.rect());
     return image;
-}
-
-QImage blurred(const QPixmap& source, int radius)
-{
-    const int reach = 2 * radius;
-    QImage result = blank(source.size() + QSize(2 * reach, 2 * reach));
-    QGraphicsScene scene;
-    auto* const item = scene.addPixmap(source);
-    auto* const effect = new QGraphicsBlurEffect; // owned by the item from here on
-    effect->setBlurRadius(radius);
-    item->setGraphicsEffect(effect);
-    QPainter painter(&result);
-    scene.render(&painter, QRectF(), QRectF(QPointF(-reach, -reach), QSizeF(result.size())));
-    return result;
 }
 
 QColor toQColor(const board::Color& color)
@@ -78,45 +65,68 @@ const QPixmap& ImageStore::imageAtLeast(const std::string& name, QSize size)
 
 const QPixmap& ImageStore::glow(const std::string& name, QSize size, int radius)
 {
-    const QString key = QStringLiteral("%1 %2x%3 %4")
+    return effect(QLatin1Char('g'), name, size, radius, glowOf);
+}
+
+const QPixmap& ImageStore::shadow(const std::string& name, QSize size, int height)
+{
+    return effect(QLatin1Char('s'), name, size, height, shadowOf);
+}
+
+const QPixmap& ImageStore::effect(QLatin1Char kind, const std::string& name, QSize size, int reach,
+    QImage (*make)(const QImage& picture, int reach))
+{
+    const QString key = QStringLiteral("%1%2 %3x%4 %5")
+                            .arg(kind)
                             .arg(QString::fromStdString(name))
                             .arg(size.width())
                             .arg(size.height())
-                            .arg(radius);
-    auto found = m_glows.find(key);
-    if (found == m_glows.end()) {
-        found = m_glows.insert(key, QPixmap::fromImage(blurred(image(name, size), radius)));
+                            .arg(reach);
+    auto found = m_effects.find(key);
+    if (found == m_effects.end()) {
+        const QImage picture = image(name, size).toImage();
+        found = m_effects.insert(key, QPixmap::fromImage(make(picture, reach)));
     }
     return *found;
 }
 
-const QPixmap& ImageStore::text(const present::TextContent& text, QSize size)
+// The letters keep the exact size: rounded to whole pixels a long line would be some pixels too
+// short or too long for the gaps in which pictures lie.
+const QPixmap& ImageStore::text(const present::TextContent& text, QSizeF size)
 {
     const QColor color = toQColor(text.color);
     const QString string = QString::fromStdString(text.text);
-    const QString key
-        = string + QLatin1Char('\n') + color.name(QColor::HexArgb) + QString::number(size.height());
+    const QString key = string + QLatin1Char('\n') + color.name(QColor::HexArgb)
+        + QString::number(size.height(), 'f', 2);
     auto found = m_texts.find(key);
     if (found == m_texts.end()) {
-        QImage image = blank(size);
-        QPainter painter(&image);
+        const int margin = textMargin(size);
+        const QSize whole(
+            static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height())));
+        QImage letters = blank(whole + QSize(2 * margin, 2 * margin));
+        QPainter painter(&letters);
         painter.setRenderHint(QPainter::Antialiasing);
         const double em = size.height() / m_font.lineHeight();
-        painter.translate(0.0, m_font.ascent() * em);
+        painter.translate(margin, margin + m_font.ascent() * em);
         painter.scale(em / GameFont::kMeasuringSize, em / GameFont::kMeasuringSize);
         QPainterPath outlines;
         outlines.addText(0.0, 0.0, m_font.font(), string);
         painter.fillPath(outlines, color);
         painter.end();
-        found = m_texts.insert(key, QPixmap::fromImage(image));
+        found = m_texts.insert(key, QPixmap::fromImage(setOff(letters, color, em)));
     }
     return *found;
+}
+
+int ImageStore::textMargin(QSizeF size)
+{
+    return static_cast<int>(std::floor(static_cast<double>(present::kTextReach) * size.height()));
 }
 
 void ImageStore::forgetSizes()
 {
     m_images.clear();
-    m_glows.clear();
+    m_effects.clear();
     m_texts.clear();
 }
 
@@ -141,12 +151,11 @@ QImage ImageStore::draw(const std::string& name, QSize size)
 QImage ImageStore::drawSource(const QString& file, QSize size)
 {
     if (!file.endsWith(QLatin1String(".svg"))) {
-        auto photograph = m_photographs.find(file);
-        if (photograph == m_photographs.end()) {
-            photograph = m_photographs.insert(file, QImage(file));
-        }
-        return photograph->scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-            .convertToFormat(QImage::Format_RGB32);
+        // Decoding straight to the size is quicker than keeping and scaling the whole photograph,
+        // which would also take 37 MB.
+        QImageReader reader(file);
+        reader.setScaledSize(size);
+        return reader.read().convertToFormat(QImage::Format_RGB32);
     }
     auto& renderer = m_vectors[file];
     if (!renderer) {

@@ -30,25 +30,29 @@ public:
     // The named picture at some size already drawn that is no smaller, if there is one, for a layer
     // whose size changes from frame to frame; otherwise at the size.
     const QPixmap& imageAtLeast(const std::string& name, QSize size);
-    // The picture's light, blurred by the radius, to be added over it; it reaches twice the radius
-    // past every edge. Device pixels.
+    // The picture's light, to be added over it, and the shadow it throws when lifted, to be laid
+    // under it. They reach past every edge by twice the radius and twice the height. Device pixels.
     const QPixmap& glow(const std::string& name, QSize size, int radius);
+    const QPixmap& shadow(const std::string& name, QSize size, int height);
     // Forgets what was drawn for sizes that are no longer asked for; the sources stay.
     void forgetSizes();
-    // One line of text as high as the size.
-    const QPixmap& text(const present::TextContent& text, QSize size);
+    // One line of text as high as the size, with a margin all round for what sets it off from its
+    // ground and for letters that lean out of their line.
+    const QPixmap& text(const present::TextContent& text, QSizeF size);
+    [[nodiscard]] static int textMargin(QSizeF size); // device pixels
 
 private:
+    const QPixmap& effect(QLatin1Char kind, const std::string& name, QSize size, int reach,
+        QImage (*make)(const QImage& picture, int reach));
     [[nodiscard]] QImage draw(const std::string& name, QSize size);
     [[nodiscard]] QImage drawSource(const QString& file, QSize size);
 
     QString m_folder;
     const GameFont& m_font;
     std::map<std::pair<std::string, std::pair<int, int>>, QPixmap> m_images;
-    QHash<QString, QPixmap> m_glows;
+    QHash<QString, QPixmap> m_effects;
     QHash<QString, QPixmap> m_texts;
     std::map<QString, std::unique_ptr<QSvgRenderer>> m_vectors;
-    QHash<QString, QImage> m_photographs;
 };
 
 } // namespace veyrand::platform::qt

@@ -21,6 +21,11 @@ QSize wholeSize(const QRectF& pixels)
         std::max(1, static_cast<int>(std::lround(pixels.height()))) };
 }
 
+int wholeLength(float points, const ListPainter::Surface& surface)
+{
+    return static_cast<int>(std::lround(static_cast<double>(points) * surface.pixelRatio));
+}
+
 // The top left corner that keeps a picture of the whole size centred where it belongs.
 QPoint wholeCorner(const QRectF& pixels, QSize size)
 {
@@ -60,8 +65,9 @@ void ListPainter::paintItem(
     } else if (const auto* image = std::get_if<present::ImageContent>(&item.content)) {
         paintImage(painter, image->name, pixels, item, surface);
     } else if (const auto* text = std::get_if<present::TextContent>(&item.content)) {
-        const QSize size = wholeSize(pixels);
-        painter.drawPixmap(wholeCorner(pixels, size), m_images.text(*text, size));
+        const int margin = ImageStore::textMargin(pixels.size());
+        painter.drawPixmap(pixels.topLeft().toPoint() - QPoint(margin, margin),
+            m_images.text(*text, pixels.size()));
     }
     if (clipped) {
         painter.restore();
@@ -74,6 +80,10 @@ void ListPainter::paintImage(QPainter& painter, const std::string& name, const Q
     const QSize size = wholeSize(pixels);
     const QPoint corner = wholeCorner(pixels, size);
     const bool moving = item.motion == present::Motion::Moving;
+    if (const int height = wholeLength(item.lift, surface); height > 0) {
+        painter.drawPixmap(
+            corner - QPoint(2 * height, 2 * height), m_images.shadow(name, size, height));
+    }
     const QPixmap& picture
         = moving ? m_images.imageAtLeast(name, size) : m_images.image(name, size);
     if (picture.size() == size) {
@@ -81,9 +91,7 @@ void ListPainter::paintImage(QPainter& painter, const std::string& name, const Q
     } else {
         painter.drawPixmap(pixels, picture, QRectF(picture.rect()));
     }
-    if (item.glow > 0.0F) {
-        const int radius
-            = static_cast<int>(std::lround(static_cast<double>(item.glow) * surface.pixelRatio));
+    if (const int radius = wholeLength(item.glow, surface); radius > 0) {
         const QPainter::CompositionMode usual = painter.compositionMode();
         painter.setCompositionMode(QPainter::CompositionMode_Plus);
         painter.drawPixmap(

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+
+namespace veyrand::platform::qt {
+
+// What pictures do with light. All images are premultiplied ARGB; lengths are device pixels. The
+// first two results reach past every edge of the picture, by twice the radius and twice the height.
+
+// The light that the picture gives off when it is lit from within: to be added over it. It
+// brightens the picture by its own colours, so that a dark sign on it stays dark, and lies round it
+// as a halo.
+QImage glowOf(const QImage& picture, int radius);
+
+// The soft shadow of a picture that is lifted by the height: the light comes from the upper left,
+// so it falls to the lower right. There is none under the picture itself, which may be seen
+// through.
+QImage shadowOf(const QImage& picture, int height);
+
+// Letters with what sets them off from any ground: a shadow under light ones, a pale halo round
+// dark ones. They need a margin of an eighth of their em.
+QImage setOff(const QImage& letters, const QColor& color, double em);
+
+} // namespace veyrand::platform::qt
