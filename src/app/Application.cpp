@@ -3,6 +3,7 @@
 #include "app/AboutBox.h"
 #include "app/MainWindow.h"
 #include "app/MenuActions.h"
+#include "app/Notices.h"
 #include "app/SystemInstallation.h"
 #include "controller/Game.h"
 #include "platform/qt/DataFolder.h"
@@ -72,6 +73,11 @@ public:
         m_window.open(savedPlace(m_preferences));
         m_game.controller().awake({ .width = static_cast<double>(m_board.width()),
             .height = static_cast<double>(m_board.height()) });
+        if (m_preferences.isHeldElsewhere()) {
+            askAboutSecondCopy(m_window, [this] { m_quit.terminate(); });
+        }
+        m_preferences.setReporter(
+            [this](const QString& message) { showTrouble(m_window, message); });
     }
 
     // The application's own loop has ended by now, and what is asked here still needs one to be

@@ -19,8 +19,8 @@ namespace {
 
 constexpr double kLargestStep = 0.02; // game heights
 
-platform::MemoryPreferences& prepared(
-    platform::MemoryPreferences& preferences, const platform::Preferences::Contents& contents)
+platform::Preferences& prepared(
+    platform::Preferences& preferences, const platform::Preferences::Contents& contents)
 {
     preferences.registerDefaults(progress::registeredDefaults());
     for (const auto& [key, value] : contents.values) {
@@ -53,12 +53,14 @@ std::vector<std::string> RecordedSounds::takePlayed()
 }
 
 VirtualGame::VirtualGame(const Options& options)
-    : m_random(options.seed)
+    : m_preferences(
+        prepared(options.store != nullptr ? *options.store : m_memory, options.preferences))
+    , m_random(options.seed)
     , m_resources(options.dataFolder)
     , m_screen(options.screen)
     , m_installation(m_preferences)
     , m_images(options.dataFolder + QStringLiteral("/images"), m_font)
-    , m_menu(prepared(m_preferences, options.preferences))
+    , m_menu(m_preferences)
     , m_currentGame(m_preferences, m_random, m_resources)
     , m_gameData(m_screen)
     , m_game(std::make_unique<controller::Game>(controller::GamePorts { .runLoop = m_runLoop,

@@ -102,6 +102,7 @@ public:
         QSize window { 1440, 900 };
         std::uint32_t seed = 1;
         platform::Preferences::Contents preferences {}; // over the registered defaults
+        platform::Preferences* store = nullptr; // outlives the game; null for one in memory
         QString dataFolder {};
     };
 
@@ -136,7 +137,7 @@ public:
     [[nodiscard]] platform::qt::BoardWidget& widget() { return *m_widget; }
     [[nodiscard]] platform::qt::GameMenu& menu() { return m_menu; }
     [[nodiscard]] platform::VirtualRunLoop& runLoop() { return m_runLoop; }
-    [[nodiscard]] platform::MemoryPreferences& preferences() { return m_preferences; }
+    [[nodiscard]] platform::Preferences& preferences() { return m_preferences; }
     [[nodiscard]] RecordedSounds& sounds() { return m_sounds; }
     [[nodiscard]] const NotedQuit& quit() const { return m_quit; }
     [[nodiscard]] const NotedLog& log() const { return m_log; }
@@ -151,7 +152,8 @@ private:
     void sendMouse(QEvent::Type type, platform::Point place, Qt::MouseButton button);
 
     platform::VirtualRunLoop m_runLoop;
-    platform::MemoryPreferences m_preferences;
+    platform::MemoryPreferences m_memory;
+    platform::Preferences& m_preferences;
     platform::SeededRandom m_random;
     platform::qt::FileResources m_resources;
     FixedScreen m_screen;

@@ -128,6 +128,17 @@ TYPED_TEST_P(PreferencesContract, RecordsSurviveARestart)
     EXPECT_TRUE(boolForKey(*record, "Hinted"));
 }
 
+TYPED_TEST_P(PreferencesContract, AReplacedRecordStaysReplacedAfterARestart)
+{
+    this->preferences().setRecord(
+        "Player-New", { { "Score", std::int64_t { 150 } }, { "Hinted", true } });
+    this->preferences().setRecord("Player-New", { { "Level", std::int64_t { 2 } } });
+    this->reopen();
+    const auto record = this->preferences().record("Player-New");
+    ASSERT_TRUE(record.has_value());
+    EXPECT_EQ(*record, (PreferenceRecord { { "Level", std::int64_t { 2 } } }));
+}
+
 // Players choose their names.
 TYPED_TEST_P(PreferencesContract, AKeyMayHoldAnyCharacter)
 {
@@ -147,6 +158,6 @@ TYPED_TEST_P(PreferencesContract, AKeyMayHoldAnyCharacter)
 REGISTER_TYPED_TEST_SUITE_P(PreferencesContract, WhatIsMissingReadsAsNothing,
     ADefaultIsReadUntilTheUserStoresAValue, AStoredValueStandsWhenDefaultsComeLater,
     DefaultsAreNeverStored, ARecordIsReplacedAsAWhole, ValuesOfEveryKindSurviveARestart,
-    RecordsSurviveARestart, AKeyMayHoldAnyCharacter);
+    RecordsSurviveARestart, AReplacedRecordStaysReplacedAfterARestart, AKeyMayHoldAnyCharacter);
 
 } // namespace veyrand::platform
