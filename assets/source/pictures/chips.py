@@ -47,7 +47,7 @@ def chip(name):
     drawing = Drawing(SIZE, SIZE)
     glass = CHIP[name]
     _bezel(drawing)
-    depth = [(0, glass['face']), (.62, glass['face']), (.88, glass['deep']), (1, glass['rim'])]
+    depth = [(0, glass['face']), (.74, glass['face']), (.93, glass['deep']), (1, glass['rim'])]
     drawing.circle(CENTRE_X, CENTRE_Y, GLASS_RADIUS,
                    fill=drawing.radial(CENTRE_X, CENTRE_Y, GLASS_RADIUS, depth, (CENTRE_X + 4, CENTRE_Y + 8)))
     # Light that has passed through the glass gathers at the lower right.

@@ -39,10 +39,10 @@ IVORY = '#FFF8E6'
 
 # --- sea glass: the panes that carry messages. White text asks for 4.5 to 1 where it is small, the
 # indigo headings for 3 to 1; their halo gives them the rest.
-GLASS = [(0, '#1F6373'), (.12, '#297382'), (.5, '#327B88'), (.86, '#29707F'), (1, '#1D5F6E')]
-PLATE_GLASS = [(0, '#1F6373'), (.15, '#297382'), (.5, '#327B88'), (1, '#1D5F6E')]
+GLASS = [(0, '#1B5967'), (.12, '#236774'), (.5, '#2B6F7B'), (.86, '#236572'), (1, '#195562')]
+PLATE_GLASS = [(0, '#1B5967'), (.15, '#236774'), (.5, '#2B6F7B'), (1, '#195562')]
 GLASS_EDGE = '#0E3442'
-GLASS_POOL = [(0, '#BFF3EE', .17), (.5, '#9FE0DF', .07), (1, '#9FE0DF', 0)]
+GLASS_POOL = [(0, '#BFF3EE', .10), (.5, '#9FE0DF', .05), (1, '#9FE0DF', 0)]
 GLASS_DEEP = '#0B3B52'
 GLASS_SHAFT = '#E6FFFB'
 GLASS_LINE = '#C9F3EE'      # the engraved line along a pane's edge
@@ -55,9 +55,9 @@ LIGHT, DARK = 'light', 'dark'
 CHIP = {
     'Yellow': dict(light='#FFEFA6', face='#F7C531', deep='#C98A0C', rim='#7A4F05', emblem='#7C4A00', tone=DARK),
     'Red': dict(light='#FF8A6B', face='#CF3420', deep='#8E160E', rim='#520806', emblem='#FFE3D2', tone=LIGHT),
-    'Green': dict(light='#B5F2BE', face='#55C178', deep='#1F8350', rim='#0A4A2C', emblem='#05402A', tone=DARK),
+    'Green': dict(light='#A2EFAF', face='#4FBE72', deep='#1F8350', rim='#0A4A2C', emblem='#05402A', tone=DARK),
     'Blue': dict(light='#6FA4FF', face='#2450B4', deep='#122C78', rim='#081544', emblem='#D9E9FF', tone=LIGHT),
-    'Grey': dict(light='#EDEFF0', face='#A9AFB2', deep='#6C7377', rim='#3A3F43', emblem='#2C3236', tone=DARK),
+    'Grey': dict(light='#FFFFFF', face='#D0D5D8', deep='#8B9296', rim='#3A3F43', emblem='#2C3236', tone=DARK),
 }
 
 # --- arrows and rings: brighter than brass, as they must be seen first

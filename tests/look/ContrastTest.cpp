@@ -1,0 +1,221 @@
+#include "look/Colour.h"
+#include "platform/qt/ListPainter.h"
+#include "progress/PlayerKeys.h"
+#include "support/PlayedGame.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace veyrand::look {
+
+namespace {
+
+constexpr double kSmallText = 4.5;
+constexpr double kLargeText = 3.0;
+constexpr double kLargeSize = 59.9; // font size, for a game 900 points high
+
+struct Measured {
+    double besideLetters = 21.0; // against what lies round the letters, their own halo included
+    double behindLetters = 21.0; // against the page without any text
+};
+
+// Marks the pixels no further than the distance from a marked one, along rows and columns.
+QImage spread(const QImage& mask, int distance)
+{
+    QImage result(mask.size(), QImage::Format_Grayscale8);
+    result.fill(0);
+    for (int y = 0; y < mask.height(); ++y) {
+        for (int x = 0; x < mask.width(); ++x) {
+            if (mask.constScanLine(y)[x] == 0) {
+                continue;
+            }
+            for (int dy = -distance; dy <= distance; ++dy) {
+                if (y + dy >= 0 && y + dy < mask.height()) {
+                    uchar* const row = result.scanLine(y + dy);
+                    const int left = std::max(0, x - distance);
+                    const int right = std::min(mask.width() - 1, x + distance);
+                    std::fill(row + left, row + right + 1, uchar { 255 });
+                }
+            }
+        }
+    }
+    return result;
+}
+
+// The letters are where the text's color is and the page without texts is another: a stone in a gap
+// may have lights as white as they are.
+QImage lettersOf(const QImage& page, const QImage& ground, const QRect& place, QRgb color)
+{
+    QImage mask(place.size(), QImage::Format_Grayscale8);
+    mask.fill(0);
+    const auto near = [](int a, int b) { return std::abs(a - b) <= 10; };
+    for (int y = 0; y < place.height(); ++y) {
+        for (int x = 0; x < place.width(); ++x) {
+            const QRgb pixel = page.pixel(place.x() + x, place.y() + y);
+            if (near(qRed(pixel), qRed(color)) && near(qGreen(pixel), qGreen(color))
+                && near(qBlue(pixel), qBlue(color))
+                && pixel != ground.pixel(place.x() + x, place.y() + y)) {
+                mask.scanLine(y)[x] = 255;
+            }
+        }
+    }
+    return mask;
+}
+
+// The mean luminance of the page where the mask is set, between two columns; nothing if nowhere.
+std::optional<double> meanLuminance(
+    const QImage& page, const QRect& place, const QImage& mask, int from, int to)
+{
+    double sum = 0.0;
+    int count = 0;
+    for (int y = 0; y < mask.height(); ++y) {
+        for (int x = from; x < std::min(to, mask.width()); ++x) {
+            if (mask.constScanLine(y)[x] != 0) {
+                sum += luminance(lightOf(page.pixel(place.x() + x, place.y() + y)));
+                ++count;
+            }
+        }
+    }
+    constexpr int kTooFew = 20;
+    return count < kTooFew ? std::nullopt : std::optional(sum / count);
+}
+
+} // namespace
+
+// Measures texts on painted pages, an em's width at a time: the worst place counts.
+class Contrast : public test::PlayedGame {
+protected:
+    void measureEverything(const std::string& page)
+    {
+        const present::DisplayList list = game().game().layers().displayList();
+        present::DisplayList bare = list;
+        std::erase_if(bare, [](const present::DisplayItem& item) {
+            return std::holds_alternative<present::TextContent>(item.content);
+        });
+        const QImage painted = paint(list);
+        const QImage ground = paint(bare);
+        for (const present::DisplayItem& item : list) {
+            const auto* const text = std::get_if<present::TextContent>(&item.content);
+            const bool covered = item.opacity < 1.0F || hasVeil(list, item);
+            if (text != nullptr && !covered
+                && text->text.find_first_not_of(' ') != std::string::npos) {
+                check(page, item, *text, painted, ground);
+            }
+        }
+    }
+
+    void showSmallest(const char* what) const
+    {
+        std::printf(
+            "%s: smallest contrast of small text %.2f (%.2f without its shadow), of text of "
+            "size 60 %.2f (%.2f without shadow or halo)\n",
+            what, m_small.besideLetters, m_small.behindLetters, m_large.besideLetters,
+            m_large.behindLetters);
+    }
+
+private:
+    // What lies under a message's veil is not being read.
+    static bool hasVeil(const present::DisplayList& list, const present::DisplayItem& item)
+    {
+        bool below = true;
+        for (const present::DisplayItem& other : list) {
+            if (other.layer == item.layer) {
+                below = false;
+            }
+            const auto* const image = std::get_if<present::ImageContent>(&other.content);
+            if (!below && image != nullptr && image->name == "Veil" && other.opacity > 0.0F) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    QImage paint(const present::DisplayList& list)
+    {
+        QImage image(game().widget().size(), QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        m_painter.paint(painter, list, { .height = static_cast<double>(image.height()) });
+        return image;
+    }
+
+    void check(const std::string& page, const present::DisplayItem& item,
+        const present::TextContent& text, const QImage& painted, const QImage& ground)
+    {
+        const double em = static_cast<double>(item.rect.height) / m_font.lineHeight();
+        const double size = em * 900.0 / painted.height();
+        const QRect place
+            = QRectF(static_cast<double>(item.rect.x),
+                  painted.height() - static_cast<double>(item.rect.y + item.rect.height),
+                  static_cast<double>(item.rect.width), static_cast<double>(item.rect.height))
+                  .toAlignedRect()
+            & painted.rect();
+        const Measured measured = measure(painted, ground, place, text, em);
+        const bool large = size >= kLargeSize;
+        Measured& smallest = large ? m_large : m_small;
+        smallest.besideLetters = std::min(smallest.besideLetters, measured.besideLetters);
+        smallest.behindLetters = std::min(smallest.behindLetters, measured.behindLetters);
+        EXPECT_GE(measured.besideLetters, large ? kLargeText : kSmallText)
+            << page << ": \"" << text.text << "\", size " << size << "; without its shadow "
+            << measured.behindLetters;
+    }
+
+    static Measured measure(const QImage& painted, const QImage& ground, const QRect& place,
+        const present::TextContent& text, double em)
+    {
+        const QRgb color = qRgb(static_cast<int>(std::lround(text.color.red * 255.0)),
+            static_cast<int>(std::lround(text.color.green * 255.0)),
+            static_cast<int>(std::lround(text.color.blue * 255.0)));
+        const QImage letters = lettersOf(painted, ground, place, color);
+        const QImage fringe = spread(letters, 1);
+        QImage around = spread(letters, std::max(3, static_cast<int>(std::lround(em * 0.06))));
+        for (int y = 0; y < around.height(); ++y) {
+            for (int x = 0; x < around.width(); ++x) {
+                if (fringe.constScanLine(y)[x] != 0) {
+                    around.scanLine(y)[x] = 0;
+                }
+            }
+        }
+        Measured worst;
+        const double own = luminance(lightOf(color));
+        const int step = std::max(8, static_cast<int>(std::lround(em)));
+        for (int x = 0; x < place.width(); x += step) {
+            if (const auto beside = meanLuminance(painted, place, around, x, x + step)) {
+                worst.besideLetters = std::min(worst.besideLetters, contrast(own, *beside));
+            }
+            if (const auto behind = meanLuminance(ground, place, letters, x, x + step)) {
+                worst.behindLetters = std::min(worst.behindLetters, contrast(own, *behind));
+            }
+        }
+        return worst;
+    }
+
+    platform::qt::GameFont m_font;
+    platform::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    platform::qt::ListPainter m_painter { m_images };
+    Measured m_small;
+    Measured m_large;
+};
+
+TEST_F(Contrast, EveryTextOfEveryPageCanBeRead)
+{
+    for (const auto& [name, page] : game().game().script().pages) {
+        play(at(6, 2, "YRGB", "YGGGG"));
+        game().preferences().setValue(progress::kEndlessGameUnlockedKey, false);
+        game().controller().pages().show(name);
+        wait(1.0);
+        measureEverything(name);
+        game().controller().messages().dismiss();
+    }
+    showSmallest("pages");
+}
+
+TEST_F(Contrast, TheCountersCanBeReadOnTheWood)
+{
+    play("YRGB", "YGGGG");
+    measureEverything("board");
+    showSmallest("board");
+}
+
+} // namespace veyrand::look
