@@ -105,16 +105,38 @@ protected:
         }
     }
 
+    // Words that are part of a picture, in one colour, on a plate.
+    double measureWords(const std::string& image, QSize size, QRgb color)
+    {
+        QImage painted = m_images.image(image, size).toImage();
+        const QImage ground(size, QImage::Format_RGB32); // unlike the words everywhere
+        // The frame round the plate may be as dark as burnt words are.
+        const QRect plate = QRect({}, size).adjusted(
+            size.width() / 10, size.height() / 5, -size.width() / 10, -size.height() / 5);
+        const present::TextContent text { image,
+            { qRed(color) / 255.0, qGreen(color) / 255.0, qBlue(color) / 255.0, 1.0 } };
+        return measure(painted, filled(ground, ~color), plate, text, size.height() * 0.5)
+            .besideLetters;
+    }
+
     void showSmallest(const char* what) const
     {
-        std::printf(
-            "%s: smallest contrast of small text %.2f (%.2f without its shadow), of text of "
-            "size 60 %.2f (%.2f without shadow or halo)\n",
-            what, m_small.besideLetters, m_small.behindLetters, m_large.besideLetters,
-            m_large.behindLetters);
+        for (const auto& [size, measured] : { std::pair("smaller text", &m_small),
+                 std::pair("text of size 60 and more", &m_large) }) {
+            if (measured->besideLetters < 21.0) {
+                std::printf("%s: smallest contrast of %s %.2f, without shadow or halo %.2f\n", what,
+                    size, measured->besideLetters, measured->behindLetters);
+            }
+        }
     }
 
 private:
+    static QImage filled(QImage image, QRgb color)
+    {
+        image.fill(color);
+        return image;
+    }
+
     // What lies under a message's veil is not being read.
     static bool hasVeil(const present::DisplayList& list, const present::DisplayItem& item)
     {
@@ -216,6 +238,37 @@ TEST_F(Contrast, TheCountersCanBeReadOnTheWood)
     play("YRGB", "YGGGG");
     measureEverything("board");
     showSmallest("board");
+}
+
+TEST_F(Contrast, TheWordsOfTheButtonsCanBeRead)
+{
+    constexpr QRgb kIvory = qRgb(0xFF, 0xF8, 0xE6);
+    constexpr QRgb kBurnt = qRgb(0x4A, 0x2C, 0x15);
+    const QSize side(270, 124); // twice the pixels of a window 900 pixels high
+    const QSize half(360, 157);
+    const QSize title(509, 220);
+    const QSize dialogue(761, 212);
+    const std::vector<std::tuple<std::string, std::string, QSize>> buttons {
+        { "HintButton", "HintButtonUncoloured", side },
+        { "MovesButton", "MovesButtonUncoloured", side },
+        { "MenuButton", "MenuButtonUncoloured", side },
+        { "HarderEasierTop", "HarderEasierTopUncoloured", half },
+        { "HarderEasierBottom", "HarderEasierBottomUncoloured", half },
+        { "ClassicButton", "ClassicButtonOff", title },
+        { "EndlessButton", "EndlessButtonOff", title },
+        { "QuitButton", "QuitButtonOff", title },
+        { "ContinueGame", "ContinueGameUncoloured", dialogue },
+        { "StartNewGame", "StartNewGameUncoloured", dialogue },
+    };
+    double smallest = 21.0;
+    for (const auto& [lit, bare, size] : buttons) {
+        for (const auto& [name, color] : { std::pair(lit, kIvory), std::pair(bare, kBurnt) }) {
+            const double contrast = measureWords(name, size, color);
+            EXPECT_GE(contrast, kSmallText) << name;
+            smallest = std::min(smallest, contrast);
+        }
+    }
+    std::printf("buttons: smallest contrast of words %.2f\n", smallest);
 }
 
 } // namespace veyrand::look

@@ -30,8 +30,8 @@ FRAME_GRAIN = '#1F0F05'
 # --- enamel of the lit buttons: (light, middle, deep). Ivory words lie on the middle tone and must
 # keep 4.5 to 1 against it.
 ENAMEL = {
-    'amber': ('#D8862A', '#A4600A', '#6E3C04'),
-    'green': ('#45A56C', '#1F7A49', '#0E4A2C'),
+    'amber': ('#D08024', '#985706', '#663703'),
+    'green': ('#3E9C64', '#1B7144', '#0C4528'),
     'blue': ('#5C88DE', '#2C56B8', '#152F78'),
     'red': ('#DE6A52', '#B83420', '#74160E'),
 }
