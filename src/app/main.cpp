@@ -83,6 +83,7 @@ int start(int argc, char* argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral(VEYRAND_ID)); // whose icon the desktop shows
     return run(pictures);
 }
 
