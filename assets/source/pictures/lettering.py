@@ -1,39 +1,33 @@
-"""Words as outlines: the pictures must not depend on the fonts of the machine that shows them."""
+"""Words as outlines: the pictures must not depend on the fonts of the machine that shows them.
+
+The letters are Linux Biolinum Bold's; letters.py took them out of the font into letters.json."""
 
 import json
-import subprocess
+import os
 
-from fontTools.pens.svgPathPen import SVGPathPen
-from fontTools.pens.transformPen import TransformPen
-from fontTools.ttLib import TTFont
+from .svg import number, numbers
 
-from .svg import number
+CAPITAL_HEIGHT = .645       # ems
 
-BOLD = '/usr/share/fonts/opentype/linux-libertine/LinBiolinum_RB.otf'
-CAPITAL_HEIGHT = .645       # of Biolinum Bold, in ems
-
-_font = None
+with open(os.path.join(os.path.dirname(os.path.abspath(__file__)), 'letters.json')) as file:
+    _FONT = json.load(file)
 
 
 def outline(text, size, spacing=0):
     """The word's path with its pen starting at (0, 0) on the baseline, and the word's width.
 
-    HarfBuzz places the letters, so pairs are kerned; `spacing` is added between them."""
-    global _font
-    _font = _font or TTFont(BOLD)
-    glyphs = _font.getGlyphSet()
-    scale = size / _font['head'].unitsPerEm
-    shaped = json.loads(subprocess.check_output(
-        ['hb-shape', '--output-format=json', '--no-clusters', '--features=-liga', BOLD, text]))
+    Pairs are kerned as the font says; `spacing` is added between the letters."""
+    scale = size / _FONT['unitsPerEm']
     data = []
-    x = 0
-    for glyph in shaped:
-        pen = SVGPathPen(glyphs, ntos=number)
-        place = ((x + glyph.get('dx', 0)) * scale, -glyph.get('dy', 0) * scale)
-        glyphs[glyph['g']].draw(TransformPen(pen, (scale, 0, 0, -scale) + place))
-        data.append(pen.getCommands())
-        x += glyph['ax'] + spacing / scale
-    return ''.join(data), x * scale - spacing
+    pen = 0
+    for i, character in enumerate(text):
+        letter = _FONT['letters'][character]
+        for operation, *coordinates in letter['path']:
+            placed = [(coordinate + pen) * scale if k % 2 == 0 else -coordinate * scale
+                      for k, coordinate in enumerate(coordinates)]
+            data.append(operation + ' '.join(numbers(*placed)))
+        pen += letter['advance'] + _FONT['pairs'].get(text[i:i + 2], 0) + spacing / scale
+    return ''.join(data), pen * scale - spacing
 
 
 def size_that_fits(text, size, spacing, room):

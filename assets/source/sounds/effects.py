@@ -82,7 +82,7 @@ def cymbal_roll():
     length = min(len(stroke), len(roll) - start)
     roll[start:start + length] += stroke[:length] * 1.05
     roll[start:] *= np.exp(-np.maximum(time[start:] - ROLL - 1.6, 0) / .45)[:, None]
-    return softened(in_room(high_pass(roll, 140), 1.6, .20, brightness=8000), -12, 5000)
+    return softened(in_room(high_pass(roll, 140), 1.6, .20, brightness=8000), -14, 4000)
 
 
 def delete_ding():
@@ -107,7 +107,7 @@ def triangle():
         steel = [(pitch, strength, decay * .52) for pitch, strength, decay in partials]
         place(stage, struck(2.5, steel, chance, .0003, .0025), 0, 1, side)
     place(stage, .25 * tap(.02, 5000, 15000, .0015, chance), 0)
-    return softened(in_room(stage, .9, .14, brightness=9000), -16, 4500)
+    return softened(in_room(stage, .9, .14, brightness=9000), -18, 3500)
 
 
 def glock_e2():
@@ -145,7 +145,7 @@ EFFECTS = {
     'Click': (click, -15, .02, -50),
     'Marble': (marble, -6, .05, -60),
     'No': (no, -7, .06, -56),
-    'CymbalRoll': (cymbal_roll, -4, .5, -60, -48),
+    'CymbalRoll': (cymbal_roll, -3.5, .5, -60, -48),
     'DeleteDing': (delete_ding, -11, .2, -60),
     'Triangle': (triangle, -12, .3, -58),
     'GlockE2': (glock_e2, -11, .3, -60),

@@ -1,0 +1,129 @@
+#include "look/Meter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <numbers>
+
+namespace veyrand::look {
+
+namespace {
+
+constexpr double kRate = 48000.0;
+constexpr double kSilent = -120.0;
+
+double inDecibels(double power)
+{
+    return power > 0.0 ? 10.0 * std::log10(power) : kSilent;
+}
+
+// A second-order filter over one channel.
+struct Filter {
+    double b0;
+    double b1;
+    double b2;
+    double a1;
+    double a2;
+
+    [[nodiscard]] std::vector<double> over(const std::vector<double>& input) const
+    {
+        std::vector<double> output(input.size());
+        double x1 = 0.0;
+        double x2 = 0.0;
+        double y1 = 0.0;
+        double y2 = 0.0;
+        for (std::size_t i = 0; i < input.size(); ++i) {
+            const double y = b0 * input[i] + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2;
+            x2 = x1;
+            x1 = input[i];
+            y2 = y1;
+            y1 = y;
+            output[i] = y;
+        }
+        return output;
+    }
+};
+
+// How loud the ear finds what, as ITU-R BS.1770 has it for 48 kHz.
+constexpr Filter kHead { 1.53512485958697, -2.69169618940638, 1.19839281085285, -1.69065929318241,
+    0.73248077421585 };
+constexpr Filter kLowCut { 1.0, -2.0, 1.0, -1.99004745483398, 0.99007225036621 };
+
+Filter highPass(double pitch, double resonance)
+{
+    const double w = 2.0 * std::numbers::pi * pitch / kRate;
+    const double alpha = std::sin(w) / (2.0 * resonance);
+    const double a0 = 1.0 + alpha;
+    const double b = (1.0 + std::cos(w)) / 2.0;
+    return { b / a0, -2.0 * b / a0, b / a0, -2.0 * std::cos(w) / a0, (1.0 - alpha) / a0 };
+}
+
+double energy(const std::vector<double>& samples)
+{
+    double sum = 0.0;
+    for (const double sample : samples) {
+        sum += sample * sample;
+    }
+    return sum;
+}
+
+double loudestWindow(const std::vector<double>& power)
+{
+    constexpr std::size_t kWindow = 19200; // 400 ms
+    constexpr std::size_t kStep = 48;
+    double loudest = 0.0;
+    std::vector<double> sums(power.size() + 1);
+    for (std::size_t i = 0; i < power.size(); ++i) {
+        sums[i + 1] = sums[i] + power[i];
+    }
+    for (std::size_t start = 0; start < power.size(); start += kStep) {
+        const std::size_t end = std::min(start + kWindow, power.size());
+        loudest = std::max(loudest, (sums[end] - sums[start]) / kWindow);
+    }
+    return loudest;
+}
+
+} // namespace
+
+Meter measured(const platform::qt::SoundSamples& sound)
+{
+    const std::size_t frames = sound.frames();
+    const auto channels = static_cast<std::size_t>(sound.channels);
+    const std::size_t lastOnes = frames - std::min<std::size_t>(frames, 96);
+    std::vector<double> power(frames);
+    std::vector<double> level(frames);
+    Meter meter;
+    meter.seconds = static_cast<double>(frames) / sound.rate;
+    double treble = 0.0;
+    double all = 0.0;
+    double last = 0.0;
+    for (std::size_t channel = 0; channel < channels; ++channel) {
+        std::vector<double> samples(frames);
+        for (std::size_t i = 0; i < frames; ++i) {
+            const int value = sound.samples[i * channels + channel];
+            samples[i] = value / 32768.0;
+            meter.clipped += std::abs(value) >= std::numeric_limits<std::int16_t>::max() ? 1 : 0;
+            level[i] = std::max(level[i], std::abs(samples[i]));
+            last = i >= lastOnes ? std::max(last, std::abs(samples[i])) : last;
+        }
+        const std::vector<double> heard = kLowCut.over(kHead.over(samples));
+        for (std::size_t i = 0; i < frames; ++i) {
+            power[i] += heard[i] * heard[i];
+        }
+        all += energy(samples);
+        // The two resonances of a Butterworth filter of fourth order.
+        treble += energy(highPass(6000.0, 1.3066).over(highPass(6000.0, 0.5412).over(samples)));
+    }
+    const double peak = *std::max_element(level.begin(), level.end());
+    meter.peak = inDecibels(peak * peak);
+    meter.loudness = -0.691 + inDecibels(loudestWindow(power));
+    const auto started = std::find_if(
+        level.begin(), level.end(), [peak](double value) { return value > peak / 10.0; });
+    meter.start = static_cast<double>(started - level.begin()) / sound.rate;
+    meter.end = inDecibels(last * last);
+    meter.treble = inDecibels(treble / all);
+    return meter;
+}
+
+} // namespace veyrand::look
