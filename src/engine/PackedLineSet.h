@@ -40,7 +40,7 @@ public:
             place = (place + 1) & (m_table.size() - 1);
             there = m_table[place];
         }
-        const bool isNew = (there < line.word()) & (there == 0);
+        const bool isNew = there < line.word(); // nothing, or the line itself, is there
         m_table[place] = line.word();
         return isNew;
     }

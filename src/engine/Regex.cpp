@@ -146,7 +146,7 @@ std::string stringByReplacingOccurrencesOfRegex(
     // The first call only measures: it is expected to fail for want of room.
     const std::int32_t needed = uregex_replaceAll(
         regex, wideReplacement.data(), length(wideReplacement), nullptr, 0, &status);
-    if (status != U_BUFFER_OVERFLOW_ERROR && U_FAILURE(status)) {
+    if (status != U_BUFFER_OVERFLOW_ERROR && U_FAILURE(status) != 0) {
         return std::string(text);
     }
     std::u16string result(static_cast<std::size_t>(needed) + 1, u'\0');
