@@ -46,7 +46,7 @@ int run(const Pictures& pictures)
     return veyrand::app::runGame(dataFolder);
 }
 
-int start(int argc, char* argv[])
+int start(int argc, char** argv)
 {
     CLI::App options("Veyrand, a puzzle game of rewrite moves", "veyrand");
     options.set_version_flag("--version", "veyrand " VEYRAND_VERSION);

@@ -108,7 +108,7 @@ void M3InstallController::displayInstaller(std::function<void()> done)
     });
 }
 
-void M3InstallController::installApp(std::function<void()> done)
+void M3InstallController::installApp(const std::function<void()>& done)
 {
     const std::string& name = m_installation.bundle.name;
     const std::string folder = ownFolder(m_installation.user);

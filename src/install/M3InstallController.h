@@ -22,7 +22,7 @@ public:
     void displayInstaller(std::function<void()> done);
     // Copies the application and tells how that went. An existing copy is replaced without asking,
     // and only by a complete new one: what fails half-way leaves it alone.
-    void installApp(std::function<void()> done);
+    void installApp(const std::function<void()>& done);
 
     [[nodiscard]] const platform::Alert& alert() const { return m_alert; }
 

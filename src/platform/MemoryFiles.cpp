@@ -30,7 +30,7 @@ void MemoryFiles::write(const std::string& path, std::string text)
 
 bool MemoryFiles::exists(const std::string& path) const
 {
-    return m_files.count(path) != 0 || m_folders.count(path) != 0;
+    return m_files.contains(path) || m_folders.contains(path);
 }
 
 std::string MemoryFiles::read(const std::string& path) const
@@ -56,10 +56,10 @@ bool MemoryFiles::isProtected(const std::string& path) const
 
 bool MemoryFiles::makeFolder(const std::string& path)
 {
-    if (m_folders.count(path) != 0) {
+    if (m_folders.contains(path)) {
         return true;
     }
-    if (isProtected(path) || m_files.count(path) != 0) {
+    if (isProtected(path) || m_files.contains(path)) {
         return false;
     }
     for (std::string folder = path; !folder.empty(); folder = parentOf(folder)) {
@@ -70,7 +70,7 @@ bool MemoryFiles::makeFolder(const std::string& path)
 
 bool MemoryFiles::copy(const std::string& from, const std::string& to)
 {
-    if (!exists(from) || exists(to) || m_folders.count(parentOf(to)) == 0 || isProtected(to)) {
+    if (!exists(from) || exists(to) || !m_folders.contains(parentOf(to)) || isProtected(to)) {
         return false;
     }
     const auto files = m_files; // read while the copies are added
@@ -79,16 +79,14 @@ bool MemoryFiles::copy(const std::string& from, const std::string& to)
             m_folders.insert(to + folder.substr(from.size()));
         }
     }
-    for (const auto& [path, text] : files) {
-        if (!isAtOrBelow(path, from)) {
-            continue;
+    const auto broken = isAtOrBelow(m_broken, from) ? files.find(m_broken) : files.end();
+    for (auto file = files.begin(); file != broken; ++file) {
+        const auto& [path, text] = *file;
+        if (isAtOrBelow(path, from)) {
+            m_files[to + path.substr(from.size())] = text;
         }
-        if (path == m_broken) {
-            return false;
-        }
-        m_files[to + path.substr(from.size())] = text;
     }
-    return true;
+    return broken == files.end();
 }
 
 bool MemoryFiles::replace(const std::string& path, const std::string& newcomer)

@@ -59,11 +59,11 @@ QImage denser(QImage image, double gain)
 
 struct SetOff {
     QColor color;
-    double radius; // of the blur, in ems
-    double right; // the fall, in ems
-    double down;
-    double gain;
-    double opacity;
+    double radius = 0.0; // of the blur, in ems
+    double right = 0.0; // the fall, in ems
+    double down = 0.0;
+    double gain = 0.0;
+    double opacity = 0.0;
 };
 constexpr double kHaloRadius = 0.034;
 

@@ -58,11 +58,10 @@ private:
     void buildOptionsMenu();
     void buildHelpMenu();
     QMenu* addMenu(const QString& title);
-    QAction* addItem(QMenu& menu, const QString& text, const QString& shortcut, Action chosen,
+    QAction* addItem(QMenu& menu, const QString& text, const QString& keys, Action chosen,
         Test isEnabled = nullptr);
-    QAction* addSwitch(
-        QMenu& menu, const QString& text, const QString& shortcut, std::string_view key);
-    void addShortcut(QAction& action, const QString& shortcut);
+    QAction* addSwitch(QMenu& menu, const QString& text, const QString& keys, std::string_view key);
+    void addShortcut(QAction& action, const QString& keys);
     [[nodiscard]] bool passes(Test test) const;
 
     Preferences& m_preferences;
