@@ -148,14 +148,31 @@ QImage ImageStore::draw(const std::string& name, QSize size)
     return standIn(size);
 }
 
+// The photograph at the smallest of the sizes, each half the one before, that still has every pixel
+// of the size asked for. The decoder skips what it need not unpack, and a window that is being
+// resized finds the photograph unpacked; the whole of it would take four times the time and the
+// memory.
+const QImage& ImageStore::photograph(const QString& file, QSize size)
+{
+    QImageReader reader(file);
+    QSize unpacked = reader.size();
+    while (unpacked.width() / 2 >= size.width() && unpacked.height() / 2 >= size.height()) {
+        unpacked /= 2;
+    }
+    QImage& kept = m_photographs[file];
+    if (kept.size() != unpacked) {
+        reader.setScaledSize(unpacked);
+        kept = reader.read();
+    }
+    return kept;
+}
+
 QImage ImageStore::drawSource(const QString& file, QSize size)
 {
     if (!file.endsWith(QLatin1String(".svg"))) {
-        // Decoding straight to the size is quicker than keeping and scaling the whole photograph,
-        // which would also take 37 MB.
-        QImageReader reader(file);
-        reader.setScaledSize(size);
-        return reader.read().convertToFormat(QImage::Format_RGB32);
+        return photograph(file, size)
+            .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_RGB32);
     }
     auto& renderer = m_vectors[file];
     if (!renderer) {

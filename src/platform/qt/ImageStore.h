@@ -46,6 +46,7 @@ private:
         QImage (*make)(const QImage& picture, int reach));
     [[nodiscard]] QImage draw(const std::string& name, QSize size);
     [[nodiscard]] QImage drawSource(const QString& file, QSize size);
+    [[nodiscard]] const QImage& photograph(const QString& file, QSize size);
 
     QString m_folder;
     const GameFont& m_font;
@@ -53,6 +54,7 @@ private:
     QHash<QString, QPixmap> m_effects;
     QHash<QString, QPixmap> m_texts;
     std::map<QString, std::unique_ptr<QSvgRenderer>> m_vectors;
+    std::map<QString, QImage> m_photographs;
 };
 
 } // namespace veyrand::platform::qt
