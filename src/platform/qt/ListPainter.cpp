@@ -26,12 +26,15 @@ int wholeLength(float points, const ListPainter::Surface& surface)
     return static_cast<int>(std::lround(static_cast<double>(points) * surface.pixelRatio));
 }
 
-// The top left corner that keeps a picture of the whole size centred where it belongs.
+// The top left corner that keeps a picture of the whole size centred where it belongs. Half-way
+// between two pixels it takes the lower, whatever the last digits of a long sum say: the same board
+// must not look different in two windows that only got to their size in different ways.
 QPoint wholeCorner(const QRectF& pixels, QSize size)
 {
+    constexpr double kHalfWay = 0.001;
     const QPointF centre = pixels.center();
-    return { static_cast<int>(std::lround(centre.x() - size.width() / 2.0)),
-        static_cast<int>(std::lround(centre.y() - size.height() / 2.0)) };
+    return { static_cast<int>(std::lround(centre.x() - size.width() / 2.0 - kHalfWay)),
+        static_cast<int>(std::lround(centre.y() - size.height() / 2.0 - kHalfWay)) };
 }
 
 } // namespace
