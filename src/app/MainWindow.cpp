@@ -16,6 +16,13 @@ MainWindow::MainWindow(platform::qt::GameMenu& menu, platform::qt::BoardWidget& 
     setMenuBar(m_menu.bar());
     setCentralWidget(&m_board);
     addActions(m_menu.actions());
+    // A window manager may change the place first and say later that it was for zooming. What has
+    // stood for a moment without a word was the player's.
+    constexpr int kMoment = 300; // milliseconds
+    m_geometryRests.setSingleShot(true);
+    m_geometryRests.setInterval(kMoment);
+    QObject::connect(
+        &m_geometryRests, &QTimer::timeout, this, [this] { m_ownGeometry = ownGeometry(); });
     m_board.setFocus(); // or the desktop's first key press would go to the menu bar
 }
 
@@ -34,6 +41,7 @@ void MainWindow::open(const std::optional<WindowPlace>& place)
             screens.append(each->availableGeometry());
         }
         setGeometry(fittedTo(screens, place->geometry));
+        m_ownGeometry = geometry();
         setWindowState(windowState().setFlag(Qt::WindowMaximized, place->zoomed));
     } else {
         constexpr double kShare = 0.85;
@@ -42,13 +50,33 @@ void MainWindow::open(const std::optional<WindowPlace>& place)
         const double height = std::min(available.height(), available.width() / kAspect) * kShare;
         resize(static_cast<int>(height * kAspect),
             static_cast<int>(height) + m_menu.bar()->sizeHint().height());
+        m_ownGeometry = geometry();
     }
     show();
 }
 
 QRect MainWindow::ownGeometry() const
 {
-    return isMaximized() || isFullScreen() ? normalGeometry() : geometry();
+    return isMaximized() || isFullScreen() ? m_ownGeometry : geometry();
+}
+
+void MainWindow::geometryChanged()
+{
+    if (!isMaximized() && !isFullScreen()) {
+        m_geometryRests.start();
+    }
+}
+
+void MainWindow::moveEvent(QMoveEvent* event)
+{
+    geometryChanged();
+    QMainWindow::moveEvent(event);
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    geometryChanged();
+    QMainWindow::resizeEvent(event);
 }
 
 void MainWindow::changeEvent(QEvent* event)

@@ -5,6 +5,7 @@
 #include "platform/qt/GameMenu.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <functional>
 
@@ -30,13 +31,19 @@ public:
     void setClosingListener(std::function<void()> closing) { m_closing = std::move(closing); }
 
 protected:
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void geometryChanged();
+
     platform::qt::GameMenu& m_menu;
     platform::qt::BoardWidget& m_board;
     std::function<void()> m_closing;
+    QRect m_ownGeometry;
+    QTimer m_geometryRests;
 };
 
 } // namespace veyrand::app

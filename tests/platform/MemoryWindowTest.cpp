@@ -9,6 +9,7 @@ namespace {
 class MemoryWindowHarness {
 public:
     Window& window() { return m_window; }
+    void settle() { }
 
 private:
     MemoryWindow m_window;

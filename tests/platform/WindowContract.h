@@ -13,11 +13,16 @@ namespace veyrand::platform {
 // where the harness begins with a window of its own size and offers
 //
 //     Window& window();
+//     void settle(); // returns once the desktop has done what it was asked
 template <class Harness> class WindowContract : public ::testing::Test {
 protected:
     Window& window() { return m_harness.window(); }
+    // At once, and as it stays.
     void expectModes(bool zoomed, bool fullScreen)
     {
+        EXPECT_EQ(window().isZoomed(), zoomed);
+        EXPECT_EQ(window().isInFullScreenMode(), fullScreen);
+        m_harness.settle();
         EXPECT_EQ(window().isZoomed(), zoomed);
         EXPECT_EQ(window().isInFullScreenMode(), fullScreen);
     }
@@ -58,6 +63,16 @@ TYPED_TEST_P(WindowContract, FullScreenModeAloneDoesNotZoom)
     this->expectModes(false, false);
 }
 
+TYPED_TEST_P(WindowContract, ModesChangedInOneGoAllCount)
+{
+    this->window().zoom();
+    this->window().enterFullScreenMode();
+    this->expectModes(true, true);
+    this->window().exitFullScreenMode();
+    this->window().zoom();
+    this->expectModes(false, false);
+}
+
 TYPED_TEST_P(WindowContract, EnteringTwiceIsEnteringOnce)
 {
     this->window().exitFullScreenMode();
@@ -71,6 +86,6 @@ TYPED_TEST_P(WindowContract, EnteringTwiceIsEnteringOnce)
 
 REGISTER_TYPED_TEST_SUITE_P(WindowContract, ANewWindowHasItsOwnSize,
     ZoomingTwiceGivesItsOwnSizeBack, BeingZoomedOutlastsFullScreenMode,
-    FullScreenModeAloneDoesNotZoom, EnteringTwiceIsEnteringOnce);
+    FullScreenModeAloneDoesNotZoom, ModesChangedInOneGoAllCount, EnteringTwiceIsEnteringOnce);
 
 } // namespace veyrand::platform

@@ -15,6 +15,7 @@ public:
         m_window.setMainWindow(m_widget);
     }
     Window& window() { return m_window; }
+    void settle() { QCoreApplication::processEvents(); }
 
 private:
     QWidget m_widget;
