@@ -43,6 +43,7 @@ int run(const Pictures& pictures)
             QString::fromStdString(*pictures.galleryFolder),
             { pictures.gallerySize.at(0), pictures.gallerySize.at(1) });
     }
+    QApplication::setWindowIcon(veyrand::platform::qt::applicationIcon(dataFolder));
     return veyrand::app::runGame(dataFolder);
 }
 

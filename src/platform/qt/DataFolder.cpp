@@ -22,6 +22,20 @@ QString findDataFolder()
     return {};
 }
 
+QIcon applicationIcon(const QString& dataFolder)
+{
+    QIcon icon;
+    for (const int size : { 16, 24, 32, 48, 64, 128 }) { // as window managers ask for them
+        const QString file = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/" VEYRAND_ID ".png")
+                                 .arg(dataFolder)
+                                 .arg(size);
+        if (QFile::exists(file)) {
+            icon.addFile(file, { size, size });
+        }
+    }
+    return icon;
+}
+
 std::optional<std::string> FileResources::dataNamed(
     std::string_view name, std::string_view type) const
 {

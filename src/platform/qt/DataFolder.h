@@ -2,6 +2,7 @@
 
 #include "platform/Resources.h"
 
+#include <QIcon>
 #include <QString>
 
 namespace veyrand::platform::qt {
@@ -10,6 +11,10 @@ namespace veyrand::platform::qt {
 // the running program, or share/games/veyrand where distributions put games. The environment
 // variable VEYRAND_DATA names another. Empty when there is none.
 QString findDataFolder();
+
+// The application's icon, from the folder of icons beside that of the data. Empty when none is
+// there.
+QIcon applicationIcon(const QString& dataFolder);
 
 // The named resources that the core reads, as files of the data folder.
 class FileResources final : public Resources {

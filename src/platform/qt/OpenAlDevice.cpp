@@ -2,6 +2,7 @@
 
 #include <AL/alc.h>
 #include <AL/alext.h>
+#include <AL/efx.h>
 #include <array>
 
 namespace veyrand::platform::qt {
@@ -59,9 +60,11 @@ std::shared_ptr<OpenAlDevice> OpenAlDevice::openDefault()
     if (device == nullptr) {
         return nullptr;
     }
-    // Nothing in the game has a place in a room: with headphones on, the simulation of one would
-    // only colour the sounds.
-    constexpr std::array<ALCint, 3> kAttributes { ALC_HRTF_SOFT, ALC_FALSE, 0 };
+    // The rate of our sounds, so that they pass through as they are. Nothing in the game has a
+    // place in a room: with headphones on, the simulation of one would only colour the sounds, and
+    // the means for echoes would take a megabyte.
+    constexpr std::array<ALCint, 7> kAttributes { ALC_FREQUENCY, 48000, ALC_HRTF_SOFT, ALC_FALSE,
+        ALC_MAX_AUXILIARY_SENDS, 0, 0 };
     ALCcontext* const context = alcCreateContext(device, kAttributes.data());
     if (context == nullptr || alcMakeContextCurrent(context) == ALC_FALSE) {
         if (context != nullptr) {

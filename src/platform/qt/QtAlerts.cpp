@@ -20,7 +20,8 @@ void QtAlerts::show(const Alert& alert, Answered answered)
 {
     auto* const box = new QMessageBox(QApplication::activeWindow());
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setIcon(QMessageBox::NoIcon);
+    constexpr int kIconSize = 64;
+    box->setIconPixmap(QApplication::windowIcon().pixmap(kIconSize));
     box->setWindowTitle(QApplication::applicationName());
     box->setTextFormat(Qt::PlainText);
     box->setText(plain(alert.message));

@@ -31,28 +31,29 @@ SoundSamples readSoundFile(const QString& file, QString& error)
     return sound;
 }
 
-SoundSamples withoutLoopGuards(const SoundSamples& guarded)
+SoundSamples withoutLoopGuards(SoundSamples sound)
 {
     constexpr std::size_t kFadeFrames = 240;
-    const auto channels = static_cast<std::size_t>(guarded.channels);
-    const auto guard = static_cast<std::size_t>(guarded.rate);
-    if (guarded.frames() <= 2 * guard + kFadeFrames) {
-        return guarded;
+    const auto channels = static_cast<std::size_t>(sound.channels);
+    const auto guard = static_cast<std::size_t>(sound.rate);
+    if (sound.frames() <= 2 * guard + kFadeFrames) {
+        return sound;
     }
-    const std::size_t frames = guarded.frames() - 2 * guard;
-    SoundSamples loop { {}, guarded.channels, guarded.rate };
-    const auto first = guarded.samples.begin() + static_cast<std::ptrdiff_t>(guard * channels);
-    loop.samples.assign(first, first + static_cast<std::ptrdiff_t>(frames * channels));
+    const std::size_t end = sound.frames() - guard;
+    std::vector<std::int16_t>& samples = sound.samples;
     for (std::size_t i = 0; i < kFadeFrames; ++i) {
         const double share = static_cast<double>(i + 1) / static_cast<double>(kFadeFrames);
         for (std::size_t channel = 0; channel < channels; ++channel) {
-            const std::size_t at = (frames - kFadeFrames + i) * channels + channel;
+            const std::size_t at = (end - kFadeFrames + i) * channels + channel;
             const std::size_t beforeStart = (guard - kFadeFrames + i) * channels + channel;
-            loop.samples[at] = static_cast<std::int16_t>(std::lround(
-                (1.0 - share) * loop.samples[at] + share * guarded.samples[beforeStart]));
+            samples[at] = static_cast<std::int16_t>(
+                std::lround((1.0 - share) * samples[at] + share * samples[beforeStart]));
         }
     }
-    return loop;
+    // In place: the music is the largest thing that the game ever holds.
+    samples.resize(end * channels);
+    samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(guard * channels));
+    return sound;
 }
 
 } // namespace veyrand::platform::qt

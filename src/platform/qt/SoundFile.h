@@ -25,6 +25,6 @@ SoundSamples readSoundFile(const QString& file, QString& error);
 // A loop is kept with a second of itself before its start and after its end, because the lossy
 // format leaves a step at the seam. Cuts those guards off and cross-fades the last frames into what
 // came before the start, so that the end runs into the beginning without a click.
-SoundSamples withoutLoopGuards(const SoundSamples& guarded);
+SoundSamples withoutLoopGuards(SoundSamples sound);
 
 } // namespace veyrand::platform::qt

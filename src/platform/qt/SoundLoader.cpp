@@ -40,7 +40,7 @@ void SoundLoader::run()
             SoundSamples decoded = readSoundFile(file.filePath(), error);
             // Only what loops is kept in the lossy format, which needs guards at both ends.
             const auto sound = std::make_shared<const SoundSamples>(
-                file.suffix() == QLatin1String("ogg") ? withoutLoopGuards(decoded)
+                file.suffix() == QLatin1String("ogg") ? withoutLoopGuards(std::move(decoded))
                                                       : std::move(decoded));
             tell([this, name = file.completeBaseName(), sound, error] {
                 m_listener.decoded(name, *sound, error);
