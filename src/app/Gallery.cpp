@@ -161,7 +161,8 @@ private:
         m_game.controller().messages().dismiss();
     }
 
-    // A lit button, a drag in the air over the chip it may fall on, and a chip that glows.
+    // A lit button, the same pressed, a drag in the air over the chip it may fall on, and a chip
+    // that glows.
     void paintHandsOn()
     {
         m_game.play({ .root = "YRRRGB", .goal = "YGRRB", .par = 3, .level = 5, .stage = 2 });
@@ -169,6 +170,11 @@ private:
         pointAt("button-movesbuttonoff");
         m_game.wait(kEverythingHasFadedIn);
         take("board-pointed-at");
+        if (const auto button = m_game.centreOf("button-movesbuttonoff")) {
+            m_game.press(*button);
+            take("board-pressed");
+            m_game.release({ .x = 1.2, .y = 0.5 });
+        }
         const auto from = m_game.centreOf("chip-1-0");
         const auto onto = m_game.centreOf("chip-3-0");
         if (from && onto) {

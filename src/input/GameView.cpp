@@ -46,6 +46,7 @@ void GameView::mouseDown(const MouseEvent& event)
         m_drag.reset();
         m_blockDrag = false;
         m_position = event.location;
+        holdDown(keyHit(event.location));
     }
 }
 
@@ -66,6 +67,7 @@ void GameView::mouseDragged(const MouseEvent& event)
 
 void GameView::mouseUp(const MouseEvent& event)
 {
+    letGo();
     if (m_drag) {
         endDrag(event);
     } else if (m_click) {
@@ -80,6 +82,26 @@ void GameView::mouseUp(const MouseEvent& event)
     m_held = Hover::Button::Up;
     // What the pointer crossed while the button was held is made good now.
     m_hover.pointerMoved(m_held);
+}
+
+// Only what is seen changes: the record knows nothing of it, and a layer that goes takes it along.
+void GameView::holdDown(const std::string& key)
+{
+    // A note's pictures share the keys of a dialogue's buttons.
+    const bool isButton
+        = Hover::isLitFace(key) && (m_target->dialogueState() != 0 || key.starts_with("button"));
+    if (isButton || isDeleteKey(key)) {
+        m_heldKey = key;
+        m_layers.layerForKey(key)->setPressed(true);
+    }
+}
+
+void GameView::letGo()
+{
+    if (present::GameObjectLayer* const layer = m_layers.layerForKey(m_heldKey)) {
+        layer->setPressed(false);
+    }
+    m_heldKey.clear();
 }
 
 bool GameView::hasMoved(platform::Point location) const

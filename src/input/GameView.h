@@ -55,6 +55,8 @@ private:
     [[nodiscard]] platform::PointF onBackground(platform::Point location) const;
     [[nodiscard]] bool hasMoved(platform::Point location) const;
     [[nodiscard]] present::GameObjectLayer* originLayer() const;
+    void holdDown(const std::string& key);
+    void letGo();
     void tryToStartDrag(platform::Point location);
     void startLayerDrag(const std::string& key, platform::Point position);
     void endDrag(const MouseEvent& event);
@@ -71,6 +73,7 @@ private:
     DragImage m_dragImage;
     platform::Point m_position; // of the last press
     std::optional<Drag> m_drag;
+    std::string m_heldKey; // of the button that looks pressed
     Hover::Button m_held = Hover::Button::Up;
     bool m_click = false; // a press that may become a click or a drag
     bool m_blockDrag = false; // this press may not become a drag

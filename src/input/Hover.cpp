@@ -1,5 +1,6 @@
 #include "input/Hover.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -56,6 +57,12 @@ void Hover::pointerMoved(Button button)
         m_buttonAreas.pointerMoved(position, *this);
     }
     m_dropAreas.pointerMoved(position, *this);
+}
+
+bool Hover::isLitFace(const std::string& key)
+{
+    return std::any_of(kButtonPairs.begin(), kButtonPairs.end(),
+        [&key](const ButtonPair& pair) { return pair.lit == key; });
 }
 
 void Hover::mouseEntered(const std::string& key)

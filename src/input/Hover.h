@@ -44,6 +44,9 @@ public:
     void interfaceElementOff(const std::string& key);
     [[nodiscard]] std::vector<std::string> trackedButtons() const { return m_buttonAreas.keys(); }
 
+    // Whether the key is that of a button's coloured face, which lies in front of the other.
+    [[nodiscard]] static bool isLitFace(const std::string& key);
+
     void mouseEntered(const std::string& key) override;
     void mouseExited(const std::string& key) override;
 

@@ -45,6 +45,7 @@ struct DisplayItem {
     float opacity = 1.0F;
     float glow = 0.0F; // radius of the bloom, in points; 0 for none
     float lift = 0.0F; // height above what lies behind, which sees its shadow, in points
+    bool pressed = false; // a button that is being held down
     Motion motion = Motion::Resting; // resting items may be snapped to whole pixels
     friend bool operator==(const DisplayItem&, const DisplayItem&) = default;
 };

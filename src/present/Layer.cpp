@@ -90,6 +90,12 @@ void Layer::setLift(float height)
     m_scene.setNeedsDisplay();
 }
 
+void Layer::setPressed(bool pressed)
+{
+    m_pressed = pressed;
+    m_scene.setNeedsDisplay();
+}
+
 void Layer::setScale(float scale)
 {
     m_scale = scale;
@@ -210,6 +216,7 @@ void Layer::flattenInto(DisplayList& list, const Placement& outer) const
             .opacity = opacity,
             .glow = m_glow * scale,
             .lift = m_lift * scale,
+            .pressed = m_pressed,
             .motion = motion });
     }
     const Placement inner { .origin = { .x = rect.x, .y = rect.y },

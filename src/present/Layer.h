@@ -43,6 +43,7 @@ public:
     [[nodiscard]] bool isHidden() const { return m_hidden; }
     [[nodiscard]] float zPosition() const { return m_zPosition; }
     [[nodiscard]] float glow() const { return m_glow; }
+    [[nodiscard]] bool isPressed() const { return m_pressed; }
     void setPosition(platform::PointF position);
     void setBounds(platform::SizeF bounds);
     void setOpacity(float opacity);
@@ -50,6 +51,7 @@ public:
     void setZPosition(float z);
     void setGlow(float radius); // bloom, in points
     void setLift(float height); // above what lies behind, in points: throws a shadow there
+    void setPressed(bool pressed); // shows it pushed into the board
     void setScale(float scale); // of the layer and everything in it, about its centre
     void setMasksToBounds(bool masks);
 
@@ -108,6 +110,7 @@ private:
     float m_glow = 0.0F;
     float m_lift = 0.0F;
     bool m_hidden = false;
+    bool m_pressed = false;
     bool m_masksToBounds = false;
 };
 

@@ -65,6 +65,35 @@ TEST_F(Clicks, TheLitFaceOfAButtonWasPlacedFirstAndIsHit)
     EXPECT_THAT(target().take(), ElementsAre("button-lightbulbon"));
 }
 
+TEST_F(Clicks, AButtonLooksPressedWhileItIsHeld)
+{
+    addButton("button-lightbulb", 0.275);
+    press(centre("button-lightbulbon"));
+    EXPECT_TRUE(layer("button-lightbulbon").isPressed());
+    EXPECT_FALSE(layer("button-lightbulboff").isPressed());
+    release(centre("button-lightbulbon"));
+    EXPECT_FALSE(layer("button-lightbulbon").isPressed());
+}
+
+TEST_F(Clicks, ALetGoButtonLooksUpWhereverThePointerIsThen)
+{
+    addButton("button-lightbulb", 0.275);
+    press(centre("button-lightbulbon"));
+    release({ 5.0, 5.0 });
+    EXPECT_FALSE(layer("button-lightbulbon").isPressed());
+}
+
+TEST_F(Clicks, ChipsAndWhatIsNoButtonNeverLookPressed)
+{
+    addImage("fullScreen-3i", 0.5, 0.5, 0.05); // a picture of a note: no dialogue is open
+    for (const char* key : { "chip-1-0", "fullScreen-3i" }) {
+        press(centre(key));
+        EXPECT_FALSE(layer(key).isPressed()) << key;
+        release(centre(key));
+        wait(1.0);
+    }
+}
+
 TEST_F(Clicks, AButtonsClickPutsTheBoardsLightsOut)
 {
     addButton("button-lightbulb", 0.275);

@@ -129,6 +129,28 @@ QImage shadowOf(const QImage& picture, int height)
     return shadow;
 }
 
+QImage pressedOf(const QImage& picture, int depth)
+{
+    constexpr double kEdgeShadow = 0.6;
+    const QColor shade(0, 0, 0, 26);
+    const int margin = kBlurReach * depth;
+    QImage board(
+        picture.size() + QSize(2 * margin, 2 * margin), QImage::Format_ARGB32_Premultiplied);
+    board.fill(Qt::black);
+    {
+        QPainter painter(&board);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        painter.drawImage(margin, margin, picture);
+    }
+    QImage pressed = picture;
+    QPainter painter(&pressed);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.fillRect(pressed.rect(), shade);
+    painter.setOpacity(kEdgeShadow);
+    painter.drawImage(depth - margin, depth - margin, blurred(board, depth));
+    return pressed;
+}
+
 QImage setOff(const QImage& letters, const QColor& color, double em)
 {
     const SetOff style = setOffFor(color);

@@ -18,6 +18,10 @@ QImage glowOf(const QImage& picture, int radius);
 // through.
 QImage shadowOf(const QImage& picture, int height);
 
+// The picture of a button that is pushed in: darker, and the edge above it and to its left throws
+// its shadow onto it, as far as the depth.
+QImage pressedOf(const QImage& picture, int depth);
+
 // Letters with what sets them off from any ground: a shadow under light ones, a pale halo round
 // dark ones. They need a margin of an eighth of their em.
 QImage setOff(const QImage& letters, const QColor& color, double em);

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace veyrand::platform::qt {
@@ -71,6 +72,12 @@ const QPixmap& ImageStore::glow(const std::string& name, QSize size, int radius)
 const QPixmap& ImageStore::shadow(const std::string& name, QSize size, int height)
 {
     return effect(QLatin1Char('s'), name, size, height, shadowOf);
+}
+
+const QPixmap& ImageStore::pressed(const std::string& name, QSize size)
+{
+    constexpr int kDepths = 24; // in its height
+    return effect(QLatin1Char('p'), name, size, std::max(1, size.height() / kDepths), pressedOf);
 }
 
 const QPixmap& ImageStore::effect(QLatin1Char kind, const std::string& name, QSize size, int reach,

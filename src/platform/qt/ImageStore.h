@@ -34,6 +34,8 @@ public:
     // under it. They reach past every edge by twice the radius and twice the height. Device pixels.
     const QPixmap& glow(const std::string& name, QSize size, int radius);
     const QPixmap& shadow(const std::string& name, QSize size, int height);
+    // The picture pushed in, as large as the picture.
+    const QPixmap& pressed(const std::string& name, QSize size);
     // Forgets what was drawn for sizes that are no longer asked for; the sources stay.
     void forgetSizes();
     // One line of text as high as the size, with a margin all round for what sets it off from its

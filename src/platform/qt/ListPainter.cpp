@@ -87,8 +87,9 @@ void ListPainter::paintImage(QPainter& painter, const std::string& name, const Q
         painter.drawPixmap(
             corner - QPoint(2 * height, 2 * height), m_images.shadow(name, size, height));
     }
-    const QPixmap& picture
-        = moving ? m_images.imageAtLeast(name, size) : m_images.image(name, size);
+    const QPixmap& picture = item.pressed ? m_images.pressed(name, size)
+        : moving                          ? m_images.imageAtLeast(name, size)
+                                          : m_images.image(name, size);
     if (picture.size() == size) {
         painter.drawPixmap(corner, picture);
     } else {

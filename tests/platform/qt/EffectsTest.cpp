@@ -113,6 +113,22 @@ TEST(Effects, AShadowFallsToTheLowerRightAndNotUnderThePicture)
     EXPECT_EQ(qRed(shadow.pixel(origin + 30, origin + 53)), 0);
 }
 
+TEST(Effects, APressedPictureKeepsItsOutlineAndLiesInTheShadowOfItsUpperLeftEdge)
+{
+    const QImage picture = stone(Qt::white);
+    const QImage pressed = pressedOf(picture, 4);
+    ASSERT_EQ(pressed.size(), picture.size());
+    for (int x = 0; x < kSide; ++x) {
+        EXPECT_EQ(alphaAt(pressed, x, 20), alphaAt(picture, x, 20));
+    }
+    const int upper = qRed(pressed.pixel(20, 11));
+    const int middle = qRed(pressed.pixel(40, 20));
+    const int lower = qRed(pressed.pixel(40, 47));
+    EXPECT_LT(upper, middle - 30);
+    EXPECT_LT(middle, 240);
+    EXPECT_GE(lower, middle - 5);
+}
+
 TEST(Effects, LightLettersGetAShadowAndDarkOnesAPaleHalo)
 {
     const auto besideLetters = [](const QColor& color) {
