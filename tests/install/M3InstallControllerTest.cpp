@@ -181,6 +181,9 @@ TEST_F(Installer, ANameWithAPlaceholderInItIsLeftAsItIs)
     m_bundle.name = "%@";
     const Installation world = installation();
     EXPECT_EQ(M3InstallController(world).alert().message, "%@ is running from a Disk Image!");
+    m_files.remove("/Applications");
+    quitAndAnswer(kInstall);
+    EXPECT_EQ(m_report.informativeText, "%@ was installed in /home/ada/Applications.");
 }
 
 TEST_F(Installer, EveryTextCanBeTranslated)

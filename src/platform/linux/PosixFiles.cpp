@@ -129,7 +129,9 @@ bool PosixFiles::replace(const std::string& path, const std::string& newcomer)
         fs::rename(newcomer, path, error);
         return !error;
     }
-    error = exchange(path, newcomer);
+    error = m_exchange == Exchange::InOneStep
+        ? exchange(path, newcomer)
+        : std::make_error_code(std::errc::function_not_supported);
     if (error == std::errc::invalid_argument || error == std::errc::function_not_supported) {
         error = exchangeByHand(path, newcomer);
     }

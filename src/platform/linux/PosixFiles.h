@@ -8,10 +8,21 @@ namespace veyrand::platform::linux {
 // read-only image: otherwise it could be neither filled nor replaced later.
 class PosixFiles final : public Files {
 public:
+    // How two names change hands: in one step where the file system knows how, or always in three.
+    enum class Exchange { InOneStep, ByHand };
+
+    explicit PosixFiles(Exchange exchange = Exchange::InOneStep)
+        : m_exchange(exchange)
+    {
+    }
+
     bool makeFolder(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
     bool replace(const std::string& path, const std::string& newcomer) override;
     bool remove(const std::string& path) override;
+
+private:
+    Exchange m_exchange;
 };
 
 } // namespace veyrand::platform::linux

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class PosixFilesHarness {
+template <linux::PosixFiles::Exchange kExchange> class PosixFilesHarness {
 public:
     Files& files() { return m_files; }
     std::string folder() { return m_folder.path(); }
@@ -31,7 +31,7 @@ public:
 
 private:
     test::ScratchFolder m_folder;
-    linux::PosixFiles m_files;
+    linux::PosixFiles m_files { kExchange };
 };
 
 class PosixFiles : public ::testing::Test {
@@ -42,7 +42,21 @@ protected:
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Posix, FilesContract, PosixFilesHarness);
+using Exchange = linux::PosixFiles::Exchange;
+INSTANTIATE_TYPED_TEST_SUITE_P(Posix, FilesContract, PosixFilesHarness<Exchange::InOneStep>);
+// As on a file system that cannot exchange two names.
+INSTANTIATE_TYPED_TEST_SUITE_P(PosixByHand, FilesContract, PosixFilesHarness<Exchange::ByHand>);
+
+TEST_F(PosixFiles, ReplacingLeavesNothingBeside)
+{
+    for (const Exchange exchange : { Exchange::InOneStep, Exchange::ByHand }) {
+        m_folder.write(m_folder.at("app/old"), "old");
+        m_folder.write(m_folder.at("new/new"), "new");
+        EXPECT_TRUE(linux::PosixFiles(exchange).replace(m_folder.at("app"), m_folder.at("new")));
+        EXPECT_EQ(std::distance(fs::directory_iterator(m_folder.path()), {}), 1);
+        EXPECT_EQ(m_folder.read(m_folder.at("app/new")), "new");
+    }
+}
 
 TEST_F(PosixFiles, ALinkIsCopiedAsALinkAndNotFollowed)
 {
