@@ -15,7 +15,7 @@ NSString* toPath(const std::string& path)
 // Also true for a symbolic link that leads nowhere.
 bool isThere(NSString* path)
 {
-    return [[NSFileManager defaultManager] attributesOfItemAtPath:path error:nil] != nil;
+    return [[NSFileManager defaultManager] attributesOfItemAtPath:path error:nullptr] != nil;
 }
 
 class MacFiles final : public Files {
@@ -25,7 +25,7 @@ public:
         return [[NSFileManager defaultManager] createDirectoryAtPath:toPath(path)
                                          withIntermediateDirectories:YES
                                                           attributes:nil
-                                                               error:nil]
+                                                               error:nullptr]
             == YES;
     }
 
@@ -33,7 +33,7 @@ public:
     {
         return [[NSFileManager defaultManager] copyItemAtPath:toPath(from)
                                                        toPath:toPath(to)
-                                                        error:nil]
+                                                        error:nullptr]
             == YES;
     }
 
@@ -41,20 +41,20 @@ public:
     {
         NSFileManager* const manager = [NSFileManager defaultManager];
         if (!isThere(toPath(path))) {
-            return [manager moveItemAtPath:toPath(newcomer) toPath:toPath(path) error:nil] == YES;
+            return [manager moveItemAtPath:toPath(newcomer) toPath:toPath(path) error:nullptr] == YES;
         }
         return [manager replaceItemAtURL:[NSURL fileURLWithPath:toPath(path)]
                            withItemAtURL:[NSURL fileURLWithPath:toPath(newcomer)]
                           backupItemName:nil
                                  options:NSFileManagerItemReplacementUsingNewMetadataOnly
                         resultingItemURL:nil
-                                   error:nil]
+                                   error:nullptr]
             == YES;
     }
 
     bool remove(const std::string& path) override
     {
-        [[NSFileManager defaultManager] removeItemAtPath:toPath(path) error:nil];
+        [[NSFileManager defaultManager] removeItemAtPath:toPath(path) error:nullptr];
         return !isThere(toPath(path));
     }
 };

@@ -51,25 +51,20 @@ private:
     io_object_t m_object;
 };
 
-mach_port_t masterPort()
-{
-    mach_port_t port = MACH_PORT_NULL;
-    // The zero asks for the default port; the named constant for it changed with the system.
-    return IOMasterPort(MACH_PORT_NULL, &port) == KERN_SUCCESS ? port : MACH_PORT_NULL;
-}
-
 // The entry of a device such as "/dev/disk2s1".
 io_object_t deviceEntry(const char* source)
 {
     constexpr const char* kDevices = "/dev/";
-    const mach_port_t port = masterPort();
-    if (port == MACH_PORT_NULL || std::strncmp(source, kDevices, std::strlen(kDevices)) != 0) {
+    // Stands for the master port; its name changed with the system, and the old one is frowned upon.
+    constexpr mach_port_t kMasterPort = MACH_PORT_NULL;
+    if (std::strncmp(source, kDevices, std::strlen(kDevices)) != 0) {
         return IO_OBJECT_NULL;
     }
     const CFMutableDictionaryRef matching
-        = IOBSDNameMatching(port, 0, source + std::strlen(kDevices));
-    return matching != nullptr ? IOServiceGetMatchingService(port, matching) // takes the dictionary
-                               : IO_OBJECT_NULL;
+        = IOBSDNameMatching(kMasterPort, 0, source + std::strlen(kDevices));
+    return matching != nullptr
+        ? IOServiceGetMatchingService(kMasterPort, matching) // takes the dictionary
+        : IO_OBJECT_NULL;
 }
 
 // The first parent of the entry; each entry on the way from a partition to its driver has only one.
