@@ -2,6 +2,8 @@
 
 #include "platform/qt/Logging.h"
 
+#include <QFile>
+
 #include <AL/al.h>
 #include <array>
 #include <map>
@@ -79,6 +81,11 @@ OpenAlSounds::OpenAlSounds(QString folder, OpenAlDevice::Opener opener)
     : m_folder(std::move(folder))
     , m_opener(std::move(opener))
 {
+    // Read when the first device is opened. Whoever has named another file means it.
+    constexpr const char* kSettings = "ALSOFT_CONF";
+    if (!qEnvironmentVariableIsSet(kSettings)) {
+        qputenv(kSettings, QFile::encodeName(m_folder + QStringLiteral("/alsoft.conf")));
+    }
     // Longer than the longest effect takes to leave the device.
     constexpr int kSilentAfter = 8000; // milliseconds
     m_silence.setSingleShot(true);
