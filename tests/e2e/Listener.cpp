@@ -22,18 +22,18 @@ namespace {
 using veyrand::platform::qt::readSoundFile;
 using veyrand::platform::qt::SoundSamples;
 
-// A quarter of the rate is enough to know a sound by, and sixteen times less work.
 constexpr int kRate = 48000;
+// A quarter of the rate is enough to find a sound by, and sixteen times less work.
 constexpr int kStep = 4;
 constexpr double kHeardRate = static_cast<double>(kRate) / kStep;
 
-using Samples = std::vector<float>; // from -1 to 1, kHeardRate a second
+using Samples = std::vector<float>; // from -1 to 1, one channel
 
-// Mixes the channels and takes the mean of every few frames.
-Samples heard(const std::vector<std::int16_t>& samples, int channels)
+// The channels mixed, at the full rate.
+Samples mixed(const std::vector<std::int16_t>& samples, int channels)
 {
     constexpr float kLoudest = 32768.0F;
-    const auto together = static_cast<std::size_t>(kStep * channels);
+    const auto together = static_cast<std::size_t>(channels);
     Samples result;
     for (std::size_t i = 0; i + together <= samples.size(); i += together) {
         float sum = 0.0F;
@@ -41,6 +41,17 @@ Samples heard(const std::vector<std::int16_t>& samples, int channels)
             sum += static_cast<float>(samples[j]);
         }
         result.push_back(sum / static_cast<float>(together) / kLoudest);
+    }
+    return result;
+}
+
+// The mean of every few frames: kHeardRate a second.
+Samples coarse(const Samples& fine)
+{
+    Samples result;
+    for (std::size_t i = 0; i + kStep <= fine.size(); i += kStep) {
+        const auto from = fine.begin() + static_cast<std::ptrdiff_t>(i);
+        result.push_back(std::accumulate(from, from + kStep, 0.0F) / kStep);
     }
     return result;
 }
@@ -55,10 +66,10 @@ Samples readRecording(const std::string& name)
     std::vector<std::int16_t> samples(
         static_cast<std::size_t>(bytes.size()) / sizeof(std::int16_t));
     std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(std::int16_t));
-    return heard(samples, 1);
+    return mixed(samples, 1);
 }
 
-// The loudest part of a sound, where it stands out from others.
+// The loudest quarter of a second, by which the sound is known.
 Samples readSound(const std::string& name)
 {
     QString error;
@@ -66,9 +77,8 @@ Samples readSound(const std::string& name)
     if (sound.rate != kRate) {
         throw std::runtime_error(name + " cannot be compared: " + error.toStdString());
     }
-    const Samples samples = heard(sound.samples, sound.channels);
-    constexpr double kEnough = 0.25; // seconds
-    const auto length = std::min(samples.size(), static_cast<std::size_t>(kEnough * kHeardRate));
+    const Samples samples = mixed(sound.samples, sound.channels);
+    const auto length = std::min(samples.size(), static_cast<std::size_t>(kRate / 4));
     Samples loudest;
     float most = 0.0F;
     for (std::size_t start = 0; start + length <= samples.size(); start += length / 8 + 1) {
@@ -83,23 +93,39 @@ Samples readSound(const std::string& name)
     return loudest;
 }
 
-// How much of the sound is in the recording where most of it is: 1 when it was played as it is, at
-// the full volume. What else is played at the same time adds little, being unlike it.
-float shareOf(const Samples& sound, const Samples& recording)
+// How much of the sound is in the recording from a frame on: 1 when it was played as it is, at the
+// full volume. What else is played at the same time adds little, being unlike it.
+float shareFrom(const Samples& sound, const Samples& recording, std::size_t start)
 {
-    float energy = 0.0F;
-    for (const float sample : sound) {
-        energy += sample * sample;
-    }
+    const float energy = std::inner_product(sound.begin(), sound.end(), sound.begin(), 0.0F);
+    const auto from = recording.begin() + static_cast<std::ptrdiff_t>(start);
+    return energy > 0.0F ? std::inner_product(sound.begin(), sound.end(), from, 0.0F) / energy
+                         : 0.0F;
+}
+
+// The share where it is greatest. Found coarsely, then looked at frame by frame: of a bright sound
+// little is left when it is held against itself two frames off.
+float shareOf(const Samples& sound, const Samples& recording, const Samples& coarseRecording)
+{
+    const Samples coarseSound = coarse(sound);
+    std::size_t place = 0;
     float best = 0.0F;
-    for (std::size_t start = 0; start + sound.size() <= recording.size(); ++start) {
-        float product = 0.0F;
-        for (std::size_t i = 0; i < sound.size(); ++i) {
-            product += sound[i] * recording[start + i];
+    for (std::size_t start = 0; start + coarseSound.size() <= coarseRecording.size(); ++start) {
+        const auto from = coarseRecording.begin() + static_cast<std::ptrdiff_t>(start);
+        const float product
+            = std::inner_product(coarseSound.begin(), coarseSound.end(), from, 0.0F);
+        if (product > best) {
+            best = product;
+            place = start * kStep;
         }
-        best = std::max(best, product);
     }
-    return energy > 0.0F ? best / energy : 0.0F;
+    float share = 0.0F;
+    for (std::size_t start = place < kStep ? 0 : place - kStep; start <= place + kStep; ++start) {
+        if (start + sound.size() <= recording.size()) {
+            share = std::max(share, shareFrom(sound, recording, start));
+        }
+    }
+    return share;
 }
 
 double longestSilence(const Samples& recording)
@@ -131,10 +157,11 @@ int run(int argc, char** argv)
         return options.exit(error) == 0 ? 0 : 2;
     }
     constexpr float kHeard = 0.7F;
-    const Samples recording = readRecording(recordingName);
+    const Samples fine = readRecording(recordingName);
+    const Samples recording = coarse(fine);
     bool asWanted = true;
     for (const std::string& name : soundNames) {
-        const float share = shareOf(readSound(name), recording);
+        const float share = shareOf(readSound(name), fine, recording);
         std::cout << QFileInfo(QString::fromStdString(name)).baseName().toStdString() << ' '
                   << share << (share < kHeard ? " (not heard)\n" : "\n");
         asWanted = asWanted && share >= kHeard;

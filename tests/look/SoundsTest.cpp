@@ -37,7 +37,7 @@ constexpr std::array kLevels {
     Level { "Click", -15.0, -37.0 },
     Level { "Marble", -6.0, -25.0 },
     Level { "No", -7.0, -17.6 },
-    Level { "CymbalRoll", -3.5, -11.5 },
+    Level { "CymbalRoll", -5.0, -11.4 },
     Level { "DeleteDing", -11.0, -18.9 },
     Level { "Triangle", -12.0, -18.8 },
     Level { "GlockE2", -11.0, -15.9 },

@@ -80,7 +80,7 @@ def cymbal_roll():
     stroke = play_notes([(0, CRASH, 3, 104), (0.012, SECOND_CRASH, 3, 84)], 3.4, channel=DRUMS, gain=.5)
     start = int(ROLL * RATE)
     length = min(len(stroke), len(roll) - start)
-    roll[start:start + length] += stroke[:length] * 1.05
+    roll[start:start + length] += stroke[:length] * .7
     roll[start:] *= np.exp(-np.maximum(time[start:] - ROLL - 1.6, 0) / .45)[:, None]
     return softened(in_room(high_pass(roll, 140), 1.6, .20, brightness=8000), -14, 4000)
 
@@ -145,7 +145,7 @@ EFFECTS = {
     'Click': (click, -15, .02, -50),
     'Marble': (marble, -6, .05, -60),
     'No': (no, -7, .06, -56),
-    'CymbalRoll': (cymbal_roll, -3.5, .5, -60, -48),
+    'CymbalRoll': (cymbal_roll, -5, .5, -60, -48),
     'DeleteDing': (delete_ding, -11, .2, -60),
     'Triangle': (triangle, -12, .3, -58),
     'GlockE2': (glock_e2, -11, .3, -60),

@@ -1,5 +1,6 @@
 #include "platform/qt/ImageStore.h"
 
+#include "platform/qt/Dither.h"
 #include "platform/qt/Effects.h"
 #include "platform/qt/Logging.h"
 
@@ -188,11 +189,17 @@ QImage ImageStore::drawSource(const QString& file, QSize size)
     if (!renderer->isValid()) {
         return {};
     }
-    QImage image = blank(size);
-    QPainter painter(&image);
     renderer->setAspectRatioMode(Qt::IgnoreAspectRatio);
+    // Only large pictures have gradients wide enough to show bands, and small ones come in numbers.
+    constexpr int kLarge = 240;
+    const bool large = std::min(size.width(), size.height()) >= kLarge;
+    QImage image(
+        size, large ? QImage::Format_RGBA64_Premultiplied : QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
     renderer->render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    return image;
+    painter.end();
+    return large ? dithered(image) : image;
 }
 
 } // namespace veyrand::platform::qt

@@ -1,6 +1,7 @@
 #include "platform/qt/Effects.h"
 
 #include "platform/qt/Blur.h"
+#include "platform/qt/Dither.h"
 
 #include <QPainter>
 
@@ -73,6 +74,24 @@ TEST(Blur, ReachesNoFurtherThanItSays)
             }
         }
     }
+}
+
+TEST(Dither, KeepsOnAverageWhatFallsBetweenTwoSteps)
+{
+    QImage fine(kSide, kSide, QImage::Format_RGBA64_Premultiplied);
+    constexpr quint16 kBetween = 100 * 257 + 64; // a quarter of the way from 100 to 101
+    fine.fill(QColor::fromRgba64(kBetween, kBetween, kBetween));
+    const QImage coarse = dithered(fine);
+    double sum = 0.0;
+    for (int y = 0; y < kSide; ++y) {
+        for (int x = 0; x < kSide; ++x) {
+            const int value = qRed(coarse.pixel(x, y));
+            EXPECT_TRUE(value == 100 || value == 101) << value;
+            EXPECT_EQ(alphaAt(coarse, x, y), 255);
+            sum += value;
+        }
+    }
+    EXPECT_NEAR(sum / (kSide * kSide), 100.25, 0.03);
 }
 
 TEST(Effects, AGlowLightsThePictureByItsOwnColoursAndLeavesDarkSignsDark)
