@@ -15,11 +15,14 @@ namespace {
 
 using Names = std::set<std::string>;
 
+// Whatever else lies there, the mixer's settings, say, is none.
 Names filesIn(const char* folder)
 {
     Names names;
+    const QStringList kinds { QStringLiteral("*.svg"), QStringLiteral("*.jpg"),
+        QStringLiteral("*.wav"), QStringLiteral("*.ogg") };
     QDirIterator files(
-        QStringLiteral(VEYRAND_SOURCE_DIR "/assets/") + QLatin1String(folder), QDir::Files);
+        QStringLiteral(VEYRAND_SOURCE_DIR "/assets/") + QLatin1String(folder), kinds, QDir::Files);
     while (files.hasNext()) {
         names.insert(QFileInfo(files.next()).completeBaseName().toStdString());
     }
