@@ -39,13 +39,10 @@ void GameController::windowDidResize()
     if (hasMessageWindow() && dialogueState() == 0) {
         return; // a page takes every press; it has no hit areas until it is dismissed
     }
-    if (dialogueState() != 0) {
-        m_context.view.hover().establishDialogueButtonTracking();
-    } else if (isPuzzleOnBoard()) {
-        m_context.view.establishButtonTracking();
-    } else {
-        m_context.view.hover().establishTitlePagButtonTracking();
-    }
+    // A dialogue is looked for first, since it opens on the title page. What was lit may lie
+    // elsewhere now, and something else under the resting pointer.
+    m_context.view.reestablishTracking();
+    m_context.view.hover().turnOnAllHovers();
 }
 
 void GameController::musicMenuClick()

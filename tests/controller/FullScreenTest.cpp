@@ -134,12 +134,14 @@ TEST_F(FullScreenTest, AButtonLightsUpWhereItComesToLieUnderThePointer)
 {
     wait(1.0);
     game().resize({ 720, 450 });
-    // Where the Classic button is on the whole screen.
-    game().move({ .x = 1.06 * 2.0, .y = 0.7 * 2.0 });
+    // Where the Classic button is on the whole screen, as far from its upper left corner.
+    game().move({ .x = 1.06 * 2.0, .y = 1.0 - (1.0 - 0.7) * 2.0 });
     wait(1.0);
     EXPECT_EQ(object("button-classicbuttonon")->opacity(), 0.0);
     toggle();
     EXPECT_EQ(object("button-classicbuttonon")->opacity(), 1.0);
+    game().resize({ 720, 450 }); // away from under it
+    EXPECT_EQ(object("button-classicbuttonon")->opacity(), 0.0);
 }
 
 TEST_F(FullScreenTest, ThePanelsButtonsFadeInAnewOnceEach)

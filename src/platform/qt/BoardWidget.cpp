@@ -1,5 +1,7 @@
 #include "platform/qt/BoardWidget.h"
 
+#include "platform/qt/Logging.h"
+
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScreen>
@@ -75,11 +77,14 @@ void BoardWidget::paintEvent(QPaintEvent* event)
     painter.setClipRegion(event->region());
     painter.scale(1.0 / devicePixelRatioF(), 1.0 / devicePixelRatioF());
     m_painter.paint(painter, m_shown, surface());
-    ++m_framesPainted;
+    if (++m_framesPainted == 1) {
+        qCDebug(lcTiming) << "first frame";
+    }
 }
 
 void BoardWidget::resizeEvent(QResizeEvent* event)
 {
+    findPointerAgain();
     m_parts.resized({ .width = static_cast<double>(event->size().width()),
         .height = static_cast<double>(event->size().height()) });
     // Every picture is needed at another size now; those of the old one would only fill memory.
@@ -123,6 +128,7 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void BoardWidget::leaveEvent(QEvent* event)
 {
+    m_pointerOnDesktop.reset();
     m_parts.pointer.setPosition(std::nullopt);
     m_parts.view.mouseMoved();
     QWidget::leaveEvent(event);
@@ -139,9 +145,18 @@ Point BoardWidget::gamePoint(QPointF position) const
     return { .x = position.x(), .y = static_cast<double>(height()) - position.y() };
 }
 
+// The widget has moved or grown under a pointer that rests, and no event tells of it.
+void BoardWidget::findPointerAgain()
+{
+    if (m_pointerOnDesktop) {
+        m_parts.pointer.setPosition(gamePoint(mapFromGlobal(*m_pointerOnDesktop)));
+    }
+}
+
 input::MouseEvent BoardWidget::track(const QMouseEvent& event)
 {
     const Point location = gamePoint(event.position());
+    m_pointerOnDesktop = event.globalPosition();
     m_parts.pointer.setPosition(location);
     const bool modified
         = (event.modifiers()

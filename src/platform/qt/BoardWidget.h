@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace veyrand::platform::qt {
 
@@ -54,11 +55,13 @@ private:
     [[nodiscard]] ListPainter::Surface surface() const;
     [[nodiscard]] Point gamePoint(QPointF position) const;
     [[nodiscard]] input::MouseEvent track(const QMouseEvent& event);
+    void findPointerAgain();
 
     Parts m_parts;
     ListPainter m_painter;
     present::DisplayList m_shown;
     QTimer m_frameTimer;
+    std::optional<QPointF> m_pointerOnDesktop;
     int m_framesPainted = 0;
 };
 

@@ -4,6 +4,7 @@ namespace veyrand::platform::qt {
 
 Q_LOGGING_CATEGORY(lcGame, "veyrand.game")
 Q_LOGGING_CATEGORY(lcAnalysis, "veyrand.analysis")
+Q_LOGGING_CATEGORY(lcTiming, "veyrand.timing", QtInfoMsg)
 
 void QtLog::write(std::string_view line)
 {

@@ -10,6 +10,8 @@ namespace veyrand::platform::qt {
 Q_DECLARE_LOGGING_CATEGORY(lcGame)
 // What the designers' analysis tools print.
 Q_DECLARE_LOGGING_CATEGORY(lcAnalysis)
+// When what happened, for whoever measures.
+Q_DECLARE_LOGGING_CATEGORY(lcTiming)
 
 class QtLog final : public Log {
 public:
