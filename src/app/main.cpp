@@ -10,6 +10,9 @@
 #include <cstdio>
 #include <exception>
 #include <optional>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -45,6 +48,18 @@ int run(const Pictures& pictures)
     }
     QApplication::setWindowIcon(veyrand::platform::qt::applicationIcon(dataFolder));
     return veyrand::app::runGame(dataFolder);
+}
+
+// Pictures and sounds are taken and given back in large pieces. Left to itself the C library keeps
+// the room of those that have gone, for more to come, and nothing comes in a game at rest; and it
+// keeps a heap for each thread, of which only one has much to do here.
+void giveBackLargeMemory()
+{
+#ifdef __GLIBC__
+    constexpr int kLarge = 256 * 1024; // bytes
+    mallopt(M_MMAP_THRESHOLD, kLarge);
+    mallopt(M_ARENA_MAX, 1);
+#endif
 }
 
 int start(int argc, char** argv)
@@ -92,6 +107,7 @@ int start(int argc, char** argv)
 
 int main(int argc, char* argv[])
 {
+    giveBackLargeMemory();
     try {
         return start(argc, argv);
     } catch (const std::exception& error) {

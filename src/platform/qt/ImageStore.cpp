@@ -45,6 +45,19 @@ QColor toQColor(const board::Color& color)
 
 } // namespace
 
+ImageStore::ImageStore(QString folder, const GameFont& font)
+    : m_folder(std::move(folder))
+    , m_font(font)
+{
+    // Unpacked photographs are of use only while the window is being resized, and as large as it.
+    constexpr int kAfterResizing = 2000; // milliseconds
+    m_photographsRest.setSingleShot(true);
+    m_photographsRest.setTimerType(Qt::CoarseTimer);
+    m_photographsRest.setInterval(kAfterResizing);
+    QObject::connect(&m_photographsRest, &QTimer::timeout, &m_photographsRest,
+        [this] { m_photographs.clear(); });
+}
+
 const QPixmap& ImageStore::image(const std::string& name, QSize size)
 {
     const auto key = std::make_pair(name, std::make_pair(size.width(), size.height()));
@@ -167,6 +180,7 @@ const QImage& ImageStore::photograph(const QString& file, QSize size)
     while (unpacked.width() / 2 >= size.width() && unpacked.height() / 2 >= size.height()) {
         unpacked /= 2;
     }
+    m_photographsRest.start();
     QImage& kept = m_photographs[file];
     if (kept.size() != unpacked) {
         reader.setScaledSize(unpacked);

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QSize>
 #include <QSvgRenderer>
+#include <QTimer>
 
 #include <map>
 #include <memory>
@@ -19,11 +20,7 @@ namespace veyrand::platform::qt {
 // once, by file, and shown as a plain disc.
 class ImageStore {
 public:
-    ImageStore(QString folder, const GameFont& font)
-        : m_folder(std::move(folder))
-        , m_font(font)
-    {
-    }
+    ImageStore(QString folder, const GameFont& font);
 
     // The named picture stretched to exactly the size.
     const QPixmap& image(const std::string& name, QSize size);
@@ -57,6 +54,7 @@ private:
     QHash<QString, QPixmap> m_texts;
     std::map<QString, std::unique_ptr<QSvgRenderer>> m_vectors;
     std::map<QString, QImage> m_photographs;
+    QTimer m_photographsRest;
 };
 
 } // namespace veyrand::platform::qt

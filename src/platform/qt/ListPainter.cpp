@@ -41,9 +41,14 @@ QPoint wholeCorner(const QRectF& pixels, QSize size)
 
 void ListPainter::paint(QPainter& painter, const present::DisplayList& list, const Surface& surface)
 {
+    // What begins to fade in changes no pixel yet, and its picture need not be drawn for that: the
+    // first frame of the game waits for none but the wood.
+    constexpr float kHalfAStep = 0.5F / 255.0F;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     for (const present::DisplayItem& item : list) {
-        paintItem(painter, item, surface);
+        if (item.opacity > kHalfAStep) {
+            paintItem(painter, item, surface);
+        }
     }
     painter.setOpacity(1.0);
 }
