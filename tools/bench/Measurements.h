@@ -17,4 +17,9 @@ void measureDistances(Results& results);
 // How distances grow with the length of the lines, from 12 to 16 chips.
 void measureGrowth(Results& results);
 
+// The application's start, memory, rest and frames, on the toolkit's offscreen platform and, where
+// an X server can be had, in a window. The latter's names begin with "x11.". The program that
+// measures lies beside this one. False when it could not.
+[[nodiscard]] bool measureApplication(Results& results, const std::string& ownProgram);
+
 } // namespace veyrand::bench

@@ -1,0 +1,163 @@
+#include "Frames.h"
+
+#include "../Measure.h"
+#include "app/VirtualGame.h"
+
+#include <QCoreApplication>
+#include <QMainWindow>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace veyrand::bench {
+
+namespace {
+
+constexpr double kFrame = 1.0 / 60.0; // seconds
+constexpr double kScene = 1.5;
+
+class Stage {
+public:
+    Stage(const QString& dataFolder, int width, int height)
+        : m_game({ .screen
+            = { .width = static_cast<double>(width), .height = static_cast<double>(height) },
+            .window = QSize(width, height),
+            .dataFolder = dataFolder })
+    {
+        m_window.setCentralWidget(&m_game.widget());
+        m_window.setGeometry(0, 0, width, height);
+        m_window.show();
+        QCoreApplication::processEvents();
+        m_game.launch();
+    }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    ~Stage() { m_game.widget().setParent(nullptr); }
+
+    void set(Scene scene)
+    {
+        m_game.wait(2.0);
+        if (scene != Scene::Title) {
+            // Every line is twelve chips, but for the one that doubles.
+            m_game.play({ .root = scene == Scene::Doubling ? "YRGRGR" : "YRGRGRGRGRGR",
+                .goal = "YB",
+                .par = 2,
+                .level = 6,
+                .stage = 2 });
+            if (scene == Scene::Deleting || scene == Scene::Page) {
+                fillBoard();
+            }
+            m_game.wait(2.0);
+        }
+        settle();
+    }
+
+    void play(Scene scene)
+    {
+        switch (scene) {
+        case Scene::Title:
+            return m_game.controller().flow().returnToMenu();
+        case Scene::Doubling:
+            return click("chip-0-0");
+        case Scene::Deleting:
+            return click("delete-1");
+        case Scene::Page:
+            m_game.controller().pages().show("movesMessageWindow");
+            return;
+        }
+    }
+
+    enum class Painting { Damage, Whole };
+    std::vector<double> watch(Painting painting)
+    {
+        std::vector<double> times;
+        for (double time = 0.0; time < kScene; time += kFrame) {
+            m_game.wait(kFrame);
+            const double start = processorSeconds();
+            const QRegion damage = m_game.widget().nextFrame();
+            if (damage.isEmpty()) {
+                continue; // a frame in which nothing moves costs nothing worth counting
+            }
+            if (painting == Painting::Whole) {
+                m_game.widget().repaint();
+            } else {
+                m_game.widget().repaint(damage);
+            }
+            times.push_back((processorSeconds() - start) * 1e3);
+        }
+        return times;
+    }
+
+private:
+    void fillBoard()
+    {
+        auto& proof = *m_game.controller().proof();
+        auto& lines = m_game.gameData();
+        board::LineDrawing drawing(lines, m_game.runLoop());
+        constexpr unsigned kLines = 12;
+        for (unsigned row = 1; row < kLines; ++row) {
+            proof.appendLine(proof.root());
+            drawing.createChipsForTheorem(proof.root().theorem(), row);
+            drawing.createDeleteButton(row);
+        }
+    }
+    void click(const std::string& key)
+    {
+        if (const auto place = m_game.centreOf(key)) {
+            m_game.click(*place);
+        }
+    }
+    // Paints what the scene begins with, so that what is measured is the scene alone.
+    void settle()
+    {
+        m_game.widget().nextFrame();
+        m_game.widget().repaint();
+    }
+
+    app::VirtualGame m_game;
+    QMainWindow m_window;
+};
+
+} // namespace
+
+double FrameTimes::mean(const std::vector<double>& times)
+{
+    return times.empty()
+        ? 0.0
+        : std::accumulate(times.begin(), times.end(), 0.0) / static_cast<double>(times.size());
+}
+
+double FrameTimes::percentile(std::vector<double> times, int hundredths)
+{
+    if (times.empty()) {
+        return 0.0;
+    }
+    std::sort(times.begin(), times.end());
+    const auto rank = static_cast<std::size_t>(
+        std::ceil(static_cast<double>(times.size()) * hundredths / 100.0));
+    return times.at(std::max<std::size_t>(rank, 1) - 1);
+}
+
+FrameTimes measureScene(const QString& dataFolder, Scene scene, int width, int height)
+{
+    Stage stage(dataFolder, width, height);
+    FrameTimes times;
+    // Once for the pictures to be drawn, which a game does once as well.
+    stage.set(scene);
+    stage.play(scene);
+    stage.watch(Stage::Painting::Damage);
+    constexpr int kRuns = 4;
+    for (int run = 0; run < kRuns; ++run) {
+        for (const auto painting : { Stage::Painting::Damage, Stage::Painting::Whole }) {
+            stage.set(scene);
+            stage.play(scene);
+            auto& kept = painting == Stage::Painting::Damage ? times.damage : times.full;
+            const auto watched = stage.watch(painting);
+            kept.insert(kept.end(), watched.begin(), watched.end());
+        }
+    }
+    return times;
+}
+
+} // namespace veyrand::bench
