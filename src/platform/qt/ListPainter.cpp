@@ -37,6 +37,13 @@ QPoint wholeCorner(const QRectF& pixels, QSize size)
         static_cast<int>(std::lround(centre.y() - size.height() / 2.0 - kHalfWay)) };
 }
 
+// Clipping to many parts costs more than painting what lies between them.
+QRegion simplified(const QRegion& region)
+{
+    constexpr int kMostParts = 32;
+    return region.rectCount() > kMostParts ? QRegion(region.boundingRect()) : region;
+}
+
 } // namespace
 
 void ListPainter::paint(QPainter& painter, const present::DisplayList& list, const Surface& surface)
@@ -117,7 +124,7 @@ QRegion ListPainter::damagedPixels(
         // One pixel more on every side for the rounding of corners and the smoothing of edges.
         region += toPixels(rect, surface).toAlignedRect().adjusted(-1, -1, 1, 1);
     }
-    return region;
+    return simplified(region);
 }
 
 } // namespace veyrand::platform::qt
