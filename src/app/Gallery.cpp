@@ -175,11 +175,13 @@ private:
             take("board-pressed");
             m_game.release({ .x = 1.2, .y = 0.5 });
         }
+        m_game.wait(kEverythingHasFadedIn);
         const auto from = m_game.centreOf("chip-1-0");
         const auto onto = m_game.centreOf("chip-3-0");
         if (from && onto) {
             m_game.press(*from);
             m_game.move({ .x = onto->x - 0.02, .y = onto->y - 0.02 });
+            m_game.wait(kEverythingHasFadedIn);
             take("board-dragging");
             m_game.release(*onto);
         }
