@@ -15,7 +15,7 @@ namespace veyrand::bench {
 namespace {
 
 constexpr double kFrame = 1.0 / 60.0; // seconds
-constexpr double kScene = 1.5;
+constexpr int kFrames = 90; // of a scene
 
 class Stage {
 public:
@@ -72,7 +72,7 @@ public:
     std::vector<double> watch(Painting painting)
     {
         std::vector<double> times;
-        for (double time = 0.0; time < kScene; time += kFrame) {
+        for (int frame = 0; frame < kFrames; ++frame) {
             m_game.wait(kFrame);
             const double start = processorSeconds();
             const QRegion damage = m_game.widget().nextFrame();
