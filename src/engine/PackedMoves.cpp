@@ -38,10 +38,10 @@ std::uint64_t spliced(
     const std::uint64_t before = line & bitsBelow(column);
     // A line of 31 chips has no room for one more: what would follow is pushed out, and a word
     // cannot be shifted by its whole width.
-    constexpr unsigned kWordBits = 64;
+    constexpr unsigned kBitsInWord = 64;
     const unsigned from = shift + kBits * removed;
     const unsigned to = shift + kBits * replacement.length();
-    const std::uint64_t after = to < kWordBits ? line >> from << to : 0;
+    const std::uint64_t after = to < kBitsInWord ? line >> from << to : 0;
     return before | chipsOf(replacement) << shift | after;
 }
 
