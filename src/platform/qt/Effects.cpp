@@ -13,13 +13,6 @@ namespace veyrand::platform::qt {
 
 namespace {
 
-QImage blank(QSize size)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
-}
-
 QImage withMargin(const QImage& picture, int margin)
 {
     QImage image = blank(picture.size() + QSize(2 * margin, 2 * margin));
@@ -80,6 +73,13 @@ SetOff setOffFor(const QColor& color)
 }
 
 } // namespace
+
+QImage blank(QSize size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
 
 QImage glowOf(const QImage& picture, int radius)
 {

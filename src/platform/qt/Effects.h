@@ -6,7 +6,11 @@
 namespace veyrand::platform::qt {
 
 // What pictures do with light. All images are premultiplied ARGB; lengths are device pixels. The
-// first two results reach past every edge of the picture, by twice the radius and twice the height.
+// glow and the shadow reach past every edge of the picture, by twice the radius and twice the
+// height.
+
+// A picture of nothing, to paint on.
+QImage blank(QSize size);
 
 // The light that the picture gives off when it is lit from within: to be added over it. It
 // brightens the picture by its own colours, so that a dark sign on it stays dark, and lies round it

@@ -17,13 +17,6 @@ namespace veyrand::platform::qt {
 
 namespace {
 
-QImage blank(QSize size)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
-}
-
 // What stands for a picture that cannot be had: plain enough to be seen as a fault, round enough to
 // play.
 QImage standIn(QSize size)
