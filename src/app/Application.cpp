@@ -6,14 +6,14 @@
 #include "app/Notices.h"
 #include "app/SystemInstallation.h"
 #include "controller/Game.h"
-#include "platform/qt/DataFolder.h"
-#include "platform/qt/FilePreferences.h"
-#include "platform/qt/Logging.h"
-#include "platform/qt/OpenAlSounds.h"
-#include "platform/qt/QtOverlayWindow.h"
-#include "platform/qt/QtRunLoop.h"
-#include "platform/qt/QtWindow.h"
-#include "platform/qt/SystemPorts.h"
+#include "desktop/qt/DataFolder.h"
+#include "desktop/qt/FilePreferences.h"
+#include "desktop/qt/Logging.h"
+#include "desktop/qt/OpenAlSounds.h"
+#include "desktop/qt/QtOverlayWindow.h"
+#include "desktop/qt/QtRunLoop.h"
+#include "desktop/qt/QtWindow.h"
+#include "desktop/qt/SystemPorts.h"
 #include "progress/PlayerKeys.h"
 
 #include <QApplication>
@@ -28,7 +28,7 @@ namespace {
 class Application {
 public:
     explicit Application(const QString& dataFolder)
-        : m_preferences(platform::qt::FilePreferences::usualFile())
+        : m_preferences(desktop::qt::FilePreferences::usualFile())
         , m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
         , m_installation(m_preferences)
@@ -117,24 +117,24 @@ private:
                 .zoomed = m_game.controller().fullScreen().staysZoomed() });
     }
 
-    platform::qt::QtRunLoop m_runLoop;
-    platform::qt::FilePreferences m_preferences;
-    platform::qt::OpenAlSounds m_sounds;
-    platform::qt::SystemRandom m_random;
-    platform::qt::FileResources m_resources;
+    desktop::qt::QtRunLoop m_runLoop;
+    desktop::qt::FilePreferences m_preferences;
+    desktop::qt::OpenAlSounds m_sounds;
+    desktop::qt::SystemRandom m_random;
+    desktop::qt::FileResources m_resources;
     SystemInstallation m_installation;
-    platform::qt::MainScreen m_screen;
-    platform::qt::QtQuit m_quit;
-    platform::qt::QtLog m_log;
+    desktop::qt::MainScreen m_screen;
+    desktop::qt::QtQuit m_quit;
+    desktop::qt::QtLog m_log;
     platform::TrackedPointer m_pointer;
-    platform::qt::GameFont m_font;
-    platform::qt::ImageStore m_images;
-    platform::qt::QtOverlayWindow m_overlay;
-    platform::qt::QtWindow m_windowModes;
-    platform::qt::GameMenu m_menu;
+    desktop::qt::GameFont m_font;
+    desktop::qt::ImageStore m_images;
+    desktop::qt::QtOverlayWindow m_overlay;
+    desktop::qt::QtWindow m_windowModes;
+    desktop::qt::GameMenu m_menu;
     progress::CurrentGame& m_currentGame;
     controller::Game m_game;
-    platform::qt::BoardWidget m_board;
+    desktop::qt::BoardWidget m_board;
     MainWindow m_window;
 };
 

@@ -8,7 +8,7 @@
 
 namespace veyrand::app {
 
-MainWindow::MainWindow(platform::qt::GameMenu& menu, platform::qt::BoardWidget& board)
+MainWindow::MainWindow(desktop::qt::GameMenu& menu, desktop::qt::BoardWidget& board)
     : m_menu(menu)
     , m_board(board)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/WindowPlace.h"
-#include "platform/qt/BoardWidget.h"
-#include "platform/qt/GameMenu.h"
+#include "desktop/qt/BoardWidget.h"
+#include "desktop/qt/GameMenu.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -16,7 +16,7 @@ namespace veyrand::app {
 class MainWindow final : public QMainWindow {
 public:
     // Takes the menu's bar and the widget into its own keeping only for as long as it lives.
-    MainWindow(platform::qt::GameMenu& menu, platform::qt::BoardWidget& board);
+    MainWindow(desktop::qt::GameMenu& menu, desktop::qt::BoardWidget& board);
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
     ~MainWindow() override;
@@ -39,8 +39,8 @@ protected:
 private:
     void geometryChanged();
 
-    platform::qt::GameMenu& m_menu;
-    platform::qt::BoardWidget& m_board;
+    desktop::qt::GameMenu& m_menu;
+    desktop::qt::BoardWidget& m_board;
     std::function<void()> m_closing;
     QRect m_ownGeometry;
     QTimer m_geometryRests;

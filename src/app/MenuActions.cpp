@@ -2,7 +2,7 @@
 
 namespace veyrand::app {
 
-platform::qt::GameMenu::Actions menuActions(
+desktop::qt::GameMenu::Actions menuActions(
     controller::GameController& controller, std::function<void()> about)
 {
     return { .classicGame = [&controller] { controller.flow().newClassicGame(); },

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "controller/GameController.h"
-#include "platform/qt/GameMenu.h"
+#include "desktop/qt/GameMenu.h"
 
 namespace veyrand::app {
 
 // What the menu's items do to the game. The box about the program is shown by the function given.
-platform::qt::GameMenu::Actions menuActions(
+desktop::qt::GameMenu::Actions menuActions(
     controller::GameController& controller, std::function<void()> about);
 
 } // namespace veyrand::app

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "desktop/qt/QtAlerts.h"
+#include "desktop/qt/QtTexts.h"
 #include "install/Installation.h"
-#include "platform/qt/QtAlerts.h"
-#include "platform/qt/QtTexts.h"
 
 #include <memory>
 
@@ -17,7 +17,7 @@ public:
     [[nodiscard]] const install::Installation& installation() const { return *m_installation; }
 
 private:
-    platform::qt::QtTexts m_texts;
+    desktop::qt::QtTexts m_texts;
     std::unique_ptr<platform::Volumes> m_volumes;
     std::unique_ptr<platform::Files> m_files;
     std::unique_ptr<platform::Alerts> m_alerts;

@@ -34,24 +34,6 @@ platform::Preferences& prepared(
 
 } // namespace
 
-void RecordedSounds::startLoop(std::string_view name, double volume)
-{
-    m_loop = Loop { std::string(name), volume };
-    ++m_loopsStarted;
-}
-
-void RecordedSounds::setLoopVolume(double volume)
-{
-    if (m_loop) {
-        m_loop->volume = volume;
-    }
-}
-
-std::vector<std::string> RecordedSounds::takePlayed()
-{
-    return std::exchange(m_played, {});
-}
-
 VirtualGame::VirtualGame(const Options& options)
     : m_preferences(
         prepared(options.store != nullptr ? *options.store : m_memory, options.preferences))
@@ -78,8 +60,8 @@ VirtualGame::VirtualGame(const Options& options)
           m_currentGame, m_gameData))
 {
     m_menu.connectActions(menuActions(controller(), [this] { ++m_timesAbout; }));
-    m_widget = std::make_unique<platform::qt::BoardWidget>(
-        platform::qt::BoardWidget::Parts { .layers = m_game->layers(),
+    m_widget = std::make_unique<desktop::qt::BoardWidget>(
+        desktop::qt::BoardWidget::Parts { .layers = m_game->layers(),
             .view = m_game->view(),
             .pointer = m_pointer,
             .images = m_images,

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "install/Installation.h"
-#include "platform/FixedVolumes.h"
-#include "platform/MemoryFiles.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/NotedAlerts.h"
-#include "platform/PlainTexts.h"
+#include "platform/fakes/FixedVolumes.h"
+#include "platform/fakes/MemoryFiles.h"
+#include "platform/fakes/NotedAlerts.h"
+#include "platform/fakes/PlainTexts.h"
 
 namespace veyrand::app {
 

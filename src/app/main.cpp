@@ -1,7 +1,7 @@
 #include "app/Application.h"
 #include "app/Demo.h"
 #include "app/Gallery.h"
-#include "platform/qt/DataFolder.h"
+#include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -30,7 +30,7 @@ struct Pictures {
 
 int run(const Pictures& pictures)
 {
-    const QString dataFolder = veyrand::platform::qt::findDataFolder();
+    const QString dataFolder = veyrand::desktop::qt::findDataFolder();
     if (dataFolder.isEmpty()) {
         QTextStream(stderr) << "The game's data cannot be found: no share/veyrand beside "
                             << QCoreApplication::applicationDirPath()
@@ -46,7 +46,7 @@ int run(const Pictures& pictures)
             QString::fromStdString(*pictures.galleryFolder),
             { pictures.gallerySize.at(0), pictures.gallerySize.at(1) });
     }
-    QApplication::setWindowIcon(veyrand::platform::qt::applicationIcon(dataFolder));
+    QApplication::setWindowIcon(veyrand::desktop::qt::applicationIcon(dataFolder));
     return veyrand::app::runGame(dataFolder);
 }
 

@@ -1,5 +1,5 @@
 #include "board/LineDrawing.h"
-#include "platform/qt/QtRunLoop.h"
+#include "desktop/qt/QtRunLoop.h"
 #include "support/BoardFakes.h"
 #include "support/PlayedGame.h"
 
@@ -83,14 +83,14 @@ TEST_F(Idle, ThePointerMovingOverNothingPaintsNothing)
 TEST(IdleBoard, WithTheRealClockTheTimersStopOnceEverythingRests)
 {
     const test::FakeScreen screen({ .width = 1440, .height = 900 });
-    platform::qt::QtRunLoop runLoop;
-    RecordedSounds sounds;
+    desktop::qt::QtRunLoop runLoop;
+    platform::RecordedSounds sounds;
     platform::MemoryPreferences preferences;
-    platform::qt::GameMenu menu(preferences);
+    desktop::qt::GameMenu menu(preferences);
     const platform::SoundEffects effects(sounds, menu);
     platform::TrackedPointer pointer;
-    const platform::qt::GameFont font;
-    platform::qt::ImageStore images(QStringLiteral(VEYRAND_DATA_DIR "/images"), font);
+    const desktop::qt::GameFont font;
+    desktop::qt::ImageStore images(QStringLiteral(VEYRAND_DATA_DIR "/images"), font);
     board::GameData data(screen);
     board::LineDrawing lines(data, runLoop);
     present::Scene scene(runLoop);
@@ -100,7 +100,7 @@ TEST(IdleBoard, WithTheRealClockTheTimersStopOnceEverythingRests)
         .runLoop = runLoop,
         .pointer = pointer,
         .effects = effects });
-    platform::qt::BoardWidget widget({ .layers = layers,
+    desktop::qt::BoardWidget widget({ .layers = layers,
         .view = view,
         .pointer = pointer,
         .images = images,

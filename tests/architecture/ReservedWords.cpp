@@ -123,7 +123,7 @@ Findings findingsInLine(
 
 Findings reservedWordFindings(const SourceFile& file)
 {
-    const bool mayNameFrameworks = isBelow(file.path, "src/platform/macos");
+    const bool mayNameFrameworks = isBelow(file.path, "src/desktop/macos");
     Findings findings = findingsInLine(file.path, 0, file.path, mayNameFrameworks);
     std::size_t number = 0;
     for (const std::string_view line : linesOf(file.text)) {

@@ -52,9 +52,8 @@ TEST(ReservedWords, FrameworkClassesAreFoundOutsideTheirAdapters)
     EXPECT_THAT(findingsIn("like " + kString + "'s"), SizeIs(1));
     EXPECT_THAT(findingsIn(kLayer + " and " + kTextLayer), SizeIs(2));
     EXPECT_THAT(
-        reservedWordFindings({ "src/platform/macos/Window.mm", kString + " *name;" }), IsEmpty());
-    EXPECT_THAT(
-        reservedWordFindings({ "src/platform/macos/Window.mm", kPart + " 1.2" }), SizeIs(1));
+        reservedWordFindings({ "src/desktop/macos/Window.mm", kString + " *name;" }), IsEmpty());
+    EXPECT_THAT(reservedWordFindings({ "src/desktop/macos/Window.mm", kPart + " 1.2" }), SizeIs(1));
 }
 
 TEST(ReservedWords, OrdinaryWordsPass)

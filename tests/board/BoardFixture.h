@@ -2,8 +2,8 @@
 
 #include "board/Board.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/SeededRandom.h"
-#include "platform/VirtualRunLoop.h"
+#include "platform/fakes/SeededRandom.h"
+#include "platform/fakes/VirtualRunLoop.h"
 #include "progress/PlayerKeys.h"
 #include "support/BoardFakes.h"
 #include "support/BoardRows.h"

@@ -3,7 +3,7 @@
 #include "catalogue/Gestures.h"
 #include "catalogue/HintPlayer.h"
 #include "engine/HintHelper.h"
-#include "platform/SeededRandom.h"
+#include "platform/fakes/SeededRandom.h"
 #include "progress/RuleSets.h"
 
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "platform/qt/GameFont.h"
+#include "desktop/qt/GameFont.h"
 #include "support/PlayedGame.h"
 
 #include <algorithm>
@@ -129,8 +129,8 @@ private:
         const double baseline = y - kBaselineBelowCentre * em;
         return { .left = left,
             .right = left + width,
-            .bottom = baseline - ink.bottom() / platform::qt::GameFont::kMeasuringSize * em,
-            .top = baseline - ink.top() / platform::qt::GameFont::kMeasuringSize * em };
+            .bottom = baseline - ink.bottom() / desktop::qt::GameFont::kMeasuringSize * em,
+            .top = baseline - ink.top() / desktop::qt::GameFont::kMeasuringSize * em };
     }
 
     static Picture measuredPicture(const board::GameObject& record)
@@ -147,7 +147,7 @@ private:
 
     double widthOf(const std::string& text) { return m_font.preferredFrameSize(text).width; }
 
-    platform::qt::GameFont m_font;
+    desktop::qt::GameFont m_font;
     std::vector<Line> m_lines;
     std::vector<Picture> m_pictures;
 };

@@ -99,7 +99,7 @@ TEST(Switches, AreAsTheyWereLeft)
     platform::MemoryPreferences preferences;
     preferences.setValue("TRNPlayMusicKey", false);
     preferences.setValue("TRNPlayEffectsKey", true);
-    const platform::qt::GameMenu menu(preferences);
+    const desktop::qt::GameMenu menu(preferences);
     EXPECT_FALSE(menu.musicOn());
     EXPECT_TRUE(menu.effectsOn());
 }

@@ -1,6 +1,6 @@
 #include "controller/TutorialScriptReader.h"
 
-#include "platform/qt/DataFolder.h"
+#include "desktop/qt/DataFolder.h"
 #include "support/MemoryResources.h"
 
 #include <array>
@@ -59,7 +59,7 @@ struct Malformed {
 
 TEST(TutorialScriptReader, ReadsTheFilesOfTheGame)
 {
-    const platform::qt::FileResources resources(QStringLiteral(VEYRAND_DATA_DIR));
+    const desktop::qt::FileResources resources(QStringLiteral(VEYRAND_DATA_DIR));
     const TutorialScript script = readTutorialScript(resources);
     EXPECT_EQ(script.errors, "");
     EXPECT_EQ(script.pages.size(), 41U);

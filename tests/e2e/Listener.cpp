@@ -1,4 +1,4 @@
-#include "platform/qt/SoundFile.h"
+#include "desktop/qt/SoundFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,8 +19,8 @@
 
 namespace {
 
-using veyrand::platform::qt::readSoundFile;
-using veyrand::platform::qt::SoundSamples;
+using veyrand::desktop::qt::readSoundFile;
+using veyrand::desktop::qt::SoundSamples;
 
 constexpr int kRate = 48000;
 // A quarter of the rate is enough to find a sound by, and sixteen times less work.

@@ -3,7 +3,7 @@
 #include "app/VirtualGame.h"
 #include "board/LineDrawing.h"
 #include "input/GameView.h"
-#include "platform/VirtualRunLoop.h"
+#include "platform/fakes/VirtualRunLoop.h"
 #include "support/BoardFakes.h"
 
 #include <gtest/gtest.h>
@@ -180,7 +180,7 @@ private:
     test::SquareLetters m_metrics;
     platform::VirtualRunLoop m_runLoop;
     platform::TrackedPointer m_pointer;
-    app::RecordedSounds m_sounds;
+    platform::RecordedSounds m_sounds;
     FakeMenu m_menu;
     platform::SoundEffects m_effects { m_sounds, m_menu };
     board::GameData m_gameData { m_screen };

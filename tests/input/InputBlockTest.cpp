@@ -1,6 +1,6 @@
 #include "input/InputBlock.h"
 
-#include "platform/VirtualRunLoop.h"
+#include "platform/fakes/VirtualRunLoop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "install/M3InstallController.h"
 
-#include "platform/FixedVolumes.h"
-#include "platform/MemoryFiles.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/NotedAlerts.h"
-#include "platform/PlainTexts.h"
+#include "platform/fakes/FixedVolumes.h"
+#include "platform/fakes/MemoryFiles.h"
+#include "platform/fakes/NotedAlerts.h"
+#include "platform/fakes/PlainTexts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

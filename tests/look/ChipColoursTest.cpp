@@ -1,5 +1,5 @@
+#include "desktop/qt/ImageStore.h"
 #include "look/Colour.h"
-#include "platform/qt/ImageStore.h"
 #include "support/QtEnvironment.h"
 
 #include <algorithm>
@@ -75,8 +75,8 @@ protected:
 private:
     QImage picture(const char* chip) { return m_images.image(chip, { kSide, kSide }).toImage(); }
 
-    platform::qt::GameFont m_font;
-    platform::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::GameFont m_font;
+    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
 };
 
 TEST_F(ChipColours, AnyTwoFacesDifferForEveryKindOfSight)

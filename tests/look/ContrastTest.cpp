@@ -1,5 +1,5 @@
+#include "desktop/qt/ListPainter.h"
 #include "look/Colour.h"
-#include "platform/qt/ListPainter.h"
 #include "progress/PlayerKeys.h"
 #include "support/PlayedGame.h"
 
@@ -213,9 +213,9 @@ private:
         return worst;
     }
 
-    platform::qt::GameFont m_font;
-    platform::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
-    platform::qt::ListPainter m_painter { m_images };
+    desktop::qt::GameFont m_font;
+    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ListPainter m_painter { m_images };
     Measured m_small;
     Measured m_large;
 };

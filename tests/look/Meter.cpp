@@ -86,7 +86,7 @@ double loudestWindow(const std::vector<double>& power)
 
 } // namespace
 
-Meter measured(const platform::qt::SoundSamples& sound)
+Meter measured(const desktop::qt::SoundSamples& sound)
 {
     const std::size_t frames = sound.frames();
     const auto channels = static_cast<std::size_t>(sound.channels);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/SoundFile.h"
+#include "desktop/qt/SoundFile.h"
 
 namespace veyrand::look {
 
@@ -15,6 +15,6 @@ struct Meter {
     int clipped = 0; // samples at full scale
 };
 
-Meter measured(const platform::qt::SoundSamples& sound);
+Meter measured(const desktop::qt::SoundSamples& sound);
 
 } // namespace veyrand::look

@@ -1,4 +1,4 @@
-#include "platform/qt/ListPainter.h"
+#include "desktop/qt/ListPainter.h"
 #include "support/PlayedGame.h"
 
 #include <algorithm>
@@ -105,9 +105,9 @@ private:
         Painted painted;
     };
 
-    platform::qt::GameFont m_font;
-    platform::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
-    platform::qt::ListPainter m_painter { m_images };
+    desktop::qt::GameFont m_font;
+    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ListPainter m_painter { m_images };
     std::map<std::uint64_t, Before> m_before;
     int m_compared = 0;
     int m_shimmering = 0;
@@ -145,8 +145,8 @@ TEST_F(Motion, ThePointerChangesNothingButWhatItLights)
 
 TEST(ImageStoreCache, DrawsNoPictureTwice)
 {
-    const platform::qt::GameFont font;
-    platform::qt::ImageStore images(QStringLiteral(VEYRAND_DATA_DIR "/images"), font);
+    const desktop::qt::GameFont font;
+    desktop::qt::ImageStore images(QStringLiteral(VEYRAND_DATA_DIR "/images"), font);
     const QPixmap& chip = images.image("RedChip", { 60, 60 });
     const qint64 key = chip.cacheKey();
     images.image("BlueChip", { 60, 60 });

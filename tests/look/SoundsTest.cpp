@@ -11,7 +11,7 @@ namespace veyrand::look {
 
 namespace {
 
-using platform::qt::SoundSamples;
+using desktop::qt::SoundSamples;
 
 constexpr double kSoonest = 0.005; // seconds: later, an answer to a click feels late
 constexpr double kLevelTolerance = 1.0; // dB
@@ -21,7 +21,7 @@ constexpr double kSoftTreble = -8.0; // dB
 SoundSamples load(const std::string& file)
 {
     QString error;
-    SoundSamples sound = platform::qt::readSoundFile(
+    SoundSamples sound = desktop::qt::readSoundFile(
         QStringLiteral(VEYRAND_SOURCE_DIR "/assets/sounds/") + QString::fromStdString(file), error);
     EXPECT_TRUE(error.isEmpty()) << file << ": " << error.toStdString();
     return sound;
@@ -68,7 +68,7 @@ TEST(Sounds, TheEffectsHaveTheirLevelsStartAtOnceAndFadeAway)
 
 TEST(Sounds, TheMusicIsLouderThanTheClickAndSofterThanTheRest)
 {
-    const Meter meter = measured(platform::qt::withoutLoopGuards(load("Along the Seabed.ogg")));
+    const Meter meter = measured(desktop::qt::withoutLoopGuards(load("Along the Seabed.ogg")));
     std::printf("music: peak %.1f dB, %.1f LUFS\n", meter.peak, meter.loudness);
     EXPECT_EQ(meter.clipped, 0);
     EXPECT_NEAR(meter.peak, -12.0, kLevelTolerance);
@@ -77,7 +77,7 @@ TEST(Sounds, TheMusicIsLouderThanTheClickAndSofterThanTheRest)
 
 TEST(Sounds, TheMusicsEndRunsIntoItsBeginning)
 {
-    const SoundSamples loop = platform::qt::withoutLoopGuards(load("Along the Seabed.ogg"));
+    const SoundSamples loop = desktop::qt::withoutLoopGuards(load("Along the Seabed.ogg"));
     ASSERT_EQ(loop.frames(), 3'840'000U); // 80 seconds, 24 bars
     ASSERT_EQ(loop.channels, 2);
 

@@ -1,6 +1,6 @@
 #include "present/BoardLayers.h"
 
-#include "platform/VirtualRunLoop.h"
+#include "platform/fakes/VirtualRunLoop.h"
 #include "support/BoardFakes.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "present/GameObjectLayer.h"
 
-#include "platform/VirtualRunLoop.h"
+#include "platform/fakes/VirtualRunLoop.h"
 #include "present/BoardLayers.h"
 #include "support/BoardFakes.h"
 

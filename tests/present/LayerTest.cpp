@@ -1,6 +1,6 @@
 #include "present/Layer.h"
 
-#include "platform/VirtualRunLoop.h"
+#include "platform/fakes/VirtualRunLoop.h"
 #include "present/ImageLayer.h"
 
 #include <gtest/gtest.h>

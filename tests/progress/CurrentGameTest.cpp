@@ -1,7 +1,7 @@
 #include "progress/CurrentGame.h"
 
 #include "platform/MemoryPreferences.h"
-#include "platform/SeededRandom.h"
+#include "platform/fakes/SeededRandom.h"
 #include "progress/PlayerKeys.h"
 #include "progress/RuleSets.h"
 #include "support/MemoryResources.h"

@@ -1,5 +1,5 @@
+#include "desktop/qt/FilePreferences.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/qt/FilePreferences.h"
 #include "progress/PlayerKeys.h"
 #include "robot/Robot.h"
 #include "support/QtEnvironment.h"
@@ -120,7 +120,7 @@ public:
 private:
     static void run(PreparedGame& prepared, const QString& file, Play play, int reports)
     {
-        platform::qt::FilePreferences preferences(file);
+        desktop::qt::FilePreferences preferences(file);
         if (preferences.isHeldElsewhere()) {
             return;
         }
@@ -225,7 +225,7 @@ void killAgainAndAgain(const Trial& trial)
         QFile written(file);
         ASSERT_TRUE(written.open(QIODevice::ReadOnly) || kill == 0);
         ASSERT_TRUE(kill == 0 || QJsonDocument::fromJson(written.readAll()).isObject());
-        const platform::qt::FilePreferences preferences(file);
+        const desktop::qt::FilePreferences preferences(file);
         const Score found = savedScore(preferences);
         ASSERT_TRUE(found == last || found == last + trial.points || (found == -1 && last == 0))
             << found << " was found and " << last << " reported";

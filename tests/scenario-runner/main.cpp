@@ -1,6 +1,6 @@
 #include "ScenarioChecks.h"
 #include "ScenarioGame.h"
-#include "platform/qt/DataFolder.h"
+#include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
 #include <QFile>
@@ -83,7 +83,7 @@ int main(int argc, char* argv[])
             .height = static_cast<double>(screenSize.height()) },
         .window = toSize(window),
         .outFolder = QString::fromStdString(out),
-        .dataFolder = platform::qt::findDataFolder() };
+        .dataFolder = desktop::qt::findDataFolder() };
     scenario::ScenarioChecks checks;
     for (const std::string& file : files) {
         runScript(QString::fromStdString(file), settings, checks);

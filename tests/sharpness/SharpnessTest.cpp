@@ -1,5 +1,5 @@
 #include "app/MainWindow.h"
-#include "platform/qt/GameFont.h"
+#include "desktop/qt/GameFont.h"
 #include "support/PlayedGame.h"
 
 #include <QPainter>
@@ -87,9 +87,9 @@ private:
     }
 
     MainWindow m_window { game().menu(), game().widget() };
-    platform::qt::GameFont m_font;
-    platform::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
-    platform::qt::ListPainter m_painter { m_images };
+    desktop::qt::GameFont m_font;
+    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ListPainter m_painter { m_images };
 };
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "catalogue/Candidates.h"
 #include "catalogue/Curve.h"
-#include "platform/SeededRandom.h"
+#include "platform/fakes/SeededRandom.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>

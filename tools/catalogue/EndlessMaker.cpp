@@ -1,7 +1,7 @@
 #include "catalogue/EndlessMaker.h"
 
 #include "catalogue/Candidates.h"
-#include "platform/SeededRandom.h"
+#include "platform/fakes/SeededRandom.h"
 #include "progress/Catalogue.h"
 #include "progress/RuleSets.h"
 

@@ -2,7 +2,7 @@
 
 #include "catalogue/Gestures.h"
 #include "catalogue/HintPlayer.h"
-#include "platform/SeededRandom.h"
+#include "platform/fakes/SeededRandom.h"
 #include "progress/RuleSets.h"
 
 #include <optional>

@@ -5,7 +5,7 @@
 #include "engine/HintHelper.h"
 #include "engine/PackedMoves.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/SeededRandom.h"
+#include "platform/fakes/SeededRandom.h"
 #include "progress/Catalogue.h"
 #include "progress/CurrentGame.h"
 #include "progress/PlayerKeys.h"

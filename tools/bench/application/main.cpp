@@ -1,6 +1,6 @@
 #include "Frames.h"
 #include "Program.h"
-#include "platform/qt/DataFolder.h"
+#include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
 
@@ -99,7 +99,7 @@ int run(int argc, char** argv)
     if (!measureProgram(game, name)) {
         return 1;
     }
-    measureFrames(veyrand::platform::qt::findDataFolder());
+    measureFrames(veyrand::desktop::qt::findDataFolder());
     return 0;
 }
 

@@ -1,0 +1,47 @@
+#include "desktop/macos/MacInstallation.h"
+
+#import <AppKit/AppKit.h>
+
+namespace veyrand::desktop::macos {
+
+namespace {
+
+NSString* toString(const std::string& text)
+{
+    return [NSString stringWithUTF8String:text.c_str()];
+}
+
+// Alerts as the system's own panels. They run modally, as they have to while the application
+// terminates, but not before show has returned: the answer must come later, and so must the question.
+class MacAlerts final : public platform::Alerts {
+public:
+    void show(const platform::Alert& alert, Answered answered) override
+    {
+        NSAlert* const panel = [[NSAlert alloc] init];
+        panel.messageText = toString(alert.message);
+        panel.informativeText = toString(alert.informativeText);
+        [panel addButtonWithTitle:toString(alert.defaultButton)];
+        if (!alert.alternateButton.empty()) {
+            NSButton* const alternate
+                = [panel addButtonWithTitle:toString(alert.alternateButton)];
+            alternate.keyEquivalent = @"\033"; // only a button called "Cancel" gets Escape by itself
+        }
+        panel.showsSuppressionButton = alert.suppressionBox == platform::Alert::SuppressionBox::Shown;
+        dispatch_async(dispatch_get_main_queue(), ^{
+            const bool isDefault = [panel runModal] == NSAlertFirstButtonReturn;
+            answered({ .button = isDefault ? platform::AlertAnswer::Button::Default
+                                           : platform::AlertAnswer::Button::Alternate,
+                .suppressed = panel.showsSuppressionButton
+                    && panel.suppressionButton.state == NSControlStateValueOn });
+        });
+    }
+};
+
+} // namespace
+
+std::unique_ptr<platform::Alerts> systemAlerts()
+{
+    return std::make_unique<MacAlerts>();
+}
+
+} // namespace veyrand::desktop::macos

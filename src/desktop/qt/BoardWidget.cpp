@@ -1,0 +1,168 @@
+#include "desktop/qt/BoardWidget.h"
+
+#include "desktop/qt/Logging.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QScreen>
+
+#include <cmath>
+
+namespace veyrand::desktop::qt {
+
+BoardWidget::BoardWidget(Parts parts, QWidget* parent)
+    : QWidget(parent)
+    , m_parts(std::move(parts))
+    , m_painter(m_parts.images)
+{
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: black lies behind everything
+    setMinimumSize(480, 300);
+    m_frameTimer.setSingleShot(true);
+    m_frameTimer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_frameTimer, &QTimer::timeout, this, [this] { showFrame(); });
+    m_parts.layers.scene().setDisplayListener([this] { scheduleFrame(); });
+}
+
+BoardWidget::~BoardWidget()
+{
+    m_parts.layers.scene().setDisplayListener({});
+}
+
+QSize BoardWidget::sizeHint() const
+{
+    return { 1280, 800 };
+}
+
+// Changes come in bursts; the first asks for a frame and the rest find it asked for.
+void BoardWidget::scheduleFrame()
+{
+    if (!m_frameTimer.isActive()) {
+        m_frameTimer.start(0);
+    }
+}
+
+void BoardWidget::showFrame()
+{
+    update(nextFrame());
+    if (m_parts.layers.scene().isAnimating()) {
+        constexpr double kMillisecondsPerSecond = 1000.0;
+        const double rate = screen() != nullptr ? screen()->refreshRate() : 60.0;
+        m_frameTimer.start(static_cast<int>(std::floor(kMillisecondsPerSecond / rate)));
+    }
+}
+
+QRegion BoardWidget::nextFrame()
+{
+    present::DisplayList next = m_parts.layers.displayList();
+    const QRegion pixels = ListPainter::damagedPixels(m_shown, next, surface());
+    m_shown = std::move(next);
+    if (devicePixelRatioF() == 1.0) {
+        return pixels & rect();
+    }
+    QRegion points;
+    for (const QRect& part : pixels) {
+        const double ratio = devicePixelRatioF();
+        points += QRectF(
+            part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
+                      .toAlignedRect();
+    }
+    return points & rect();
+}
+
+void BoardWidget::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.scale(1.0 / devicePixelRatioF(), 1.0 / devicePixelRatioF());
+    m_painter.paint(painter, m_shown, surface());
+    if (++m_framesPainted == 1) {
+        qCDebug(lcTiming) << "first frame";
+    }
+}
+
+void BoardWidget::resizeEvent(QResizeEvent* event)
+{
+    findPointerAgain();
+    m_parts.resized({ .width = static_cast<double>(event->size().width()),
+        .height = static_cast<double>(event->size().height()) });
+    // Every picture is needed at another size now; those of the old one would only fill memory.
+    m_parts.images.forgetSizes();
+    // The window shows everything anew at the new size, at once.
+    nextFrame();
+    update();
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent* event)
+{
+    const input::MouseEvent press = track(*event);
+    if (event->button() == Qt::LeftButton) {
+        m_parts.view.mouseDown(press);
+    }
+}
+
+// The second press of a quick pair is a press like any other.
+void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
+}
+
+void BoardWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    const input::MouseEvent move = track(*event);
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        m_parts.view.mouseDragged(move);
+    } else {
+        m_parts.view.mouseMoved();
+    }
+}
+
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    const input::MouseEvent release = track(*event);
+    if (event->button() == Qt::LeftButton) {
+        m_parts.view.mouseUp(release);
+    }
+}
+
+void BoardWidget::leaveEvent(QEvent* event)
+{
+    m_pointerOnDesktop.reset();
+    m_parts.pointer.setPosition(std::nullopt);
+    m_parts.view.mouseMoved();
+    QWidget::leaveEvent(event);
+}
+
+ListPainter::Surface BoardWidget::surface() const
+{
+    return { .height = static_cast<double>(height()), .pixelRatio = devicePixelRatioF() };
+}
+
+// The game counts upwards from the lower left.
+platform::Point BoardWidget::gamePoint(QPointF position) const
+{
+    return { .x = position.x(), .y = static_cast<double>(height()) - position.y() };
+}
+
+// The widget has moved or grown under a pointer that rests, and no event tells of it.
+void BoardWidget::findPointerAgain()
+{
+    if (m_pointerOnDesktop) {
+        m_parts.pointer.setPosition(gamePoint(mapFromGlobal(*m_pointerOnDesktop)));
+    }
+}
+
+input::MouseEvent BoardWidget::track(const QMouseEvent& event)
+{
+    const platform::Point location = gamePoint(event.position());
+    m_pointerOnDesktop = event.globalPosition();
+    m_parts.pointer.setPosition(location);
+    const bool modified
+        = (event.modifiers()
+              & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        != Qt::NoModifier;
+    return { .location = location, .hasModifier = modified };
+}
+
+} // namespace veyrand::desktop::qt

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "desktop/qt/ListPainter.h"
+#include "input/GameView.h"
+#include "platform/TrackedPointer.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+namespace veyrand::desktop::qt {
+
+// The window's content: shows the layer tree and hands the left button's events to the game view.
+// It paints only what has changed, a frame at a time while something animates, and does nothing at
+// all while nothing does.
+class BoardWidget final : public QWidget {
+public:
+    struct Parts {
+        present::BoardLayers& layers;
+        input::GameView& view;
+        platform::TrackedPointer& pointer;
+        ImageStore& images;
+        // Called with the new size (points) whenever the widget has one.
+        std::function<void(platform::Size)> resized;
+    };
+    explicit BoardWidget(Parts parts, QWidget* parent = nullptr);
+    BoardWidget(const BoardWidget&) = delete;
+    BoardWidget& operator=(const BoardWidget&) = delete;
+    ~BoardWidget() override;
+
+    // Takes the layers' present look as the one to show and returns the part of the widget (in its
+    // own points) that has to be painted again for it.
+    QRegion nextFrame();
+
+    // How many frames have been painted, and whether the next is already on its way.
+    [[nodiscard]] int framesPainted() const { return m_framesPainted; }
+    [[nodiscard]] bool isFrameDue() const { return m_frameTimer.isActive(); }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void scheduleFrame();
+    void showFrame();
+    [[nodiscard]] ListPainter::Surface surface() const;
+    [[nodiscard]] platform::Point gamePoint(QPointF position) const;
+    [[nodiscard]] input::MouseEvent track(const QMouseEvent& event);
+    void findPointerAgain();
+
+    Parts m_parts;
+    ListPainter m_painter;
+    present::DisplayList m_shown;
+    QTimer m_frameTimer;
+    std::optional<QPointF> m_pointerOnDesktop;
+    int m_framesPainted = 0;
+};
+
+} // namespace veyrand::desktop::qt

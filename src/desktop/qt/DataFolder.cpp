@@ -1,0 +1,53 @@
+#include "desktop/qt/DataFolder.h"
+
+#include "desktop/qt/Logging.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+namespace veyrand::desktop::qt {
+
+QString findDataFolder()
+{
+    if (qEnvironmentVariableIsSet("VEYRAND_DATA")) {
+        return qEnvironmentVariable("VEYRAND_DATA");
+    }
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* candidate : { "../share/veyrand", "../share/games/veyrand" }) {
+        if (program.exists(QString::fromLatin1(candidate))) {
+            return QDir::cleanPath(program.filePath(QString::fromLatin1(candidate)));
+        }
+    }
+    return {};
+}
+
+QIcon applicationIcon(const QString& dataFolder)
+{
+    QIcon icon;
+    for (const int size : { 16, 24, 32, 48, 64, 128 }) { // as window managers ask for them
+        const QString file = QStringLiteral("%1/../icons/hicolor/%2x%2/apps/" VEYRAND_ID ".png")
+                                 .arg(dataFolder)
+                                 .arg(size);
+        if (QFile::exists(file)) {
+            icon.addFile(file, { size, size });
+        }
+    }
+    return icon;
+}
+
+std::optional<std::string> FileResources::dataNamed(
+    std::string_view name, std::string_view type) const
+{
+    const auto text = [](std::string_view bytes) {
+        return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    };
+    QFile file(QDir(m_folder).filePath(text(name) + QLatin1Char('.') + text(type)));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcGame).noquote() << file.fileName() << "cannot be read:" << file.errorString();
+        return std::nullopt;
+    }
+    return file.readAll().toStdString();
+}
+
+} // namespace veyrand::desktop::qt

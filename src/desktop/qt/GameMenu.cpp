@@ -1,0 +1,155 @@
+#include "desktop/qt/GameMenu.h"
+
+#include "progress/PlayerKeys.h"
+
+#include <QAction>
+#include <QCoreApplication>
+
+namespace veyrand::desktop::qt {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("GameMenu", text);
+}
+
+QString shortcut(const char* keys)
+{
+    return QString::fromLatin1(keys);
+}
+
+void call(const std::function<void()>& action)
+{
+    if (action) {
+        action();
+    }
+}
+
+} // namespace
+
+GameMenu::GameMenu(platform::Preferences& preferences)
+    : m_preferences(preferences)
+{
+    buildGameMenu();
+    buildOptionsMenu();
+    buildHelpMenu();
+}
+
+void GameMenu::buildGameMenu()
+{
+    QMenu& menu = *addMenu(tr("&Game"));
+    addItem(menu, tr("&Classic Game"), shortcut("Ctrl+N"), &Actions::classicGame,
+        &Actions::canStartGame);
+    addItem(menu, tr("&Endless Game"), shortcut("Ctrl+E"), &Actions::endlessGame,
+        &Actions::canStartGame);
+    menu.addSeparator();
+    addItem(menu, tr("&Quit"), shortcut("Ctrl+Q"), &Actions::quit);
+}
+
+void GameMenu::buildOptionsMenu()
+{
+    QMenu& menu = *addMenu(tr("&Options"));
+    m_music = addSwitch(menu, tr("&Music"), shortcut("Ctrl+M"), progress::kPlayMusicKey);
+    QObject::connect(m_music, &QAction::toggled, &m_bar, [this] { call(m_actions.musicChanged); });
+    m_effects = addSwitch(
+        menu, tr("&Sound Effects"), shortcut("Ctrl+Shift+M"), progress::kPlayEffectsKey);
+    menu.addSeparator();
+    m_fullScreen = addItem(menu, tr("&Full Screen"), shortcut("F11"), &Actions::toggleFullScreen);
+    m_fullScreen->setCheckable(true);
+    // In no menu, but what everybody presses to get out.
+    auto* const leave = new QAction(&m_bar);
+    addShortcut(*leave, shortcut("Esc"));
+    QObject::connect(
+        leave, &QAction::triggered, &m_bar, [this] { call(m_actions.exitFullScreen); });
+}
+
+void GameMenu::buildHelpMenu()
+{
+    QMenu& menu = *addMenu(tr("&Help"));
+    addItem(menu, tr("&How to Play"), shortcut("F1"), &Actions::howToPlay, &Actions::canOpenPage);
+    addItem(menu, tr("&Moves"), shortcut("F2"), &Actions::moves, &Actions::canListMoves);
+    menu.addSeparator();
+    addItem(menu, tr("&About Veyrand"), {}, &Actions::about);
+}
+
+QMenu* GameMenu::addMenu(const QString& title)
+{
+    QMenu* const menu = m_bar.addMenu(title);
+    // What may not be chosen is grey while the menu is open. A shortcut meets the test itself, for
+    // nothing tells when the answer to it changes.
+    QObject::connect(menu, &QMenu::aboutToShow, &m_bar, [this] {
+        for (const Item& item : m_items) {
+            item.action->setEnabled(passes(item.isEnabled));
+        }
+    });
+    QObject::connect(menu, &QMenu::aboutToHide, &m_bar, [this] {
+        for (const Item& item : m_items) {
+            item.action->setEnabled(true);
+        }
+    });
+    return menu;
+}
+
+QAction* GameMenu::addItem(
+    QMenu& menu, const QString& text, const QString& keys, Action chosen, Test isEnabled)
+{
+    QAction* const action = menu.addAction(text);
+    addShortcut(*action, keys);
+    m_items.push_back({ action, isEnabled });
+    QObject::connect(action, &QAction::triggered, &m_bar, [this, chosen, isEnabled] {
+        if (passes(isEnabled)) {
+            call(m_actions.*chosen);
+        }
+    });
+    return action;
+}
+
+QAction* GameMenu::addSwitch(
+    QMenu& menu, const QString& text, const QString& keys, std::string_view key)
+{
+    QAction* const action = menu.addAction(text);
+    addShortcut(*action, keys);
+    action->setCheckable(true);
+    action->setChecked(m_preferences.boolForKey(key));
+    QObject::connect(action, &QAction::toggled, &m_bar,
+        [this, key](bool on) { m_preferences.setValue(key, on); });
+    return action;
+}
+
+void GameMenu::addShortcut(QAction& action, const QString& keys)
+{
+    if (!keys.isEmpty()) {
+        action.setShortcut(QKeySequence(keys));
+        m_shortcuts.append(&action);
+    }
+}
+
+bool GameMenu::passes(Test test) const
+{
+    return test == nullptr || !(m_actions.*test) || (m_actions.*test)();
+}
+
+bool GameMenu::trigger(const QString& text)
+{
+    for (QAction* const title : m_bar.actions()) {
+        QMenu& menu = *title->menu();
+        emit menu.aboutToShow();
+        for (QAction* const action : menu.actions()) {
+            QString plain = action->text();
+            plain.remove(QLatin1Char('&'));
+            if (plain == text) {
+                const bool enabled = action->isEnabled();
+                emit menu.aboutToHide();
+                if (enabled) {
+                    action->trigger();
+                }
+                return enabled;
+            }
+        }
+        emit menu.aboutToHide();
+    }
+    return false;
+}
+
+} // namespace veyrand::desktop::qt
