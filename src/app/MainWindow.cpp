@@ -85,8 +85,20 @@ void MainWindow::changeEvent(QEvent* event)
     if (event->type() == QEvent::WindowStateChange) {
         m_menu.bar()->setVisible(!isFullScreen());
         m_menu.setFullScreen(isFullScreen());
+        if (isMinimized()) {
+            m_board.cancelGesture();
+        }
     }
     QMainWindow::changeEvent(event);
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    // A box has opened in front; only the window is told.
+    if (event->type() == QEvent::WindowBlocked) {
+        m_board.cancelGesture();
+    }
+    return QMainWindow::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

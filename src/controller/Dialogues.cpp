@@ -38,7 +38,7 @@ void Dialogues::showDialogue(
     }
     m_controller.messages().showDialogue(std::move(window));
     m_game.view.hover().establishDialogueButtonTracking();
-    m_game.view.hover().turnOnAllHovers();
+    m_game.view.turnOnAllHovers();
 }
 
 void Dialogues::dialogueButtonClick(int index)

@@ -19,7 +19,7 @@ void FullScreen::toggleFullscreen()
     }
     m_game.view.reestablishTracking();
     if (!m_controller.hasMessageWindow()) {
-        m_game.view.hover().turnOnAllHovers(); // nothing lights up under a page
+        m_game.view.turnOnAllHovers(); // nothing lights up under a page
     }
     if (m_controller.isPuzzleOnBoard()) {
         m_controller.flow().regenerateBoard();

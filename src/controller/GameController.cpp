@@ -42,7 +42,7 @@ void GameController::windowDidResize()
     // A dialogue is looked for first, since it opens on the title page. What was lit may lie
     // elsewhere now, and something else under the resting pointer.
     m_context.view.reestablishTracking();
-    m_context.view.hover().turnOnAllHovers();
+    m_context.view.turnOnAllHovers();
 }
 
 void GameController::musicMenuClick()

@@ -96,7 +96,7 @@ void Messages::restoreInput()
     }
     m_game.view.hover().turnOffButtons();
     m_game.view.reestablishTracking();
-    m_game.view.hover().turnOnAllHovers();
+    m_game.view.turnOnAllHovers();
 }
 
 void Messages::blockForReading()

@@ -30,6 +30,7 @@ GameView::GameView(const Parts& parts)
 
 void GameView::mouseDown(const MouseEvent& event)
 {
+    cancelGesture();
     m_held = Hover::Button::Held;
     if (m_block.blockClick() || m_target == nullptr) {
         return;
@@ -67,6 +68,7 @@ void GameView::mouseDragged(const MouseEvent& event)
 
 void GameView::mouseUp(const MouseEvent& event)
 {
+    m_held = Hover::Button::Up; // whatever the game's answer opens has no gesture to cancel
     letGo();
     if (m_drag) {
         endDrag(event);
@@ -76,6 +78,30 @@ void GameView::mouseUp(const MouseEvent& event)
             mouseClick(event, pressed);
         }
     }
+    finishGesture();
+}
+
+// Moves come with the button up only when its release went elsewhere.
+void GameView::mouseMoved()
+{
+    cancelGesture();
+    m_hover.pointerMoved(m_held);
+}
+
+void GameView::cancelGesture()
+{
+    if (m_held == Hover::Button::Up) {
+        return;
+    }
+    letGo();
+    if (m_drag) {
+        takeBackDrag();
+    }
+    finishGesture();
+}
+
+void GameView::finishGesture()
+{
     m_click = false;
     m_drag.reset();
     m_blockDrag = false;
@@ -167,6 +193,22 @@ void GameView::endDrag(const MouseEvent& event)
         chip->setOpacity(1.0F);
     }
     m_dragImage.removeAfterFade();
+}
+
+void GameView::takeBackDrag()
+{
+    present::GameObjectLayer* const origin = originLayer();
+    if (origin == nullptr) {
+        abandonDrag();
+        return;
+    }
+    m_hover.flushTrackingAreas();
+    m_dragImage.fadeOut();
+    m_dragImage.flyTo(origin->position());
+    m_dragImage.removeAfterFade();
+    const unsigned row = rowForKey(m_drag->originKey);
+    m_hover.turnOffEffectsForRow(row, m_target->lengthOfRow(row));
+    origin->setOpacity(1.0F);
 }
 
 // The chip that is dragged has gone, or another has taken its key: there is nothing left to drop.
@@ -263,8 +305,15 @@ void GameView::reestablishTracking()
 void GameView::blockEnded()
 {
     if (m_target != nullptr && m_target->dialogueState() == 0 && !m_target->hasMessageWindow()) {
-        m_hover.turnOnAllHovers();
+        turnOnAllHovers();
     }
+}
+
+void GameView::turnOnAllHovers()
+{
+    m_hover.turnOnAllHovers(m_target != nullptr && m_target->dialogueState() != 0
+            ? Hover::Asking::Yes
+            : Hover::Asking::No);
 }
 
 } // namespace veyrand::input

@@ -29,7 +29,12 @@ public:
     void mouseDown(const MouseEvent& event);
     void mouseDragged(const MouseEvent& event);
     void mouseUp(const MouseEvent& event);
-    void mouseMoved() { m_hover.pointerMoved(m_held); }
+    void mouseMoved();
+    // The pointer is outside; the button may be held there.
+    void pointerLeft() { m_hover.pointerMoved(m_held); }
+    // The release will not come, or would mean nothing: the window has gone, another has the
+    // pointer, a box wants an answer first. A chip in the hand goes back, and the press was none.
+    void cancelGesture();
 
     // A window that takes every press, or notes beside which play goes on.
     [[nodiscard]] bool messageWindow() const { return m_messageWindow; }
@@ -43,6 +48,8 @@ public:
     void establishButtonTracking() override;
     // After the window changed size or mode: tracks what is on the screen now.
     void reestablishTracking();
+    // After what lies under a resting pointer has changed.
+    void turnOnAllHovers();
 
 private:
     struct Drag {
@@ -60,7 +67,9 @@ private:
     void tryToStartDrag(platform::Point location);
     void startLayerDrag(const std::string& key, platform::Point position);
     void endDrag(const MouseEvent& event);
+    void takeBackDrag();
     void abandonDrag();
+    void finishGesture();
     void mouseClick(const MouseEvent& event, const std::string& key);
     bool dropOnKey(const MouseEvent& event, const std::string& from, const std::string& to);
     void blockEnded();

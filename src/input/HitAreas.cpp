@@ -30,6 +30,13 @@ std::vector<std::string> HitAreas::keys() const
     return keys;
 }
 
+void HitAreas::takeAsEntered(std::optional<platform::Point> pointer)
+{
+    for (Area& area : m_areas) {
+        area.entered = area.entered || contains(area.rect, pointer);
+    }
+}
+
 void HitAreas::pointerMoved(std::optional<platform::Point> pointer, HitAreaListener& listener)
 {
     std::vector<std::string> left;

@@ -32,6 +32,9 @@ public:
     void removeAll() { m_areas.clear(); }
     [[nodiscard]] std::vector<std::string> keys() const;
 
+    // The areas under the pointer count as entered from now on, without a word.
+    void takeAsEntered(std::optional<platform::Point> pointer);
+
     // Tells the listener which areas the pointer left and entered, in that order.
     void pointerMoved(std::optional<platform::Point> pointer, HitAreaListener& listener);
 

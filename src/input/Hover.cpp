@@ -39,6 +39,11 @@ std::string litPartnerOf(std::string_view key)
     return {};
 }
 
+bool isQuestionsFace(std::string_view key)
+{
+    return key == "fullScreen-3i" || key == "fullScreen-4i";
+}
+
 } // namespace
 
 Hover::Hover(board::GameData& gameData, const present::BoardLayers& layers,
@@ -145,13 +150,17 @@ void Hover::turnOffDialogueButtons()
     interfaceElementOff("fullScreen-4i");
 }
 
-void Hover::turnOnAllHovers()
+void Hover::turnOnAllHovers(Asking asking)
 {
     for (const char* key : { "button-lightbulbon", "button-movesbuttonon", "button-menubuttonon",
              "fullScreen-3i", "fullScreen-4i", "button-classicbuttonon", "button-endlessbuttonon",
              "button-quitbuttonon", "button-harderbuttonon", "button-easierbuttonon" }) {
-        turnOnHoveredElement(key);
+        if (asking == Asking::No || isQuestionsFace(key)) {
+            turnOnHoveredElement(key);
+        }
     }
+    // What is lit now goes out when the pointer leaves, held or not as it came.
+    m_buttonAreas.takeAsEntered(m_pointer.position());
 }
 
 void Hover::turnOnHoveredElement(const std::string& key)

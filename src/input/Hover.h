@@ -34,7 +34,10 @@ public:
     void turnOffButtons();
     void turnOffTitlePageButtons();
     void turnOffDialogueButtons();
-    void turnOnAllHovers();
+    // Lights what lies under the pointer, silently. While a question is asked its own two buttons
+    // are all that can be.
+    enum class Asking { No, Yes };
+    void turnOnAllHovers(Asking asking);
 
     void createTrackingAreas(unsigned row, const std::vector<unsigned>& columns);
     void flushTrackingAreas() { m_dropAreas.removeAll(); }

@@ -2,8 +2,11 @@
 
 #include "support/PlayedGame.h"
 
+#include <QDialog>
 #include <QScreen>
 #include <QTest>
+
+#include <functional>
 
 namespace veyrand::app {
 
@@ -94,6 +97,30 @@ TEST_F(MainWindowTest, TheFullScreenItemIsTickedWhenItIsSo)
     EXPECT_TRUE(isTicked());
     window().setWindowState(Qt::WindowMaximized);
     EXPECT_FALSE(isTicked());
+}
+
+TEST_F(MainWindowTest, ABoxInFrontOrTheTaskBarTakesTheChipOutOfTheHand)
+{
+    open();
+    play("YRRR", "YB");
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        { "a box",
+            [this] {
+                QDialog box(&window());
+                box.open();
+                QCoreApplication::processEvents();
+            } },
+        { "minimised", [this] { window().showMinimized(); } },
+    };
+    for (const auto& [way, happens] : ways) {
+        press("chip-1-0");
+        move("chip-3-0");
+        ASSERT_EQ(layer("chip-1-0")->opacity(), 0.5F) << way;
+        happens();
+        EXPECT_EQ(layer("chip-1-0")->opacity(), 1.0F) << way;
+        wait(0.5);
+        EXPECT_TRUE(dragImages().empty()) << way;
+    }
 }
 
 TEST_F(MainWindowTest, TellsBeforeItCloses)

@@ -112,6 +112,34 @@ TEST_F(Clicks, PressAndReleaseOnDifferentElementsAreNoClick)
     EXPECT_FALSE(blocked());
 }
 
+TEST_F(Clicks, APressWhoseReleaseNeverComesIsNone)
+{
+    addButton("button-lightbulb", 0.275);
+    press(centre("button-lightbulbon"));
+    view().cancelGesture();
+    EXPECT_FALSE(layer("button-lightbulbon").isPressed());
+    release(centre("button-lightbulbon"));
+    EXPECT_THAT(target().take(), IsEmpty());
+    press(centre("chip-0-0"));
+    moveTo(centre("chip-0-0")); // without the button
+    release(centre("chip-0-0"));
+    EXPECT_THAT(target().take(), IsEmpty());
+}
+
+// A box that the game's answer opens says that presses are over.
+TEST_F(Clicks, CancellingFromWithinTheAnswerDisturbsNothing)
+{
+    target().whenAsked = [this] { view().cancelGesture(); };
+    target().acceptsDrags = true;
+    click("chip-0-0");
+    EXPECT_THAT(target().take(), ElementsAre("click 0 0"));
+    EXPECT_TRUE(blocked());
+    wait(0.75);
+    drag("chip-0-1", "chip-2-1");
+    EXPECT_THAT(target().take(), ElementsAre("drag 1 0 to 1 2"));
+    EXPECT_TRUE(blocked());
+}
+
 TEST_F(Clicks, APressWithAModifierIsNeitherClickNorDrag)
 {
     press(centre("chip-0-1"), true);

@@ -1,5 +1,6 @@
 #include "input/GameViewFixture.h"
 
+#include <functional>
 #include <gmock/gmock.h>
 
 namespace veyrand::input {
@@ -247,6 +248,60 @@ TEST_F(Drags, ADragWhoseChipWasReplacedEndsToo)
     release(centre("chip-2-1"));
     EXPECT_THAT(target().take(), IsEmpty());
     EXPECT_EQ(layer("chip-0-1").opacity(), 1.0F); // the new chip was never dimmed
+}
+
+TEST_F(Drags, OneWhoseReleaseNeverComesIsTakenBack)
+{
+    const std::pair<const char*, std::function<void()>> signs[] = {
+        { "told so", [this] { view().cancelGesture(); } },
+        { "a move without the button", [this] { moveTo(centre("chip-2-1")); } },
+        { "another press",
+            [this] {
+                press({ 5.0, 5.0 });
+            } },
+        { "another press that is ignored",
+            [this] {
+                view().block().startBlockClick(0.5);
+                press({ 5.0, 5.0 });
+            } },
+    };
+    for (const auto& [sign, happens] : signs) {
+        SCOPED_TRACE(sign);
+        target().targets = std::vector<unsigned> { 2 };
+        startDrag("chip-0-1");
+        dragTo(centre("chip-2-1"));
+        ASSERT_EQ(layer("chip-2-1").glow(), 20.0F);
+        happens();
+        ASSERT_THAT(dragImages(), SizeIs(1));
+        EXPECT_EQ(dragImages().front()->opacity(), 0.0F);
+        EXPECT_EQ(dragImages().front()->position(), single(centre("chip-0-1")));
+        EXPECT_EQ(layer("chip-0-1").shownOpacity(), 1.0F);
+        EXPECT_EQ(layer("chip-2-1").glow(), 0.0F);
+        wait(0.5);
+        EXPECT_THAT(dragImages(), IsEmpty());
+        release(centre("chip-2-1")); // nothing is left to let go
+        EXPECT_THAT(target().take(), IsEmpty());
+        EXPECT_FALSE(blocked());
+    }
+}
+
+TEST_F(Drags, OneThatIsTakenBackAfterItsChipHasGoneJustEnds)
+{
+    startDrag("chip-0-1");
+    table().removeGameObjectForKey("chip-0-1");
+    view().cancelGesture();
+    EXPECT_EQ(dragImages().front()->opacity(), 0.0F);
+    wait(0.5);
+    EXPECT_THAT(dragImages(), IsEmpty());
+}
+
+TEST_F(Drags, TheOneAfterALostReleaseIsLikeAnyOther)
+{
+    startDrag("chip-0-1");
+    drag("chip-1-1", "chip-2-1");
+    EXPECT_THAT(target().take(), ElementsAre("drag 1 1 to 1 2"));
+    wait(0.5);
+    EXPECT_THAT(dragImages(), IsEmpty());
 }
 
 TEST_F(Drags, TargetsGlowWhileTheChipIsOverThem)

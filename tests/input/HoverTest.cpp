@@ -103,6 +103,52 @@ TEST_F(HoverTest, UnderADialogueOrAMessageNothingLightsWhenABlockEnds)
     EXPECT_EQ(opacity("button-movesbuttonon"), 0.0);
 }
 
+TEST_F(HoverTest, AButtonThatLitUpUnderAHeldPointerGoesOutWhenItHasLeft)
+{
+    addTitleButtons();
+    view().hover().establishTitlePagButtonTracking();
+    view().block().startBlockClick(0.5);
+    press(kNowhere);
+    dragTo(centre("button-quitbuttonoff"));
+    wait(0.5);
+    EXPECT_EQ(opacity("button-quitbuttonon"), 1.0);
+    dragTo(kNowhere);
+    release(kNowhere);
+    EXPECT_EQ(opacity("button-quitbuttonon"), 0.0);
+}
+
+TEST_F(HoverTest, UnderAQuestionOnlyItsOwnTwoButtonsCanBeFoundUnderThePointer)
+{
+    addTitleButtons();
+    addDialogueButtons();
+    target().dialogue = 1;
+    view().reestablishTracking();
+    for (const char* key : { "button-quitbutton", "button-menubutton" }) {
+        moveTo(centre(key + std::string("off")));
+        view().turnOnAllHovers();
+        EXPECT_EQ(opacity(key + std::string("on")), 0.0) << key;
+    }
+    moveTo(centre("fullScreen-2i"));
+    view().turnOnAllHovers();
+    EXPECT_EQ(opacity("fullScreen-4i"), 1.0);
+}
+
+// Play goes on beside a note.
+TEST_F(HoverTest, BesideANoteTheBoardsButtonsLightUp)
+{
+    addDialogueButtons(); // a note's pictures have such keys
+    view().setTutorialWindow(true);
+    view().reestablishTracking();
+    moveTo(centre("button-menubuttonoff"));
+    EXPECT_EQ(opacity("button-menubuttonon"), 1.0);
+    view().block().startBlockClick(0.5);
+    moveTo(centre("button-movesbuttonoff"));
+    EXPECT_EQ(opacity("button-menubuttonon"), 0.0);
+    EXPECT_EQ(opacity("button-movesbuttonon"), 0.0);
+    wait(0.5);
+    EXPECT_EQ(opacity("button-movesbuttonon"), 1.0);
+}
+
 TEST_F(HoverTest, TheBoardTracksItsThreeButtonsAndInEndlessFive)
 {
     EXPECT_THAT(view().hover().trackedButtons(),

@@ -93,6 +93,36 @@ TEST_F(MouseEvents, InAWindowOfAnotherShapeElementsAreHitWhereTheyShow)
     EXPECT_EQ(object("button-menubuttonon")->opacity(), 1.0);
 }
 
+TEST_F(MouseEvents, AChipInTheHandGoesBackWhenTheWindowLosesThePointer)
+{
+    play("YRRR", "YB");
+    for (const QEvent::Type type :
+        { QEvent::WindowDeactivate, QEvent::Hide, QEvent::UngrabMouse }) {
+        press("chip-1-0");
+        move("chip-3-0");
+        ASSERT_THAT(dragImages(), SizeIs(1));
+        ASSERT_EQ(layer("chip-1-0")->opacity(), 0.5F);
+        QEvent loss(type);
+        QApplication::sendEvent(&game().widget(), &loss);
+        EXPECT_EQ(layer("chip-1-0")->opacity(), 1.0F) << type;
+        wait(0.5);
+        EXPECT_THAT(dragImages(), IsEmpty()) << type;
+        release("chip-3-0");
+        EXPECT_THAT(lines(), SizeIs(1)) << type;
+    }
+}
+
+TEST_F(MouseEvents, WithTheButtonHeldThePointerMayLeaveTheWindowAndComeBack)
+{
+    play("YRRR", "YB");
+    press("chip-1-0");
+    move("chip-2-0");
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&game().widget(), &leave);
+    release("chip-3-0");
+    EXPECT_THAT(lines(), ElementsAre("YRRR", "YG"));
+}
+
 TEST_F(MouseEvents, ThePointerLeavingTheWindowPutsTheLightOut)
 {
     play("YR", "YB");

@@ -130,8 +130,22 @@ void BoardWidget::leaveEvent(QEvent* event)
 {
     m_pointerOnDesktop.reset();
     m_parts.pointer.setPosition(std::nullopt);
-    m_parts.view.mouseMoved();
+    m_parts.view.pointerLeft();
     QWidget::leaveEvent(event);
+}
+
+bool BoardWidget::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::WindowDeactivate:
+    case QEvent::Hide:
+    case QEvent::UngrabMouse:
+        cancelGesture();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
 }
 
 ListPainter::Surface BoardWidget::surface() const

@@ -38,9 +38,13 @@ public:
     [[nodiscard]] int framesPainted() const { return m_framesPainted; }
     [[nodiscard]] bool isFrameDue() const { return m_frameTimer.isActive(); }
 
+    // The button that is held will not be let go over the board.
+    void cancelGesture() { m_parts.view.cancelGesture(); }
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
