@@ -1,11 +1,11 @@
 #include "desktop/linux/LinuxInstallation.h"
 #include "desktop/linux/LinuxVolumes.h"
 #include "desktop/linux/PosixFiles.h"
-#include "desktop/linux/ScratchFolder.h"
 #include "install/M3InstallController.h"
 #include "platform/MemoryPreferences.h"
 #include "platform/fakes/NotedAlerts.h"
 #include "platform/fakes/PlainTexts.h"
+#include "support/ScratchFolder.h"
 
 #include <sys/mount.h>
 

@@ -1,8 +1,8 @@
 #include "desktop/linux/LinuxVolumes.h"
 
 #include "desktop/linux/LinuxInstallation.h"
-#include "desktop/linux/ScratchFolder.h"
 #include "platform/VolumesContract.h"
+#include "support/ScratchFolder.h"
 
 namespace veyrand::platform {
 

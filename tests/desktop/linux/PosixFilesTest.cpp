@@ -1,7 +1,7 @@
 #include "desktop/linux/PosixFiles.h"
 
-#include "desktop/linux/ScratchFolder.h"
 #include "platform/FilesContract.h"
+#include "support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
