@@ -4,7 +4,6 @@
 #include "platform/Random.h"
 #include "platform/Resources.h"
 #include "progress/PlayerKeys.h"
-#include "progress/Position.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>
@@ -102,7 +101,7 @@ void CurrentGame::generateEndlessProofForPar(int wantedPar)
 
 void CurrentGame::nextLevel()
 {
-    const Position next = nextPosition({ m_level, m_stage });
+    const Place next = nextPlace({ m_level, m_stage });
     m_level = next.level;
     m_stage = next.stage;
     generateProof();

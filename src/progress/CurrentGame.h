@@ -2,6 +2,7 @@
 
 #include "engine/Proof.h"
 #include "progress/Catalogue.h"
+#include "progress/Place.h"
 
 #include <cstdint>
 #include <memory>
@@ -21,7 +22,7 @@ namespace veyrand::progress {
 // is handed a reference.
 class CurrentGame {
 public:
-    enum class Mode { Classic, Endless };
+    using Mode = progress::Mode;
 
     // Where a puzzle stands, and what it is, for placing one that is in no catalogue.
     struct Puzzle {

@@ -33,7 +33,7 @@ std::string levelName(int level)
 
 std::string puzzleName(int level, std::size_t index, const Level& puzzles)
 {
-    return nameOf(Position { level, static_cast<int>(index) + 1 }) + ' '
+    return nameOf(Place { level, static_cast<int>(index) + 1 }) + ' '
         + puzzles.at(index)->puzzle.root + ' ' + puzzles.at(index)->puzzle.goal + ' ';
 }
 

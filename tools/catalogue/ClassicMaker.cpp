@@ -119,7 +119,7 @@ public:
     }
 
 private:
-    Puzzle make(Position place)
+    Puzzle make(Place place)
     {
         // The wish for bits is met within a bit if it can be, else within a few.
         for (const double bitsAround : { 1.0, 2.0, 3.0, 4.0 }) {
@@ -138,7 +138,7 @@ private:
     static constexpr std::size_t kMostUsesOfLateMoves = 4; // of one set of them, in a level
 
     // The candidates that may stand at a place, best first.
-    std::vector<const Candidate*> ranked(Position place, double bitsAround) const
+    std::vector<const Candidate*> ranked(Place place, double bitsAround) const
     {
         std::vector<std::pair<double, const Candidate*>> possible;
         for (const Candidate& candidate : m_pools.of(place.level)) {
@@ -156,7 +156,7 @@ private:
         return ranked;
     }
 
-    bool isPossible(const Candidate& candidate, Position place, double bitsAround) const
+    bool isPossible(const Candidate& candidate, Place place, double bitsAround) const
     {
         const Wish wish = wishAt(place);
         const double bits = candidate.metrics.bits;
@@ -175,7 +175,7 @@ private:
     }
 
     // Where no move is new, neighbours differ in the late moves they cannot do without.
-    bool variesLateMoves(const Candidate& candidate, Position place) const
+    bool variesLateMoves(const Candidate& candidate, Place place) const
     {
         if (place.level < kFirstLevelOfAll) {
             return true;
@@ -186,7 +186,7 @@ private:
             && (uses == m_lateMoves.end() || uses->second < kMostUsesOfLateMoves);
     }
 
-    double worth(const Candidate& candidate, Position place) const
+    double worth(const Candidate& candidate, Place place) const
     {
         constexpr double kCostOfUsedRoot = 1.0;
         constexpr double kCostOfUsedMoves = 0.4;
@@ -212,7 +212,7 @@ private:
         return worth;
     }
 
-    void take(const Candidate& candidate, Position place)
+    void take(const Candidate& candidate, Place place)
     {
         remember(candidate.puzzle, place.level);
         m_last = candidate.metrics.needed & kLateMoves;

@@ -36,7 +36,7 @@ constexpr std::array<Rise, progress::kLastLevel - 1> kRises { {
 
 } // namespace
 
-std::optional<Puzzle> givenPuzzle(Position place)
+std::optional<Puzzle> givenPuzzle(Place place)
 {
     static const std::array<Puzzle, progress::kLastStage> kFirstLevel { {
         { "YGR", "YGRGR", 1 },
@@ -72,7 +72,7 @@ std::optional<unsigned> newMoveOf(int level)
     return static_cast<unsigned>(progress::highestRuleAt(level, 1)) - 1;
 }
 
-Wish wishAt(Position place)
+Wish wishAt(Place place)
 {
     const Rise& rise = kRises.at(static_cast<std::size_t>(place.level - kFirstLevelOfCurve));
     const bool isBreather = place.stage == kBreatherStage;

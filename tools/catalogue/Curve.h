@@ -10,7 +10,7 @@ namespace veyrand::catalogue {
 
 // The puzzle that the tutorial's pages speak of at that place, if they do: all of level 1, and the
 // first of each level that brings a new move.
-[[nodiscard]] std::optional<Puzzle> givenPuzzle(Position place);
+[[nodiscard]] std::optional<Puzzle> givenPuzzle(Place place);
 
 // The index of the move that the level is about, if it brings one: 2 to 5 do.
 [[nodiscard]] std::optional<unsigned> newMoveOf(int level);
@@ -22,7 +22,7 @@ struct Wish {
     bool isBreather = false; // easier than the one before it
     bool isLast = false; // of its level: one to remember
 };
-[[nodiscard]] Wish wishAt(Position place);
+[[nodiscard]] Wish wishAt(Place place);
 
 // Blue chips come with the move that makes them.
 inline constexpr int kFirstLevelWithBlue = 4;

@@ -7,12 +7,12 @@
 
 namespace veyrand::catalogue {
 
-std::string nameOf(Position place)
+std::string nameOf(Place place)
 {
     return std::to_string(place.level) + '-' + std::to_string(place.stage);
 }
 
-Position placeOfEntry(std::size_t entry)
+Place placeOfEntry(std::size_t entry)
 {
     const int number = static_cast<int>(entry) - 1;
     return { number / progress::kLastStage + 1, number % progress::kLastStage + 1 };
@@ -23,7 +23,7 @@ int highestRuleOf(Game game, std::size_t entry)
     if (game == Game::Endless) {
         return progress::kMoveCount;
     }
-    const Position place = placeOfEntry(entry);
+    const Place place = placeOfEntry(entry);
     return progress::highestRuleAt(place.level, place.stage);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "progress/Position.h"
+#include "progress/Place.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -23,17 +23,17 @@ struct Puzzle {
 
 using Puzzles = std::vector<Puzzle>;
 
-using progress::Position;
+using progress::Place;
 
 // The most chips a line may have on the board, and the most moves a puzzle may ask for.
 inline constexpr unsigned kMostChips = 12;
 inline constexpr unsigned kMostMoves = 11;
 
 // "7-3".
-[[nodiscard]] std::string nameOf(Position place);
+[[nodiscard]] std::string nameOf(Place place);
 
 // The place of an entry of the Classic catalogue, from 1: entry 0 has none.
-[[nodiscard]] Position placeOfEntry(std::size_t entry);
+[[nodiscard]] Place placeOfEntry(std::size_t entry);
 
 // A set of moves: bit n is the move of index n.
 using MoveSet = unsigned;

@@ -2,7 +2,7 @@
 #include "JsonOf.h"
 #include "controller/MoveDecision.h"
 #include "engine/HintHelper.h"
-#include "progress/Position.h"
+#include "progress/Place.h"
 
 namespace veyrand::workshop {
 
@@ -94,7 +94,7 @@ public:
 
     Json run() override
     {
-        const progress::Position next = progress::nextPosition(m_position);
+        const progress::Place next = progress::nextPlace(m_position);
         return { { "highestRule",
                      m_endless ? progress::kMoveCount
                                : progress::highestRuleAt(m_position.level, m_position.stage) },
@@ -103,7 +103,7 @@ public:
     }
 
 private:
-    progress::Position m_position;
+    progress::Place m_position;
     bool m_endless = false;
 };
 

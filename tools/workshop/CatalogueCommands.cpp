@@ -8,8 +8,8 @@
 #include "platform/fakes/SeededRandom.h"
 #include "progress/Catalogue.h"
 #include "progress/CurrentGame.h"
+#include "progress/Place.h"
 #include "progress/PlayerKeys.h"
-#include "progress/Position.h"
 
 namespace veyrand::workshop {
 
