@@ -25,12 +25,37 @@ function(veyrand_program name)
   target_link_libraries(${name} PRIVATE ${PROGRAM_LINK} veyrand_warnings)
 endfunction()
 
+# A test file is mostly the framework's headers, a tool's those of its libraries: so the files of one
+# folder are read together, five or so at a time. Which files share a reading follows from their names: a new one disturbs one reading, not
+# all that come after it. The linter reads each file alone and sees what one borrows from another.
+option(VEYRAND_UNITY "Read several files of a test or a tool at once" ON)
+function(veyrand_read_together target)
+  set(sources ${ARGN})
+  list(FILTER sources INCLUDE REGEX "\\.cpp$")
+  list(LENGTH sources count)
+  math(EXPR readings "(${count} + 4) / 5")
+  if(NOT VEYRAND_UNITY OR readings EQUAL count)
+    return()
+  endif()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  # Fixtures may hide in a file: gcc takes the files of a reading for headers and fears for others.
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+  foreach(source ${sources})
+    get_filename_component(name ${source} NAME)
+    string(MD5 digest ${name})
+    string(SUBSTRING ${digest} 0 6 digest)
+    math(EXPR reading "0x${digest} % ${readings}")
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${reading})
+  endforeach()
+endfunction()
+
 # veyrand_test(NAME [LINK target...]): one GoogleTest program of every source in the current folder.
 # The cases are found when the tests run, so that building needs no program run.
 function(veyrand_test name)
   cmake_parse_arguments(TEST "" "" "LINK" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   add_executable(${name} ${sources})
+  veyrand_read_together(${name} ${sources})
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gmock GTest::gtest_main veyrand_warnings)
   # Under the sanitizers the rooms are optimised a little; optimising the cases too would triple the
@@ -44,7 +69,6 @@ endfunction()
 
 # veyrand_game_test(NAME): the same, for tests that play whole games.
 function(veyrand_game_test name)
-  veyrand_test(${name} LINK veyrand_app)
-  target_compile_definitions(${name} PRIVATE VEYRAND_DATA_DIR="${VEYRAND_DATA_DIR}")
+  veyrand_test(${name} LINK veyrand_app veyrand_places)
   add_dependencies(${name} veyrand_data)
 endfunction()

@@ -1,6 +1,7 @@
 #include "board/LineDrawing.h"
 #include "desktop/qt/QtRunLoop.h"
 #include "support/BoardFakes.h"
+#include "support/Places.h"
 #include "support/PlayedGame.h"
 
 #include <QEventLoop>
@@ -90,7 +91,7 @@ TEST(IdleBoard, WithTheRealClockTheTimersStopOnceEverythingRests)
     const platform::SoundEffects effects(sounds, menu);
     platform::TrackedPointer pointer;
     const desktop::qt::GameFont font;
-    desktop::qt::ImageStore images(QStringLiteral(VEYRAND_DATA_DIR "/images"), font);
+    desktop::qt::ImageStore images(QString::fromStdString(test::dataFolder() + "/images"), font);
     board::GameData data(screen);
     board::LineDrawing lines(data, runLoop);
     present::Scene scene(runLoop);

@@ -1,5 +1,7 @@
 #include "architecture/Repository.h"
 
+#include "support/Places.h"
+
 #include <algorithm>
 #include <cctype>
 #include <fstream>
@@ -46,7 +48,7 @@ std::vector<SourceFile> readRepository(const fs::path& root)
 
 const std::vector<SourceFile>& thisRepository()
 {
-    static const std::vector<SourceFile> files = readRepository(VEYRAND_SOURCE_DIR);
+    static const std::vector<SourceFile> files = readRepository(test::sourceFolder());
     return files;
 }
 

@@ -1,14 +1,15 @@
 #include "board/BoardFixture.h"
+#include "support/Instant.h"
 
 #include <gmock/gmock.h>
 
 namespace veyrand::board {
 
+using test::kInstant;
+
 using ::testing::ElementsAre;
 
 namespace {
-
-constexpr double kInstant = 1e-9; // seconds; nothing is timed more finely
 
 // The records of each move, phase by phase. How their layers travel is for others to test.
 class MoveAnimationsTest : public BoardTest {

@@ -1,6 +1,7 @@
 #include "catalogue/Check.h"
 #include "catalogue/Criteria.h"
 #include "catalogue/HintSearch.h"
+#include "support/Places.h"
 
 #include <fstream>
 #include <gmock/gmock.h>
@@ -22,7 +23,7 @@ void inSilence(std::size_t /*done*/, std::size_t /*all*/) { }
 
 Puzzles read(const std::string& name)
 {
-    std::ifstream file(VEYRAND_CATALOGUES "/" + name, std::ios::binary);
+    std::ifstream file(test::sourceFolder() + "/assets/catalogues/" + name, std::ios::binary);
     return puzzlesIn(std::string(std::istreambuf_iterator<char>(file), {}));
 }
 

@@ -5,6 +5,7 @@
 #include "engine/HintHelper.h"
 #include "platform/fakes/SeededRandom.h"
 #include "progress/RuleSets.h"
+#include "support/Places.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -16,7 +17,7 @@ namespace {
 
 Puzzles classicPuzzles()
 {
-    std::ifstream file(VEYRAND_CATALOGUES "/Theorems.txt", std::ios::binary);
+    std::ifstream file(test::sourceFolder() + "/assets/catalogues/Theorems.txt", std::ios::binary);
     return puzzlesIn(std::string(std::istreambuf_iterator<char>(file), {}));
 }
 

@@ -1,16 +1,16 @@
+#include "support/Instant.h"
 #include "support/PlayedGame.h"
 
 #include <gmock/gmock.h>
 
 namespace veyrand::controller {
 
+using test::kInstant;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 namespace {
-
-constexpr double kInstant = 1e-9; // seconds
 
 class MovesTest : public test::PlayedGame {
 protected:

@@ -1,17 +1,18 @@
 #include "progress/PlayerKeys.h"
+#include "support/Instant.h"
 #include "support/PlayedGame.h"
 
 #include <gmock/gmock.h>
 
 namespace veyrand::controller {
 
+using test::kInstant;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 namespace {
 
-constexpr double kInstant = 1e-9; // seconds
 constexpr double kGoalOpacity = 0.699999988079071; // single-precision 0.7
 constexpr double kGoalMetOpacity = 0.10000000149011612; // single-precision 0.1
 

@@ -2,6 +2,7 @@
 
 #include "desktop/qt/DataFolder.h"
 #include "support/MemoryResources.h"
+#include "support/Places.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -59,7 +60,7 @@ struct Malformed {
 
 TEST(TutorialScriptReader, ReadsTheFilesOfTheGame)
 {
-    const desktop::qt::FileResources resources(QStringLiteral(VEYRAND_DATA_DIR));
+    const desktop::qt::FileResources resources(QString::fromStdString(test::dataFolder()));
     const TutorialScript script = readTutorialScript(resources);
     EXPECT_EQ(script.errors, "");
     EXPECT_EQ(script.pages.size(), 41U);

@@ -11,11 +11,6 @@
 namespace veyrand::engine {
 namespace {
 
-PackedLine packed(const std::string& text)
-{
-    return *PackedLine::pack(text);
-}
-
 using Counts = std::vector<std::uint64_t>;
 
 // By hand, the root at distance 0 and nowhere else.

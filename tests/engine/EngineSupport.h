@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/PackedLine.h"
 #include "engine/Proof.h"
 #include "platform/Log.h"
 #include "progress/RuleSets.h"
@@ -20,6 +21,11 @@ inline const SharedRules& sevenMoves()
 inline Theorem line(std::string text)
 {
     return Theorem(std::move(text));
+}
+
+inline PackedLine packed(const std::string& text)
+{
+    return *PackedLine::pack(text);
 }
 
 inline Proof proofFromTo(const std::string& root, const std::string& goal)

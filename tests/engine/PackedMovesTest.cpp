@@ -11,11 +11,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-PackedLine packed(const std::string& text)
-{
-    return *PackedLine::pack(text);
-}
-
 PackedMoves sevenPackedMoves()
 {
     return *PackedMoves::derive(*sevenMoves());

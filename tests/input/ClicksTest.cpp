@@ -1,15 +1,15 @@
 #include "input/GameViewFixture.h"
+#include "support/Instant.h"
 
 #include <gmock/gmock.h>
 
 namespace veyrand::input {
 
+using test::kInstant;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 namespace {
-
-constexpr double kInstant = 1e-9; // seconds
 
 class Clicks : public GameViewTest { };
 

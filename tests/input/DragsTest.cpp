@@ -1,4 +1,5 @@
 #include "input/GameViewFixture.h"
+#include "support/Instant.h"
 
 #include <functional>
 #include <gmock/gmock.h>
@@ -6,13 +7,12 @@
 namespace veyrand::input {
 
 using platform::PointF;
+using test::kInstant;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 namespace {
-
-constexpr double kInstant = 1e-9; // seconds
 
 class Drags : public GameViewTest {
 protected:

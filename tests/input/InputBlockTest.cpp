@@ -1,14 +1,15 @@
 #include "input/InputBlock.h"
 
 #include "platform/fakes/VirtualRunLoop.h"
+#include "support/Instant.h"
 
 #include <gtest/gtest.h>
 
 namespace veyrand::input {
 
-namespace {
+using test::kInstant;
 
-constexpr double kInstant = 1e-9; // seconds
+namespace {
 
 class InputBlockTest : public ::testing::Test {
 protected:

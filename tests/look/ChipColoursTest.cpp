@@ -1,5 +1,6 @@
 #include "desktop/qt/ImageStore.h"
 #include "look/Colour.h"
+#include "support/Places.h"
 #include "support/QtEnvironment.h"
 
 #include <algorithm>
@@ -76,7 +77,8 @@ private:
     QImage picture(const char* chip) { return m_images.image(chip, { kSide, kSide }).toImage(); }
 
     desktop::qt::GameFont m_font;
-    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ImageStore m_images { QString::fromStdString(test::dataFolder() + "/images"),
+        m_font };
 };
 
 TEST_F(ChipColours, AnyTwoFacesDifferForEveryKindOfSight)

@@ -1,6 +1,7 @@
 #include "desktop/qt/ListPainter.h"
 #include "look/Colour.h"
 #include "progress/PlayerKeys.h"
+#include "support/Places.h"
 #include "support/PlayedGame.h"
 
 #include <algorithm>
@@ -214,7 +215,8 @@ private:
     }
 
     desktop::qt::GameFont m_font;
-    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ImageStore m_images { QString::fromStdString(test::dataFolder() + "/images"),
+        m_font };
     desktop::qt::ListPainter m_painter { m_images };
     Measured m_small;
     Measured m_large;

@@ -1,4 +1,5 @@
 #include "desktop/qt/ListPainter.h"
+#include "support/Places.h"
 #include "support/PlayedGame.h"
 
 #include <algorithm>
@@ -106,7 +107,8 @@ private:
     };
 
     desktop::qt::GameFont m_font;
-    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ImageStore m_images { QString::fromStdString(test::dataFolder() + "/images"),
+        m_font };
     desktop::qt::ListPainter m_painter { m_images };
     std::map<std::uint64_t, Before> m_before;
     int m_compared = 0;
@@ -146,7 +148,7 @@ TEST_F(Motion, ThePointerChangesNothingButWhatItLights)
 TEST(ImageStoreCache, DrawsNoPictureTwice)
 {
     const desktop::qt::GameFont font;
-    desktop::qt::ImageStore images(QStringLiteral(VEYRAND_DATA_DIR "/images"), font);
+    desktop::qt::ImageStore images(QString::fromStdString(test::dataFolder() + "/images"), font);
     const QPixmap& chip = images.image("RedChip", { 60, 60 });
     const qint64 key = chip.cacheKey();
     images.image("BlueChip", { 60, 60 });

@@ -1,4 +1,5 @@
 #include "progress/PlayerKeys.h"
+#include "support/Places.h"
 #include "support/PlayedGame.h"
 
 #include <QDir>
@@ -22,7 +23,8 @@ Names filesIn(const char* folder)
     const QStringList kinds { QStringLiteral("*.svg"), QStringLiteral("*.jpg"),
         QStringLiteral("*.wav"), QStringLiteral("*.ogg") };
     QDirIterator files(
-        QStringLiteral(VEYRAND_SOURCE_DIR "/assets/") + QLatin1String(folder), kinds, QDir::Files);
+        QString::fromStdString(test::sourceFolder() + "/assets/") + QLatin1String(folder), kinds,
+        QDir::Files);
     while (files.hasNext()) {
         names.insert(QFileInfo(files.next()).completeBaseName().toStdString());
     }
@@ -35,8 +37,8 @@ Names soundsInSources()
     const QRegularExpression call(
         QStringLiteral("(?:effects|sounds)\\.(?:play|startLoop)\\(\\s*\"([^\"]+)\""));
     Names names;
-    QDirIterator files(QStringLiteral(VEYRAND_SOURCE_DIR "/src"), { QStringLiteral("*.cpp") },
-        QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(QString::fromStdString(test::sourceFolder() + "/src"),
+        { QStringLiteral("*.cpp") }, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));

@@ -1,4 +1,5 @@
 #include "look/Meter.h"
+#include "support/Places.h"
 
 #include <algorithm>
 #include <array>
@@ -22,7 +23,7 @@ SoundSamples load(const std::string& file)
 {
     QString error;
     SoundSamples sound = desktop::qt::readSoundFile(
-        QStringLiteral(VEYRAND_SOURCE_DIR "/assets/sounds/") + QString::fromStdString(file), error);
+        QString::fromStdString(test::sourceFolder() + "/assets/sounds/" + file), error);
     EXPECT_TRUE(error.isEmpty()) << file << ": " << error.toStdString();
     return sound;
 }

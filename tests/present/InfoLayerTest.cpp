@@ -15,7 +15,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-constexpr double kNear = 1e-6; // offsets are single precision
+constexpr double kOffsetError = 1e-6; // offsets are single precision
 
 class InfoLayerTest : public ::testing::Test {
 protected:
@@ -63,7 +63,7 @@ TEST_F(InfoLayerTest, SetsItsLinesOneBelowTheOther)
     const std::vector<double> expected { 0.65, 0.575, 0.5 };
     for (std::size_t i = 0; i < expected.size(); ++i) {
         const auto line = object("fullScreen-" + std::to_string(i));
-        EXPECT_NEAR(line->y(), expected[i], kNear);
+        EXPECT_NEAR(line->y(), expected[i], kOffsetError);
         EXPECT_EQ(line->x(), 0.8);
         EXPECT_EQ(line->width(), 0.0);
         EXPECT_EQ(line->height(), 0.0);
@@ -82,7 +82,7 @@ TEST_F(InfoLayerTest, ScalesLettersAndTheirDistanceTogether)
     message->addText("one");
     message->addText("two");
     EXPECT_NEAR(textOf("fullScreen-0").fontSize(), 48.0, 1e-5);
-    EXPECT_NEAR(object("fullScreen-0")->y() - object("fullScreen-1")->y(), 0.06, kNear);
+    EXPECT_NEAR(object("fullScreen-0")->y() - object("fullScreen-1")->y(), 0.06, kOffsetError);
 }
 
 TEST_F(InfoLayerTest, LowersItsLinesByItsOffsetAndMovesEachByItsOwn)
@@ -92,8 +92,8 @@ TEST_F(InfoLayerTest, LowersItsLinesByItsOffsetAndMovesEachByItsOwn)
     const auto message = open(style);
     const board::Color blue { .red = 0.125, .green = 0.098, .blue = 0.56 };
     message->addText("one", { .horizontal = 0.1, .vertical = -0.2 }, blue, 36.0);
-    EXPECT_NEAR(object("fullScreen-0")->x(), 0.9, kNear);
-    EXPECT_NEAR(object("fullScreen-0")->y(), 0.75 - 0.215 - 0.2, kNear);
+    EXPECT_NEAR(object("fullScreen-0")->x(), 0.9, kOffsetError);
+    EXPECT_NEAR(object("fullScreen-0")->y(), 0.75 - 0.215 - 0.2, kOffsetError);
     EXPECT_EQ(textOf("fullScreen-0").fontSize(), 36.0);
     EXPECT_EQ(textOf("fullScreen-0").color(), blue);
 }

@@ -2,6 +2,7 @@
 #include "platform/MemoryPreferences.h"
 #include "progress/PlayerKeys.h"
 #include "robot/Robot.h"
+#include "support/Places.h"
 #include "support/QtEnvironment.h"
 
 #include <QDir>
@@ -65,7 +66,7 @@ private:
 struct PreparedGame {
     Redirected preferences;
     app::VirtualGame game { { .store = &preferences,
-        .dataFolder = QStringLiteral(VEYRAND_DATA_DIR) } };
+        .dataFolder = QString::fromStdString(test::dataFolder()) } };
 };
 
 // Another process that plays on the preferences in the file from where they stand, and reports each

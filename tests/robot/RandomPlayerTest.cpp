@@ -1,5 +1,6 @@
 #include "progress/PlayerKeys.h"
 #include "robot/Robot.h"
+#include "support/Places.h"
 #include "support/QtEnvironment.h"
 
 #include <array>
@@ -43,7 +44,7 @@ public:
         : m_engine(seed)
         , m_game({ .seed = seed,
               .preferences = saved(level, stage),
-              .dataFolder = QStringLiteral(VEYRAND_DATA_DIR) })
+              .dataFolder = QString::fromStdString(test::dataFolder()) })
         , m_robot(m_game)
     {
         m_game.launch();

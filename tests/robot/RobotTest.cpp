@@ -1,6 +1,7 @@
 #include "robot/Robot.h"
 
 #include "progress/PlayerKeys.h"
+#include "support/Places.h"
 #include "support/QtEnvironment.h"
 
 #include <gmock/gmock.h>
@@ -16,7 +17,7 @@ namespace {
 app::VirtualGame::Options withData(platform::Preferences::Contents preferences = {})
 {
     return { .preferences = std::move(preferences),
-        .dataFolder = QStringLiteral(VEYRAND_DATA_DIR) };
+        .dataFolder = QString::fromStdString(test::dataFolder()) };
 }
 
 std::vector<std::string> takePages(const Robot& robot, std::size_t& taken)

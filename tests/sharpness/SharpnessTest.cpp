@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 #include "desktop/qt/GameFont.h"
+#include "support/Places.h"
 #include "support/PlayedGame.h"
 
 #include <QPainter>
@@ -88,7 +89,8 @@ private:
 
     MainWindow m_window { game().menu(), game().widget() };
     desktop::qt::GameFont m_font;
-    desktop::qt::ImageStore m_images { QStringLiteral(VEYRAND_DATA_DIR "/images"), m_font };
+    desktop::qt::ImageStore m_images { QString::fromStdString(test::dataFolder() + "/images"),
+        m_font };
     desktop::qt::ListPainter m_painter { m_images };
 };
 

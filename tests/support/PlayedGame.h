@@ -2,14 +2,14 @@
 
 #include "app/VirtualGame.h"
 #include "support/BoardRows.h"
+#include "support/Places.h"
 #include "support/QtEnvironment.h"
 
 #include <gtest/gtest.h>
 
 namespace veyrand::test {
 
-// A whole game in virtual time, played with the mouse. The test program must be told where the
-// game's data is: VEYRAND_DATA_DIR.
+// A whole game in virtual time, played with the mouse.
 class PlayedGame : public ::testing::Test {
 protected:
     using Puzzle = progress::CurrentGame::Puzzle;
@@ -90,7 +90,7 @@ protected:
 private:
     static app::VirtualGame::Options withData(app::VirtualGame::Options options)
     {
-        options.dataFolder = QStringLiteral(VEYRAND_DATA_DIR);
+        options.dataFolder = QString::fromStdString(dataFolder());
         return options;
     }
     platform::Point centre(const std::string& key)

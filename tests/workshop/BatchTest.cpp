@@ -1,6 +1,7 @@
 #include "Batch.h"
 
 #include "Command.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -143,7 +144,7 @@ TEST(BatchErrors, AnOptionOfOneLineIsForgottenByTheNext)
 
 TEST(CatalogueCommands, AnalyseAllListsTheClassicPuzzlesOnce)
 {
-    const Json log = ask("analyse-all --data " DATA_FOLDER);
+    const Json log = ask("analyse-all --data " + test::dataFolder());
     ASSERT_EQ(log.size(), 110U);
     EXPECT_EQ(log[0], "YGR,YGRGR,1");
     EXPECT_EQ(log[1], "YG,YGGGG,2");
@@ -151,9 +152,9 @@ TEST(CatalogueCommands, AnalyseAllListsTheClassicPuzzlesOnce)
 
 TEST(CatalogueCommands, TheSignatureIsOneNumberAndAlwaysTheSame)
 {
-    const Json signature = ask("bench-signature --data " DATA_FOLDER);
+    const Json signature = ask("bench-signature --data " + test::dataFolder());
     EXPECT_TRUE(signature.is_number_unsigned());
-    EXPECT_EQ(ask("bench-signature --data " DATA_FOLDER), signature);
+    EXPECT_EQ(ask("bench-signature --data " + test::dataFolder()), signature);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "HumanText.h"
 #include "ProgressLine.h"
 #include "progress/Catalogue.h"
+#include "support/Places.h"
 
 #include <array>
 #include <cstdio>
@@ -20,7 +21,7 @@ struct Outcome {
 // Both outputs of the program, and its exit status.
 Outcome run(const std::string& arguments)
 {
-    FILE* const pipe = popen((WORKSHOP " " + arguments + " 2>&1").c_str(), "r");
+    FILE* const pipe = popen((test::workshopProgram() + " " + arguments + " 2>&1").c_str(), "r");
     std::string output;
     std::array<char, 4096> buffer {};
     while (std::fgets(buffer.data(), buffer.size(), pipe) != nullptr) {

@@ -1,11 +1,12 @@
 #include "desktop/qt/DataFolder.h"
+#include "support/Places.h"
 #include "support/QtEnvironment.h"
 
 namespace veyrand::desktop::qt {
 
 TEST(ApplicationIcon, IsFoundBesideTheDataInEverySizeThatAWindowNeeds)
 {
-    const QIcon icon = applicationIcon(QStringLiteral(VEYRAND_DATA_DIR));
+    const QIcon icon = applicationIcon(QString::fromStdString(test::dataFolder()));
     for (const int size : { 16, 24, 32, 48, 64, 128 }) {
         const QImage image = icon.pixmap(size).toImage();
         EXPECT_EQ(image.width(), size);

@@ -1,10 +1,12 @@
 #include "desktop/qt/SoundSupport.h"
+#include "support/Places.h"
 
 #include <array>
 
 namespace veyrand::desktop::qt {
 
 using test::HeardSounds;
+using test::kSilence;
 using test::LoopbackDevice;
 using test::loudest;
 using test::Mix;
@@ -13,7 +15,6 @@ namespace {
 
 constexpr const char* kMusic = "Along the Seabed";
 constexpr std::size_t kMusicFrames = 3'840'000; // 24 bars at 72 beats a minute, to the frame
-constexpr float kSilence = 0.0005F;
 
 // The frame of the first sample above a thousandth of the full volume.
 std::size_t onset(const Mix& mix)
@@ -33,9 +34,14 @@ Mix toMix(const SoundSamples& sound)
     return mix;
 }
 
+QString soundFolder()
+{
+    return QString::fromStdString(test::sourceFolder() + "/assets/sounds");
+}
+
 QString fileOf(const char* name)
 {
-    return QStringLiteral(VEYRAND_SOUNDS "/") + QString::fromLatin1(name);
+    return soundFolder() + QLatin1Char('/') + QLatin1String(name);
 }
 
 // How sharply the signal bends at each frame: what the ear takes for a click.
@@ -59,7 +65,7 @@ double sharpestBend(const Mix& mix, std::size_t from, std::size_t to)
 
 TEST(GameSounds, EachEffectIsHeardAtItsMoment)
 {
-    HeardSounds heard(QStringLiteral(VEYRAND_SOUNDS));
+    HeardSounds heard(soundFolder());
     heard.load();
     for (const char* name :
         { "Click", "Marble", "No", "CymbalRoll", "DeleteDing", "Triangle", "GlockE2", "Chimes" }) {
@@ -92,7 +98,7 @@ TEST(GameSounds, TheMusicIsCutToTheFrame)
 // must not bend more sharply than the music around it does by itself, nor fall silent.
 TEST(GameSounds, TheMusicLoopsWithoutAClickOrAGap)
 {
-    HeardSounds heard(QStringLiteral(VEYRAND_SOUNDS));
+    HeardSounds heard(soundFolder());
     heard.load();
     heard.sounds().startLoop(kMusic, 1.0);
     constexpr std::size_t kSecond = LoopbackDevice::kRate;

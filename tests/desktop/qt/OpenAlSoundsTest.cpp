@@ -4,14 +4,13 @@
 namespace veyrand::platform {
 
 using test::HeardSounds;
+using test::kSilence;
 using test::LoggedLines;
 using test::LoopbackDevice;
 using test::loudest;
 using test::Mix;
 
 namespace {
-
-constexpr float kSilence = 0.0005F;
 
 // A folder with the sounds that the contract knows.
 class ToneFolder {

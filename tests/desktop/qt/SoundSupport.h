@@ -16,6 +16,8 @@ namespace veyrand::test {
 
 using Mix = LoopbackDevice::Mix;
 
+inline constexpr float kSilence = 0.0005F; // a peak below which nobody hears a thing
+
 inline float loudest(const Mix& mix)
 {
     float peak = 0.0F;
