@@ -1,31 +1,13 @@
 #include "controller/Moves.h"
 
+#include "board/Choreography.h"
 #include "controller/GameController.h"
+#include "play/Decide.h"
+#include "progress/RuleSets.h"
+
+#include <algorithm>
 
 namespace veyrand::controller {
-
-namespace {
-
-// Numbers of lines count the start line.
-constexpr unsigned kMostLines = 13;
-constexpr unsigned kMostLinesForDrag = 11; // one fewer than a drop accepts, deliberately
-constexpr unsigned kMostChips = 12;
-
-double endOf(MoveAnimation animation)
-{
-    switch (animation) {
-    case MoveAnimation::ThreeRedsToOneGreen:
-    case MoveAnimation::SplitGreensWithBlue:
-        return board::MoveAnimations::kMergeEnd;
-    case MoveAnimation::TwoGreensDisappear:
-    case MoveAnimation::DropBetweenBlues:
-        return board::MoveAnimations::kVanishEnd;
-    default:
-        return board::MoveAnimations::kSlideEnd;
-    }
-}
-
-} // namespace
 
 Moves::Moves(GameController& controller)
     : m_controller(controller)
@@ -36,16 +18,8 @@ Moves::Moves(GameController& controller)
 void Moves::mouseClick(unsigned row, unsigned column)
 {
     Tutorial& tutorial = m_controller.tutorial();
-    if (tutorial.running() && !tutorial.checkTutorialClick(row, column)) {
-        return;
-    }
-    const bool playable = canPlay() && rowToDrag() == row;
-    if (playable
-        && apply(decideClick(
-            lastLine(), m_controller.proof()->rules(), column, m_game.currentGame.highestRule()))) {
-        moveMade();
-    } else {
-        playNoRuleApplied();
+    if (!tutorial.running() || tutorial.checkTutorialClick(row, column)) {
+        perform(play::Click { row, column });
     }
 }
 
@@ -55,17 +29,7 @@ bool Moves::mouseDrag(unsigned fromRow, unsigned fromColumn, unsigned toRow, uns
     if (tutorial.running() && !tutorial.checkTutorialDrag(fromRow, fromColumn, toRow, toColumn)) {
         return false;
     }
-    // The row itself is not tested: drags only start on the row that areasToTrack accepts.
-    const bool playable = canPlay() && fromRow == toRow;
-    const bool moved = playable
-        && apply(decideDrag(lastLine(), m_controller.proof()->rules(), fromColumn, toColumn,
-            m_game.currentGame.highestRule()));
-    if (moved) {
-        moveMade();
-    } else {
-        playNoRuleApplied();
-    }
-    return moved;
+    return perform(play::Drag { fromRow, fromColumn, toRow, toColumn });
 }
 
 std::optional<unsigned> Moves::rowToDrag() const
@@ -76,10 +40,10 @@ std::optional<unsigned> Moves::rowToDrag() const
 
 std::optional<std::vector<unsigned>> Moves::areasToTrack(unsigned row, unsigned column) const
 {
-    if (rowToDrag() != row || m_controller.lineCount() > kMostLinesForDrag) {
+    if (rowToDrag() != row || m_controller.lineCount() > play::kMostLinesForDrag) {
         return std::nullopt;
     }
-    return dropTargets(lastLine(), column);
+    return play::targets(position(), column);
 }
 
 unsigned Moves::lengthOfRow(unsigned row) const
@@ -87,87 +51,61 @@ unsigned Moves::lengthOfRow(unsigned row) const
     return static_cast<unsigned>(m_controller.proof()->lines().at(row).theorem().size());
 }
 
-bool Moves::canPlay() const
+play::Position Moves::position() const
 {
-    const unsigned count = m_controller.lineCount();
-    return count > 0 && count < kMostLines;
+    static const std::vector<engine::Theorem> kNoLines;
+    static const engine::Theorem kNoGoal;
+    const auto& proof = m_controller.proof();
+    return { .lines = proof ? proof->lines() : kNoLines,
+        .goal = proof ? proof->goal() : kNoGoal,
+        .open = m_game.currentGame.highestRule(),
+        .lesson = m_controller.tutorial().lesson() };
 }
 
-const engine::Theorem& Moves::lastLine() const
+bool Moves::perform(const play::Gesture& gesture)
 {
-    return m_controller.proof()->lines().back();
-}
-
-bool Moves::checkTheoremLength() const
-{
-    return lastLine().theorem().size() <= kMostChips;
-}
-
-// The last line the board has room for must be the goal.
-bool Moves::checkLastLine() const
-{
-    return m_controller.lineCount() < kMostLines || m_controller.proof()->checkSolved();
-}
-
-bool Moves::apply(const std::optional<MoveDecision>& move)
-{
-    engine::Proof& proof = *m_controller.proof();
-    const std::string lineBefore = lastLine().theorem();
-    if (!move || !proof.applyRule(move->rule, move->match)) {
+    const auto decision = play::decide(position(), gesture);
+    const auto* const action = std::get_if<play::Action>(&decision);
+    if (action == nullptr) {
+        playNoRuleApplied();
         return false;
     }
-    const unsigned newRow = m_controller.lineCount() - 1;
-    const bool fits = move->lengthCheck == LengthCheck::NotNeeded || checkTheoremLength();
-    if (!fits || !checkLastLine()) {
-        proof.removeLine(newRow);
-        return false;
-    }
-    animate(*move, lineBefore, newRow);
-    settleWhenOver(move->animation, newRow);
-    m_game.view.block().increaseDelay(move->delay);
+    make(std::get<play::Move>(*action), gesture);
     return true;
 }
 
-void Moves::animate(const MoveDecision& move, const std::string& lineBefore, unsigned row)
+void Moves::make(const play::Move& move, const play::Gesture& gesture)
 {
-    board::MoveAnimations& animations = m_game.board.animations;
-    switch (move.animation) {
-    case MoveAnimation::AddGreenToEnd:
-        return animations.addGreenToEnd(lineBefore, row);
-    case MoveAnimation::DoubleAllAfterColumn:
-        return animations.doubleAllAfterColumn(lineBefore, row, move.column);
-    case MoveAnimation::ThreeRedsToOneGreen:
-        return animations.threeRedsToOneGreen(lineBefore, row, move.column);
-    case MoveAnimation::TwoGreensDisappear:
-        return animations.twoGreensDisappear(lineBefore, row, move.column);
-    case MoveAnimation::FlipFirstAndThird:
-        return animations.flipFirstAndThird(lineBefore, row, move.column);
-    case MoveAnimation::SplitGreensWithBlue:
-        return animations.splitGreensWithBlue(lineBefore, row, move.column);
-    case MoveAnimation::DropBetweenBlues:
-        return animations.dropBetweenBlues(lineBefore, row, move.column, move.endingColumn);
+    engine::Proof& proof = *m_controller.proof();
+    const std::string lineBefore = proof.lines().back().theorem();
+    auto choreography = board::choreographyOf(move, lineBefore);
+    // Two neighbouring blues have no match of their own: another pair's chips fall. The board shows
+    // the gesture all the same, and ends as the line reads.
+    if (const auto* const drag = std::get_if<play::Drag>(&gesture);
+        drag != nullptr && move.rule == progress::kDropBetweenBlues) {
+        choreography.column = std::min(drag->from, drag->to);
+        choreography.endingColumn = std::max(drag->from, drag->to);
     }
+    proof.applyRule(move.rule, move.match);
+    const unsigned newRow = m_controller.lineCount() - 1;
+    board::perform(m_game.board.animations, choreography, lineBefore, newRow);
+    settleAfter(choreography.ends, newRow);
+    m_game.view.block().increaseDelay(choreography.block);
+    m_game.effects.play("Marble");
+    m_controller.lines().checkProofComplete();
+    m_controller.hints().resetHintMode();
 }
 
-// The choreography shows the gesture, the proof holds what it did; the two differ when a blue was
-// dropped on its neighbour and another pair's chips fell. Whatever was shown, the row ends as the
-// line reads.
-void Moves::settleWhenOver(MoveAnimation animation, unsigned row)
+// Whatever was shown, the row ends as the line reads.
+void Moves::settleAfter(double seconds, unsigned row)
 {
     m_game.runLoop.performAfterDelay(
-        endOf(animation), [this, row, proof = std::weak_ptr(m_controller.proof())] {
+        seconds, [this, row, proof = std::weak_ptr(m_controller.proof())] {
             const auto inPlay = m_controller.proof();
             if (inPlay && inPlay == proof.lock() && row < inPlay->lines().size()) {
                 m_game.board.lines.settleRow(inPlay->lines()[row].theorem(), row);
             }
         });
-}
-
-void Moves::moveMade()
-{
-    m_game.effects.play("Marble");
-    m_controller.lines().checkProofComplete();
-    m_controller.hints().resetHintMode();
 }
 
 void Moves::playNoRuleApplied() const

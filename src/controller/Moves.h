@@ -1,15 +1,15 @@
 #pragma once
 
 #include "controller/GameContext.h"
-#include "controller/MoveDecision.h"
+#include "play/Move.h"
+#include "play/Position.h"
 
 namespace veyrand::controller {
 
 class GameController;
 
-// Turns accepted gestures into moves: decides, applies through the proof, enforces the board's
-// limits, starts the animation and has the proof checked. Every refusal sounds "No" and changes
-// nothing.
+// Makes the moves that gestures come to: asks for the decision, has the proof apply it, starts the
+// animation and has the proof checked. Every refusal that reaches it sounds "No".
 class Moves {
 public:
     explicit Moves(GameController& controller);
@@ -23,15 +23,13 @@ public:
         unsigned row, unsigned column) const;
     [[nodiscard]] unsigned lengthOfRow(unsigned row) const;
 
+    // What the gestures are held against. It refers to the proof in play.
+    [[nodiscard]] play::Position position() const;
+
 private:
-    [[nodiscard]] bool checkTheoremLength() const;
-    [[nodiscard]] bool checkLastLine() const;
-    [[nodiscard]] bool canPlay() const;
-    [[nodiscard]] const engine::Theorem& lastLine() const;
-    bool apply(const std::optional<MoveDecision>& move);
-    void animate(const MoveDecision& move, const std::string& lineBefore, unsigned row);
-    void settleWhenOver(MoveAnimation animation, unsigned row);
-    void moveMade();
+    bool perform(const play::Gesture& gesture);
+    void make(const play::Move& move, const play::Gesture& gesture);
+    void settleAfter(double seconds, unsigned row);
     void playNoRuleApplied() const;
 
     GameController& m_controller;

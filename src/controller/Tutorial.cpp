@@ -1,14 +1,22 @@
 #include "controller/Tutorial.h"
 
 #include "controller/GameController.h"
+#include "play/Decide.h"
 
 namespace veyrand::controller {
 
 namespace {
 
-Gate::Cell cell(unsigned row, unsigned column)
+play::Click clickOf(const Gate::Cell& cell)
 {
-    return { static_cast<int>(row), static_cast<int>(column) };
+    return { static_cast<unsigned>(cell.row), static_cast<unsigned>(cell.column) };
+}
+
+play::Drag dragOf(const Gate::Cells& cells)
+{
+    const auto [fromRow, from] = clickOf(cells.from);
+    const auto [toRow, to] = clickOf(cells.to);
+    return { fromRow, from, toRow, to };
 }
 
 } // namespace
@@ -33,22 +41,29 @@ const Gate* Tutorial::gate() const
     return nullptr;
 }
 
-bool Tutorial::checkTutorialClick(unsigned row, unsigned column)
+std::optional<play::Lesson> Tutorial::lesson() const
 {
     const Gate* const gate = this->gate();
     if (gate == nullptr) {
-        return true;
+        return std::nullopt;
+    }
+    play::Lesson lesson;
+    if (gate->click) {
+        lesson.click = clickOf(*gate->click);
     }
     if (gate->drag) {
-        // A click is no drag, whatever it hits.
-        constexpr Gate::Cell kNowhere { -1, -1 };
-        return checkDrag(*gate, { kNowhere, kNowhere });
+        lesson.drag = dragOf(*gate->drag);
     }
-    if (gate->click != cell(row, column)) {
-        m_controller.pages().show(gate->otherwise);
+    return lesson;
+}
+
+bool Tutorial::checkTutorialClick(unsigned row, unsigned column)
+{
+    const Gate* const gate = this->gate();
+    if (!isAccepted(play::Click { row, column })) {
         return false;
     }
-    if (!gate->then.empty()) {
+    if (gate != nullptr && !gate->then.empty()) {
         m_controller.flow().performWithThisProof(
             gate->after, [this, note = gate->then] { m_controller.pages().show(note); });
     }
@@ -58,17 +73,16 @@ bool Tutorial::checkTutorialClick(unsigned row, unsigned column)
 bool Tutorial::checkTutorialDrag(
     unsigned fromRow, unsigned fromColumn, unsigned toRow, unsigned toColumn)
 {
-    const Gate* const gate = this->gate();
-    return gate == nullptr || !gate->drag
-        || checkDrag(*gate, { cell(fromRow, fromColumn), cell(toRow, toColumn) });
+    return isAccepted(play::Drag { fromRow, fromColumn, toRow, toColumn });
 }
 
-bool Tutorial::checkDrag(const Gate& gate, const Gate::Cells& drag)
+bool Tutorial::isAccepted(const play::Gesture& gesture)
 {
-    if (gate.drag == drag) {
+    const Gate* const gate = this->gate();
+    if (play::accepts(lesson(), gesture)) {
         return true;
     }
-    m_controller.pages().show(gate.otherwise);
+    m_controller.pages().show(gate->otherwise);
     return false;
 }
 

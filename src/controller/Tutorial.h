@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "play/Position.h"
 
 namespace veyrand::controller {
 
@@ -17,6 +18,9 @@ public:
     [[nodiscard]] bool running() const { return m_running; }
     void start() { m_running = true; }
 
+    // What the gate that stands accepts; nothing while every gesture may go on.
+    [[nodiscard]] std::optional<play::Lesson> lesson() const;
+
     // Whether the gesture may go on to the board; if not, a note has been shown. Rows and columns
     // are zero-based.
     [[nodiscard]] bool checkTutorialClick(unsigned row, unsigned column);
@@ -25,7 +29,7 @@ public:
 
 private:
     [[nodiscard]] const Gate* gate() const;
-    [[nodiscard]] bool checkDrag(const Gate& gate, const Gate::Cells& drag);
+    [[nodiscard]] bool isAccepted(const play::Gesture& gesture);
 
     GameController& m_controller;
     GameContext& m_game;

@@ -1,7 +1,7 @@
 #include "catalogue/HintSearch.h"
 
-#include "catalogue/Gestures.h"
 #include "catalogue/HintPlayer.h"
+#include "catalogue/Steps.h"
 #include "engine/HintHelper.h"
 #include "platform/fakes/SeededRandom.h"
 #include "progress/RuleSets.h"
@@ -99,36 +99,6 @@ TEST(HintPlayer, ComesBackFromEveryDetour)
     // Where doubling is all there is, there is no way to stray.
     platform::SeededRandom random(1);
     EXPECT_FALSE(HintPlayer(hints, 1).playWithDetour({ "YG", "YGGGG", 2 }, random).strayed);
-}
-
-TEST(Gestures, ComeWithTheMovesThatAreOpen)
-{
-    const auto made = [](const char* from, const char* to, int highestRule, std::size_t standing) {
-        return gestureFor(packed(from), packed(to), packed("YBBB"), highestRule, standing)
-            .has_value();
-    };
-    EXPECT_TRUE(made("YRG", "GRY", 5, 1));
-    EXPECT_FALSE(made("YRG", "GRY", 4, 1));
-    EXPECT_TRUE(made("YGG", "YGBG", 6, 1));
-    EXPECT_FALSE(made("YGG", "YGBG", 5, 1));
-    EXPECT_TRUE(made("YGG", "Y", 4, 11));
-    EXPECT_FALSE(made("YGG", "Y", 4, 12)); // a drag finds no targets any more
-    EXPECT_FALSE(made("YR", "YRG", 7, 12)); // the last line must be the goal
-    EXPECT_FALSE(made("YR", "YRG", 7, 13));
-    EXPECT_FALSE(made("YR", "YB", 7, 1)); // no move at all
-}
-
-TEST(Gestures, AreClicksAndDragsOnTheRightChips)
-{
-    const auto click = gestureFor(packed("YGGG"), packed("YGGBG"), packed("Y"), 7, 1);
-    ASSERT_TRUE(click);
-    EXPECT_EQ(click->kind, Gesture::Kind::Click);
-    EXPECT_EQ(click->from, 2U);
-    const auto drag = gestureFor(packed("YBRGB"), packed("YBB"), packed("Y"), 7, 1);
-    ASSERT_TRUE(drag);
-    EXPECT_EQ(drag->kind, Gesture::Kind::Drag);
-    EXPECT_EQ(drag->from, 1U);
-    EXPECT_EQ(drag->to, 4U);
 }
 
 } // namespace veyrand::catalogue

@@ -1,7 +1,7 @@
 #include "robot/Robot.h"
 
-#include "controller/MoveDecision.h"
 #include "engine/HintHelper.h"
+#include "play/Decide.h"
 #include "support/BoardRows.h"
 
 #include <gtest/gtest.h>
@@ -76,43 +76,29 @@ void Robot::waitUntilUnblocked()
     }
 }
 
-std::optional<Robot::Gesture> Robot::gestureFor(const engine::Theorem& next) const
+std::optional<play::Gesture> Robot::gestureFor(const engine::Theorem& next) const
 {
     const engine::Proof& proof = *m_game.controller().proof();
-    const engine::Theorem& line = proof.lines().back();
-    const int highestRule = m_game.currentGame().highestRule();
-    for (unsigned column = 0; column < line.theorem().size(); ++column) {
-        const auto click = controller::decideClick(line, proof.rules(), column, highestRule);
-        if (click && makes(next, click->rule, click->match)) {
-            return Gesture { column, std::nullopt };
-        }
-        for (const unsigned target : controller::dropTargets(line, column)) {
-            const auto drag
-                = controller::decideDrag(line, proof.rules(), column, target, highestRule);
-            if (drag && makes(next, drag->rule, drag->match)) {
-                return Gesture { column, target };
-            }
-        }
-    }
-    return std::nullopt;
+    return play::gestureFor({ .lines = proof.lines(),
+                                .goal = proof.goal(),
+                                .open = m_game.currentGame().highestRule() },
+        next.theorem());
 }
 
-bool Robot::makes(const engine::Theorem& next, unsigned rule, unsigned match) const
+void Robot::perform(const play::Gesture& gesture)
 {
-    const engine::Proof& proof = *m_game.controller().proof();
-    engine::Proof trial(proof.lines().back(), proof.goal(), proof.sharedRules());
-    return trial.applyRule(rule, match) && trial.lines().back() == next;
-}
-
-void Robot::perform(const Gesture& gesture)
-{
-    const auto row = static_cast<unsigned>(m_game.controller().proof()->lines().size() - 1);
-    const auto place = [row](unsigned column) {
+    const auto place = [](unsigned row, unsigned column) {
         return platform::Point { .x = board::xPositionForColumn(column),
             .y = board::yPositionForRow(row) };
     };
-    press(place(gesture.from));
-    release(place(gesture.to.value_or(gesture.from)));
+    if (const auto* const drag = std::get_if<play::Drag>(&gesture)) {
+        press(place(drag->fromRow, drag->from));
+        release(place(drag->toRow, drag->to));
+    } else {
+        const auto& click = std::get<play::Click>(gesture);
+        press(place(click.row, click.column));
+        release(place(click.row, click.column));
+    }
 }
 
 void Robot::press(platform::Point place)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/VirtualGame.h"
+#include "play/Gesture.h"
 
 #include <optional>
 
@@ -32,14 +33,8 @@ public:
     [[nodiscard]] unsigned long eventsSent() const { return m_eventsSent; }
 
 private:
-    struct Gesture {
-        unsigned from;
-        std::optional<unsigned> to; // none for a click
-    };
-
-    [[nodiscard]] std::optional<Gesture> gestureFor(const engine::Theorem& next) const;
-    [[nodiscard]] bool makes(const engine::Theorem& next, unsigned rule, unsigned match) const;
-    void perform(const Gesture& gesture);
+    [[nodiscard]] std::optional<play::Gesture> gestureFor(const engine::Theorem& next) const;
+    void perform(const play::Gesture& gesture);
     void press(platform::Point place);
     void release(platform::Point place);
     void checkAtRest();

@@ -1,7 +1,7 @@
 #include "catalogue/HintPlayer.h"
 
 #include "catalogue/Candidates.h"
-#include "catalogue/Gestures.h"
+#include "catalogue/Steps.h"
 #include "platform/Random.h"
 
 namespace veyrand::catalogue {
@@ -45,7 +45,7 @@ bool HintPlayer::followHint(Game& game, engine::PackedLine goal)
         game.lines.pop_back();
         return true;
     }
-    if (!gestureFor(game.lines.back(), *next, goal, m_highestRule, game.lines.size())) {
+    if (!hasGesture(game.lines.back(), *next, goal, m_highestRule, game.lines.size())) {
         if (!game.strayed) {
             return false;
         }
@@ -62,7 +62,7 @@ void HintPlayer::stray(Game& game, engine::PackedLine goal, platform::Random& ra
     shuffle(steps, random);
     for (const Step& step : steps) {
         if (step.line != hinted && step.line != goal
-            && gestureFor(game.lines.back(), step.line, goal, m_highestRule, game.lines.size())) {
+            && hasGesture(game.lines.back(), step.line, goal, m_highestRule, game.lines.size())) {
             game.lines.push_back(step.line);
             game.strayed = true;
             return;

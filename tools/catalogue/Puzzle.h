@@ -1,5 +1,6 @@
 #pragma once
 
+#include "play/Steps.h"
 #include "progress/Place.h"
 
 #include <cstddef>
@@ -23,10 +24,13 @@ struct Puzzle {
 
 using Puzzles = std::vector<Puzzle>;
 
+using play::kAllMoves;
+using play::kMostChips;
+using play::MoveSet;
+using play::only;
 using progress::Place;
 
-// The most chips a line may have on the board, and the most moves a puzzle may ask for.
-inline constexpr unsigned kMostChips = 12;
+// The most moves a puzzle may ask for.
 inline constexpr unsigned kMostMoves = 11;
 
 // "7-3".
@@ -34,16 +38,6 @@ inline constexpr unsigned kMostMoves = 11;
 
 // The place of an entry of the Classic catalogue, from 1: entry 0 has none.
 [[nodiscard]] Place placeOfEntry(std::size_t entry);
-
-// A set of moves: bit n is the move of index n.
-using MoveSet = unsigned;
-
-inline constexpr MoveSet kAllMoves = 0x7F;
-
-[[nodiscard]] inline constexpr MoveSet only(unsigned move)
-{
-    return 1U << move;
-}
 
 // How many moves are open where an entry of a catalogue is played, and which.
 enum class Game { Classic, Endless };

@@ -1,14 +1,13 @@
 #include "Command.h"
 #include "JsonOf.h"
-#include "controller/MoveDecision.h"
-#include "engine/HintHelper.h"
-#include "progress/Place.h"
+#include "play/Decide.h"
+
+#include <algorithm>
 
 namespace veyrand::workshop {
 
 namespace {
 
-using controller::MoveDecision;
 using engine::Theorem;
 
 class Gestures final : public Command {
@@ -32,49 +31,28 @@ public:
     Json run() override
     {
         Json answer = Json::array();
-        const Theorem line(m_line);
-        for (unsigned column = 0; column < m_line.size(); ++column) {
-            add(answer, controller::decideClick(line, *sevenMoves(), column, m_highestRule),
-                { { "click", column } });
-            if (m_lineCount > kMostLinesForDrag) {
-                continue;
-            }
-            for (const unsigned target : controller::dropTargets(line, column)) {
-                add(answer,
-                    controller::decideDrag(line, *sevenMoves(), column, target, m_highestRule),
-                    { { "drag", { column, target } } });
-            }
+        const std::vector<Theorem> lines(std::min(m_lineCount, play::kMostLines), Theorem(m_line));
+        const Theorem goal = m_goal ? Theorem(*m_goal) : Theorem();
+        const play::Position position { .lines = lines, .goal = goal, .open = m_highestRule };
+        for (const play::Gesture& gesture : play::actions(position)) {
+            const auto action = std::get<play::Action>(play::decide(position, gesture));
+            const auto move = std::get<play::Move>(action);
+            Json entry = describe(gesture);
+            entry["rule"] = move.rule;
+            entry["line"] = play::lineAfter(lines.back(), move)->theorem();
+            answer.push_back(std::move(entry));
         }
         return answer;
     }
 
 private:
-    // Drop targets are offered while at most this many lines stand.
-    static constexpr unsigned kMostLinesForDrag = 11;
-
-    void add(Json& answer, const std::optional<MoveDecision>& move, Json gesture) const
+    [[nodiscard]] static Json describe(const play::Gesture& gesture)
     {
-        const Theorem line(m_line);
-        if (!move || line.numberOfMatchesWithRule(sevenMoves()->at(move->rule)) <= move->match) {
-            return;
+        if (const auto* const click = std::get_if<play::Click>(&gesture)) {
+            return { { "click", click->column } };
         }
-        const std::string result
-            = line.applyRule(sevenMoves()->at(move->rule), move->match)->theorem();
-        const bool tooLong = move->lengthCheck == controller::LengthCheck::Needed
-            && result.size() > engine::kSolutionLimits.theoremLength;
-        if (tooLong || !hasRoomFor(result)) {
-            return;
-        }
-        gesture["rule"] = move->rule;
-        gesture["line"] = result;
-        answer.push_back(std::move(gesture));
-    }
-
-    // The last line the board has room for must be the goal.
-    [[nodiscard]] bool hasRoomFor(const std::string& result) const
-    {
-        return m_lineCount + 1 < engine::kMostLines
-            || (m_lineCount + 1 == engine::kMostLines && result == m_goal);
+        const auto& drag = std::get<play::Drag>(gesture);
+        return { { "drag", { drag.from, drag.to } } };
     }
 
     std::string m_line;

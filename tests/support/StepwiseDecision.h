@@ -1,12 +1,45 @@
-#include "controller/MoveDecision.h"
+#pragma once
+
+#include "engine/Rule.h"
+#include "engine/Theorem.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-namespace veyrand::controller {
+// The rules of the board as the game applied them before a decision was one step: what a gesture
+// selects, then whether the move is there, then whether its line may stand. Slower and plainer, to
+// hold the game's own decisions against.
+namespace veyrand::test::stepwise {
 
-namespace {
+// Which choreography shows a move.
+enum class MoveAnimation {
+    AddGreenToEnd,
+    DoubleAllAfterColumn,
+    ThreeRedsToOneGreen,
+    TwoGreensDisappear,
+    FlipFirstAndThird,
+    SplitGreensWithBlue,
+    DropBetweenBlues,
+};
+
+// Whether the new line's length must be tested: a drag never lengthens a line, so only clicks are.
+enum class LengthCheck { Needed, NotNeeded };
+
+// A gesture turned into one move: rule and match say what it does (and can be written down and
+// replayed), the rest how it is shown.
+struct MoveDecision {
+    unsigned rule; // index into the seven moves
+    unsigned match; // index among the rule's matches on the line
+    MoveAnimation animation;
+    unsigned column; // where the animation starts
+    unsigned endingColumn; // of a pair of blues; otherwise 0
+    double delay; // seconds by which input is blocked for longer than for any gesture
+    LengthCheck lengthCheck;
+    friend bool operator==(const MoveDecision&, const MoveDecision&) = default;
+};
 
 enum RuleIndex : unsigned {
     GreenAfterRed,
@@ -21,13 +54,14 @@ enum RuleIndex : unsigned {
 constexpr double kUsualDelay = 0.75;
 constexpr double kMergeDelay = 1.5;
 
-bool holdsAt(std::string_view line, std::size_t column, std::string_view chips)
+inline bool holdsAt(std::string_view line, std::size_t column, std::string_view chips)
 {
     return column <= line.size() && line.substr(column, chips.size()) == chips;
 }
 
 // The last match that starts at the column; the first match of all when none does.
-unsigned matchAtColumn(const engine::Theorem& line, const engine::Rule& rule, unsigned column)
+inline unsigned matchAtColumn(
+    const engine::Theorem& line, const engine::Rule& rule, unsigned column)
 {
     const auto matches = line.matchesWithRule(rule).value_or(std::vector<engine::Range> {});
     unsigned chosen = 0;
@@ -40,7 +74,7 @@ unsigned matchAtColumn(const engine::Theorem& line, const engine::Rule& rule, un
 }
 
 // A move at a column, shown from that column.
-MoveDecision moveAt(const engine::Theorem& line, const engine::Rules& rules, unsigned rule,
+inline MoveDecision moveAt(const engine::Theorem& line, const engine::Rules& rules, unsigned rule,
     unsigned column, MoveAnimation animation)
 {
     return { .rule = rule,
@@ -52,14 +86,14 @@ MoveDecision moveAt(const engine::Theorem& line, const engine::Rules& rules, uns
         .lengthCheck = LengthCheck::NotNeeded };
 }
 
-MoveDecision clickMove(MoveDecision move)
+inline MoveDecision clickMove(MoveDecision move)
 {
     move.lengthCheck = LengthCheck::Needed;
     return move;
 }
 
 // The start of a run of equal chips that reaches from one column to the other, dragged either way.
-std::optional<unsigned> runBetween(
+inline std::optional<unsigned> runBetween(
     std::string_view line, unsigned from, unsigned to, std::string_view run)
 {
     const unsigned start = std::min(from, to);
@@ -67,7 +101,7 @@ std::optional<unsigned> runBetween(
     return spansRun && holdsAt(line, start, run) ? std::optional(start) : std::nullopt;
 }
 
-std::optional<MoveDecision> decideBlueDrag(
+inline std::optional<MoveDecision> decideBlueDrag(
     const engine::Theorem& line, const engine::Rules& rules, unsigned from, unsigned to)
 {
     const std::string& chips = line.theorem();
@@ -84,9 +118,7 @@ std::optional<MoveDecision> decideBlueDrag(
     return move;
 }
 
-} // namespace
-
-std::optional<MoveDecision> decideClick(
+inline std::optional<MoveDecision> decideClick(
     const engine::Theorem& line, const engine::Rules& rules, unsigned column, int highestRule)
 {
     const std::string& chips = line.theorem();
@@ -115,8 +147,8 @@ std::optional<MoveDecision> decideClick(
         moveAt(line, rules, BlueBetweenGreens, column, MoveAnimation::SplitGreensWithBlue));
 }
 
-std::optional<MoveDecision> decideDrag(const engine::Theorem& line, const engine::Rules& rules,
-    unsigned from, unsigned to, int highestRule)
+inline std::optional<MoveDecision> decideDrag(const engine::Theorem& line,
+    const engine::Rules& rules, unsigned from, unsigned to, int highestRule)
 {
     const std::string& chips = line.theorem();
     if (highestRule >= 3) {
@@ -142,7 +174,7 @@ std::optional<MoveDecision> decideDrag(const engine::Theorem& line, const engine
     return std::nullopt;
 }
 
-std::vector<unsigned> dropTargets(const engine::Theorem& line, unsigned column)
+inline std::vector<unsigned> dropTargets(const engine::Theorem& line, unsigned column)
 {
     const std::string& chips = line.theorem();
     std::vector<unsigned> targets;
@@ -175,4 +207,4 @@ std::vector<unsigned> dropTargets(const engine::Theorem& line, unsigned column)
     return targets;
 }
 
-} // namespace veyrand::controller
+} // namespace veyrand::test::stepwise
