@@ -2,6 +2,7 @@
 
 #include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 #include <QDir>
 #include <QTextStream>
@@ -127,11 +128,11 @@ private:
     void save(const SavedGames& games)
     {
         m_game.preferences().setRecord(progress::playerRecordKey(progress::kDefaultPlayerName),
-            { { std::string(progress::kLevelKey), std::int64_t { games.level } },
-                { std::string(progress::kStageKey), std::int64_t { games.stage } },
-                { std::string(progress::kScoreKey), std::int64_t { 850 } },
-                { std::string(progress::kEndlessScoreKey), std::int64_t { games.endlessScore } } });
-        m_game.preferences().setValue(progress::kEndlessGameUnlockedKey, games.unlocked);
+            progress::storedRecord({ .level = games.level,
+                .stage = games.stage,
+                .score = 850,
+                .endlessScore = games.endlessScore }));
+        progress::setEndlessGameUnlocked(m_game.preferences(), games.unlocked);
     }
 
     void paintTitlePage(const SavedGames& games)
@@ -222,7 +223,7 @@ private:
             m_game.wait(kNextPuzzleHasCome);
             m_game.controller().messages().dismiss(); // what the click may have brought
         }
-        m_game.preferences().setValue(progress::kEndlessGameUnlockedKey, false);
+        progress::setEndlessGameUnlocked(m_game.preferences(), false);
         m_game.controller().pages().show(name);
         m_game.wait(kEverythingHasFadedIn);
         take(name);

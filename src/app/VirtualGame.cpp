@@ -2,6 +2,7 @@
 
 #include "app/MenuActions.h"
 #include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 #include <QAction>
 #include <QApplication>
@@ -87,7 +88,7 @@ void VirtualGame::launch()
 
 void VirtualGame::play(const progress::CurrentGame::Puzzle& puzzle)
 {
-    m_currentGame.loadPlayer(m_preferences.stringForKey(progress::kPlayerNameKey), puzzle.mode);
+    m_currentGame.loadPlayer(progress::currentPlayer(m_preferences), puzzle.mode);
     m_currentGame.placePuzzle(puzzle);
     controller().flow().layOutPuzzle();
 }

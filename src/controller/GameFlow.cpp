@@ -1,15 +1,12 @@
 #include "controller/GameFlow.h"
 
 #include "controller/GameController.h"
-#include "controller/PlayerRecord.h"
-#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 #include <algorithm>
 
 namespace veyrand::controller {
 
-using platform::PreferenceRecord;
-using platform::PreferenceValue;
 using progress::CurrentGame;
 
 namespace {
@@ -36,7 +33,7 @@ GameFlow::GameFlow(GameController& controller)
 
 std::string GameFlow::playerName() const
 {
-    return m_game.preferences.stringForKey(progress::kPlayerNameKey);
+    return progress::currentPlayer(m_game.preferences);
 }
 
 void GameFlow::newClassicGame()
@@ -58,7 +55,7 @@ void GameFlow::newEndlessGame()
 {
     m_controller.messages().dismiss();
     m_controller.dialogues().dismiss();
-    if (!m_game.preferences.boolForKey(progress::kEndlessGameUnlockedKey)) {
+    if (!progress::isEndlessGameUnlocked(m_game.preferences)) {
         m_game.view.hover().turnOffTitlePageButtons();
         m_controller.pages().show("endlessGameLockedMessage");
         return;
@@ -208,7 +205,7 @@ void GameFlow::cleanUpProofForPar(int par)
     performWithThisProof(kBoardEmpties, [this] { m_controller.lines().clearProof(); });
     performWithThisProof(kBoardEmpties,
         [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
-    setInRecord(progress::kEndlessParKey, newPar);
+    updateRecord({ .endlessPar = newPar });
     m_game.currentGame.setEndlessPar(newPar);
     performWithThisProof(kNextPuzzle, [this] { nextLevel(); });
 }
@@ -236,14 +233,11 @@ void GameFlow::performWithThisProof(double delay, std::function<void()> call)
 
 void GameFlow::setStageAndLevelAndScore(int stage, int level, std::int64_t score, HintStatus hints)
 {
-    updatePlayerRecord(m_game.preferences, playerName(), [&](PreferenceRecord& record) {
-        record[std::string(progress::kStageKey)] = PreferenceValue(std::int64_t { stage });
-        record[std::string(progress::kLevelKey)] = PreferenceValue(std::int64_t { level });
-        record[std::string(progress::kScoreKey)] = PreferenceValue(score);
-        if (hints == HintStatus::Reset) {
-            record[std::string(progress::kFirstHintClickKey)] = PreferenceValue(false);
-        }
-    });
+    progress::PlayerRecordChange change { .level = level, .stage = stage, .score = score };
+    if (hints == HintStatus::Reset) {
+        change.firstHintClick = false;
+    }
+    updateRecord(change);
 }
 
 void GameFlow::resetEndlessScore()
@@ -254,13 +248,12 @@ void GameFlow::resetEndlessScore()
 
 void GameFlow::saveEndlessScore()
 {
-    setInRecord(progress::kEndlessScoreKey, m_game.currentGame.endlessScore());
+    updateRecord({ .endlessScore = m_game.currentGame.endlessScore() });
 }
 
-void GameFlow::setInRecord(std::string_view key, std::int64_t value)
+void GameFlow::updateRecord(const progress::PlayerRecordChange& change)
 {
-    updatePlayerRecord(m_game.preferences, playerName(),
-        [&](PreferenceRecord& record) { record[std::string(key)] = PreferenceValue(value); });
+    progress::updatePlayerRecord(m_game.preferences, playerName(), change);
 }
 
 } // namespace veyrand::controller

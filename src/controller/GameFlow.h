@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "progress/PlayerRecord.h"
 
 #include <functional>
 
@@ -56,7 +57,7 @@ private:
     void cleanUpProofForPar(int par);
     void startMusic();
     void saveEndlessScore();
-    void setInRecord(std::string_view key, std::int64_t value);
+    void updateRecord(const progress::PlayerRecordChange& change);
 
     GameController& m_controller;
     GameContext& m_game;

@@ -1,8 +1,7 @@
 #include "controller/Hints.h"
 
 #include "controller/GameController.h"
-#include "controller/PlayerRecord.h"
-#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 namespace veyrand::controller {
 
@@ -69,14 +68,10 @@ void Hints::hintClick()
 bool Hints::isFirstHintOfPlayer()
 {
     const std::string player = m_controller.flow().playerName();
-    const auto record = m_game.preferences.record(progress::playerRecordKey(player))
-                            .value_or(platform::PreferenceRecord {});
-    if (platform::boolForKey(record, progress::kFirstHintClickKey)) {
+    if (progress::readPlayerRecord(m_game.preferences, player).firstHintClick) {
         return false;
     }
-    updatePlayerRecord(m_game.preferences, player, [](platform::PreferenceRecord& changed) {
-        changed[std::string(progress::kFirstHintClickKey)] = true;
-    });
+    progress::updatePlayerRecord(m_game.preferences, player, { .firstHintClick = true });
     return true;
 }
 

@@ -1,6 +1,6 @@
 #include "controller/TitlePage.h"
 
-#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 #include <array>
 
@@ -35,7 +35,7 @@ void TitlePage::createTitleAndStartButtons()
     // The codes are tested as they stand, though 5 says "Classic only" and 2 "both": saved games
     // and their badges have been counted this way from the start.
     const int ongoing = flagOngoingGames();
-    if (!m_game.preferences.boolForKey(progress::kEndlessGameUnlockedKey)) {
+    if (!progress::isEndlessGameUnlocked(m_game.preferences)) {
         data.fadeInImage(
             "Lock", kBadgeX, 0.5, kLockSize, kLockSize, 1.0, "label-endlessgamelocked");
     } else if (ongoing == 3 || ongoing == 5) {
@@ -60,14 +60,11 @@ void TitlePage::createTitleAndStartButtons()
 
 int TitlePage::flagOngoingGames() const
 {
-    const auto record = m_game.preferences
-                            .record(progress::playerRecordKey(
-                                m_game.preferences.stringForKey(progress::kPlayerNameKey)))
-                            .value_or(platform::PreferenceRecord {});
-    const auto stage = platform::integerForKey(record, progress::kStageKey);
-    const auto level = platform::integerForKey(record, progress::kLevelKey);
-    const bool nothingSaved = stage == level && (stage == 0 || stage == 1);
-    const bool endless = platform::integerForKey(record, progress::kEndlessScoreKey) != 0;
+    const progress::PlayerRecord record = progress::readPlayerRecord(
+        m_game.preferences, progress::currentPlayer(m_game.preferences));
+    const bool nothingSaved
+        = record.stage == record.level && (record.stage == 0 || record.stage == 1);
+    const bool endless = record.endlessScore != 0;
     if (nothingSaved) {
         return endless ? 0 : 3;
     }

@@ -1,8 +1,24 @@
 #include "platform/Preferences.h"
 
+#include <cmath>
+#include <limits>
+
 namespace veyrand::platform {
 
 namespace {
+
+std::int64_t nearest(double number)
+{
+    // The first number above those of 64 bits; its negative is the smallest of them.
+    constexpr double kTooLarge = 9'223'372'036'854'775'808.0;
+    if (std::isnan(number)) {
+        return 0;
+    }
+    if (number >= kTooLarge) {
+        return std::numeric_limits<std::int64_t>::max();
+    }
+    return number < -kTooLarge ? std::numeric_limits<std::int64_t>::min() : std::llround(number);
+}
 
 PreferenceRecord single(const Preferences& preferences, std::string_view key)
 {
@@ -23,6 +39,9 @@ std::int64_t integerForKey(const PreferenceRecord& record, std::string_view key)
     }
     if (const auto* flag = std::get_if<bool>(&found->second)) {
         return *flag ? 1 : 0;
+    }
+    if (const auto* fraction = std::get_if<double>(&found->second)) {
+        return nearest(*fraction);
     }
     const auto* number = std::get_if<std::int64_t>(&found->second);
     return number != nullptr ? *number : 0;

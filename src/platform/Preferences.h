@@ -10,14 +10,15 @@
 
 namespace veyrand::platform {
 
-using PreferenceValue = std::variant<bool, std::int64_t, std::string>;
+// A whole number is never kept as a fraction: 2.0 comes back from a store as 2.
+using PreferenceValue = std::variant<bool, std::int64_t, double, std::string>;
 
 // A group of plain values, such as a player's record.
 using PreferenceRecord = std::map<std::string, PreferenceValue, std::less<>>;
 
 // Reading never fails: a missing value, or one of another kind, reads as NO, 0 or "". A number
-// reads as a flag (0 is NO) and a flag as a number, as in every preferences store that people edit
-// by hand.
+// reads as a flag (0 is NO), a flag as a number and a fraction as the nearest whole number, as in
+// every preferences store that people edit by hand.
 [[nodiscard]] bool boolForKey(const PreferenceRecord& record, std::string_view key);
 [[nodiscard]] std::int64_t integerForKey(const PreferenceRecord& record, std::string_view key);
 [[nodiscard]] std::string stringForKey(const PreferenceRecord& record, std::string_view key);

@@ -3,7 +3,7 @@
 #include "platform/Preferences.h"
 #include "platform/Random.h"
 #include "platform/Resources.h"
-#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>
@@ -69,13 +69,12 @@ void CurrentGame::loadPlayer(const std::string& name, Mode mode)
 {
     m_mode = mode;
     m_playerName = name;
-    const platform::PreferenceRecord record
-        = m_preferences.record(playerRecordKey(name)).value_or(platform::PreferenceRecord());
-    m_score = platform::integerForKey(record, kScoreKey);
-    m_stage = static_cast<int>(platform::integerForKey(record, kStageKey));
-    m_level = static_cast<int>(platform::integerForKey(record, kLevelKey));
-    m_endlessScore = platform::integerForKey(record, kEndlessScoreKey);
-    m_endlessPar = static_cast<int>(platform::integerForKey(record, kEndlessParKey));
+    const PlayerRecord record = readPlayerRecord(m_preferences, name);
+    m_score = record.score;
+    m_stage = record.stage;
+    m_level = record.level;
+    m_endlessScore = record.endlessScore;
+    m_endlessPar = record.endlessPar;
 }
 
 void CurrentGame::generateProof()

@@ -1,6 +1,7 @@
 #include "progress/PlayerKeys.h"
 
-#include <cstdint>
+#include "progress/PlayerRecord.h"
+#include "progress/Settings.h"
 
 namespace veyrand::progress {
 
@@ -11,22 +12,16 @@ std::string playerRecordKey(std::string_view name)
 
 platform::Preferences::Contents registeredDefaults()
 {
-    const platform::PreferenceRecord newPlayer {
-        { std::string(kLevelKey), std::int64_t { 1 } },
-        { std::string(kStageKey), std::int64_t { 1 } },
-        { std::string(kScoreKey), std::int64_t { 0 } },
-        { std::string(kFirstHintClickKey), false },
-        { std::string(kEndlessScoreKey), std::int64_t { 0 } },
-        { std::string(kEndlessParKey), std::int64_t { 0 } },
-    };
+    const Settings usual;
     return {
         .values = {
             { std::string(kPlayerNameKey), std::string(kDefaultPlayerName) },
-            { std::string(kPlayMusicKey), true },
-            { std::string(kPlayEffectsKey), true },
+            { std::string(kPlayMusicKey), usual.music },
+            { std::string(kPlayEffectsKey), usual.effects },
             { std::string(kEndlessGameUnlockedKey), false },
         },
-        .records = { { playerRecordKey(kDefaultPlayerName), newPlayer } },
+        .records
+        = { { playerRecordKey(kDefaultPlayerName), storedRecord({ .level = 1, .stage = 1 }) } },
     };
 }
 

@@ -7,6 +7,8 @@
 
 namespace veyrand::progress {
 
+// The names on the disk. PlayerRecord and Settings are how the game reads and writes them.
+
 // Where the preferences keep what concerns the whole game ...
 inline constexpr std::string_view kPlayerNameKey = "TRNPlayerNameKey";
 inline constexpr std::string_view kPlayMusicKey = "TRNPlayMusicKey";

@@ -103,6 +103,7 @@ TYPED_TEST_P(PreferencesContract, ValuesOfEveryKindSurviveARestart)
     this->preferences().setValue("Off", false);
     this->preferences().setValue("Largest", kLargest);
     this->preferences().setValue("Smallest", kSmallest);
+    this->preferences().setValue("Fraction", 1.5);
     this->preferences().setValue("Empty", std::string());
     this->preferences().setValue("Text", std::string("Zoë, \"Lines\" & 100% = \\n;"));
     this->reopen();
@@ -113,8 +114,23 @@ TYPED_TEST_P(PreferencesContract, ValuesOfEveryKindSurviveARestart)
     EXPECT_TRUE(preferences.value("Off").has_value()); // off is not missing
     EXPECT_EQ(preferences.integerForKey("Largest"), kLargest);
     EXPECT_EQ(preferences.integerForKey("Smallest"), kSmallest);
+    EXPECT_EQ(preferences.value("Fraction"), PreferenceValue(1.5));
+    EXPECT_EQ(preferences.value("Largest"), PreferenceValue(kLargest)); // to the last digit
     EXPECT_EQ(preferences.stringForKey("Empty"), "");
     EXPECT_EQ(preferences.stringForKey("Text"), "Zoë, \"Lines\" & 100% = \\n;");
+}
+
+TYPED_TEST_P(PreferencesContract, AFractionReadsAsTheNearestWholeNumber)
+{
+    PreferenceRecord record { { "Half", 2.5 }, { "Debt", -0.4 }, { "Much", 1e30 },
+        { "Little", -1e30 } };
+    this->preferences().setRecord("Numbers", record);
+    this->reopen();
+    record = this->preferences().record("Numbers").value();
+    EXPECT_EQ(integerForKey(record, "Half"), 3);
+    EXPECT_EQ(integerForKey(record, "Debt"), 0);
+    EXPECT_EQ(integerForKey(record, "Much"), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(integerForKey(record, "Little"), std::numeric_limits<std::int64_t>::min());
 }
 
 TYPED_TEST_P(PreferencesContract, RecordsSurviveARestart)
@@ -158,6 +174,7 @@ TYPED_TEST_P(PreferencesContract, AKeyMayHoldAnyCharacter)
 REGISTER_TYPED_TEST_SUITE_P(PreferencesContract, WhatIsMissingReadsAsNothing,
     ADefaultIsReadUntilTheUserStoresAValue, AStoredValueStandsWhenDefaultsComeLater,
     DefaultsAreNeverStored, ARecordIsReplacedAsAWhole, ValuesOfEveryKindSurviveARestart,
-    RecordsSurviveARestart, AReplacedRecordStaysReplacedAfterARestart, AKeyMayHoldAnyCharacter);
+    AFractionReadsAsTheNearestWholeNumber, RecordsSurviveARestart,
+    AReplacedRecordStaysReplacedAfterARestart, AKeyMayHoldAnyCharacter);
 
 } // namespace veyrand::platform

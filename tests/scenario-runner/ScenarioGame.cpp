@@ -32,13 +32,13 @@ void ScenarioGame::start(const QJSValue& options)
         .seed = field(options, "seed", 1).toUInt(),
         .preferences = {},
         .dataFolder = m_settings.dataFolder };
-    made.preferences.values = toRecord(field(options, "preferences", m_engine.newObject()));
+    made.preferences = toContents(field(options, "preferences", m_engine.newObject()));
     const QJSValue record = field(options, "record", QJSValue());
     if (record.isObject()) {
         const auto& values = made.preferences.values;
         const auto defaults = progress::registeredDefaults().values;
         const auto& named = values.contains(progress::kPlayerNameKey) ? values : defaults;
-        made.preferences.records.emplace(
+        made.preferences.records.insert_or_assign(
             progress::playerRecordKey(platform::stringForKey(named, progress::kPlayerNameKey)),
             toRecord(record));
     }
@@ -291,7 +291,11 @@ QJSValue ScenarioGame::music()
 QJSValue ScenarioGame::preference(const QString& key)
 {
     const auto value = game().preferences().value(key.toStdString());
-    return value ? toScript(*value) : QJSValue(QJSValue::NullValue);
+    if (value) {
+        return toScript(*value);
+    }
+    const auto record = game().preferences().record(key.toStdString());
+    return record ? toScript(m_engine, *record) : QJSValue(QJSValue::NullValue);
 }
 
 std::string ScenarioGame::recordKey()

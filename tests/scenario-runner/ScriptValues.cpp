@@ -3,6 +3,8 @@
 #include <QJSValueIterator>
 #include <QStringList>
 
+#include <cmath>
+
 namespace veyrand::scenario {
 
 platform::PreferenceValue toPreference(const QJSValue& value)
@@ -11,7 +13,13 @@ platform::PreferenceValue toPreference(const QJSValue& value)
         return value.toBool();
     }
     if (value.isNumber()) {
-        return static_cast<std::int64_t>(value.toNumber());
+        const double number = value.toNumber();
+        // Every whole number that a script can count to; what is larger has no digits to lose.
+        constexpr double kWhole = 9'007'199'254'740'992;
+        if (std::abs(number) <= kWhole && number == std::trunc(number)) {
+            return static_cast<std::int64_t>(number);
+        }
+        return number;
     }
     return text(value);
 }
@@ -26,6 +34,22 @@ platform::PreferenceRecord toRecord(const QJSValue& object)
     return record;
 }
 
+platform::Preferences::Contents toContents(const QJSValue& object)
+{
+    platform::Preferences::Contents contents;
+    QJSValueIterator fields(object);
+    while (fields.next()) {
+        if (fields.value().isObject()) {
+            contents.records.insert_or_assign(
+                fields.name().toStdString(), toRecord(fields.value()));
+        } else {
+            contents.values.insert_or_assign(
+                fields.name().toStdString(), toPreference(fields.value()));
+        }
+    }
+    return contents;
+}
+
 QJSValue toScript(const platform::PreferenceValue& value)
 {
     if (const auto* flag = std::get_if<bool>(&value)) {
@@ -33,6 +57,9 @@ QJSValue toScript(const platform::PreferenceValue& value)
     }
     if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return { static_cast<double>(*number) };
+    }
+    if (const auto* fraction = std::get_if<double>(&value)) {
+        return { *fraction };
     }
     return { QString::fromStdString(std::get<std::string>(value)) };
 }

@@ -14,6 +14,8 @@ namespace veyrand::scenario {
 
 platform::PreferenceValue toPreference(const QJSValue& value);
 platform::PreferenceRecord toRecord(const QJSValue& object);
+// What is an object in the script is a record in the preferences.
+platform::Preferences::Contents toContents(const QJSValue& object);
 QJSValue toScript(const platform::PreferenceValue& value);
 QJSValue toScript(QJSEngine& engine, const platform::PreferenceRecord& record);
 QJSValue toScript(QJSEngine& engine, const std::vector<std::string>& texts);

@@ -10,6 +10,7 @@
 #include "progress/CurrentGame.h"
 #include "progress/Place.h"
 #include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 namespace veyrand::workshop {
 
@@ -30,8 +31,7 @@ public:
     {
         platform::MemoryPreferences preferences;
         preferences.setRecord(progress::playerRecordKey("Analysis"),
-            { { std::string(progress::kLevelKey), std::int64_t { 1 } },
-                { std::string(progress::kStageKey), std::int64_t { 1 } } });
+            progress::storedRecord({ .level = 1, .stage = 1 }));
         platform::SeededRandom random(0);
         const FileResources resources(m_folder);
         progress::CurrentGame game(preferences, random, resources);

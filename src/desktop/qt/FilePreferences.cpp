@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 #include <QStandardPaths>
 
-#include <cmath>
 #include <utility>
 
 namespace veyrand::desktop::qt {
@@ -23,6 +22,9 @@ QJsonValue toJson(const platform::PreferenceValue& value)
     if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return static_cast<qint64>(*number);
     }
+    if (const auto* fraction = std::get_if<double>(&value)) {
+        return *fraction;
+    }
     return QString::fromStdString(std::get<std::string>(value));
 }
 
@@ -32,7 +34,11 @@ std::optional<platform::PreferenceValue> toValue(const QJsonValue& json)
         return json.toBool();
     }
     if (json.isDouble()) {
-        return std::int64_t { json.toInteger(std::llround(json.toDouble())) };
+        const qint64 number = json.toInteger();
+        if (number != 0 || json.toDouble() == 0) { // a fraction's integer is 0
+            return std::int64_t { number };
+        }
+        return json.toDouble();
     }
     if (json.isString()) {
         return json.toString().toStdString();
@@ -89,9 +95,7 @@ QJsonObject replaced(const QJsonObject& old, const platform::PreferenceRecord& r
     }
     for (const auto& [key, value] : record) {
         const QString name = QString::fromStdString(key);
-        const QJsonValue before = old.value(name);
-        // A fraction, say, is read as a whole number, and must not become one by being read.
-        group.insert(name, toValue(before) == value ? before : toJson(value));
+        group.insert(name, toJson(value));
     }
     return group;
 }

@@ -1,11 +1,11 @@
 #include "desktop/qt/GameMenu.h"
 
-#include "progress/PlayerKeys.h"
-
 #include <QAction>
 #include <QCoreApplication>
 
 namespace veyrand::desktop::qt {
+
+using progress::Settings;
 
 namespace {
 
@@ -50,10 +50,9 @@ void GameMenu::buildGameMenu()
 void GameMenu::buildOptionsMenu()
 {
     QMenu& menu = *addMenu(tr("&Options"));
-    m_music = addSwitch(menu, tr("&Music"), shortcut("Ctrl+M"), progress::kPlayMusicKey);
+    m_music = addSwitch(menu, tr("&Music"), shortcut("Ctrl+M"), &Settings::music);
     QObject::connect(m_music, &QAction::toggled, &m_bar, [this] { call(m_actions.musicChanged); });
-    m_effects = addSwitch(
-        menu, tr("&Sound Effects"), shortcut("Ctrl+Shift+M"), progress::kPlayEffectsKey);
+    m_effects = addSwitch(menu, tr("&Sound Effects"), shortcut("Ctrl+Shift+M"), &Settings::effects);
     menu.addSeparator();
     m_fullScreen = addItem(menu, tr("&Full Screen"), shortcut("F11"), &Actions::toggleFullScreen);
     m_fullScreen->setCheckable(true);
@@ -105,15 +104,17 @@ QAction* GameMenu::addItem(
     return action;
 }
 
-QAction* GameMenu::addSwitch(
-    QMenu& menu, const QString& text, const QString& keys, std::string_view key)
+QAction* GameMenu::addSwitch(QMenu& menu, const QString& text, const QString& keys, Switch setting)
 {
     QAction* const action = menu.addAction(text);
     addShortcut(*action, keys);
     action->setCheckable(true);
-    action->setChecked(m_preferences.boolForKey(key));
-    QObject::connect(action, &QAction::toggled, &m_bar,
-        [this, key](bool on) { m_preferences.setValue(key, on); });
+    action->setChecked(progress::readSettings(m_preferences).*setting);
+    QObject::connect(action, &QAction::toggled, &m_bar, [this, setting](bool on) {
+        Settings settings = progress::readSettings(m_preferences);
+        settings.*setting = on;
+        progress::writeSettings(m_preferences, settings);
+    });
     return action;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Menu.h"
 #include "platform/Preferences.h"
+#include "progress/Settings.h"
 
 #include <QMenuBar>
 
@@ -49,6 +50,7 @@ public:
 private:
     using Action = std::function<void()> Actions::*;
     using Test = std::function<bool()> Actions::*;
+    using Switch = bool progress::Settings::*;
     struct Item {
         QAction* action;
         Test isEnabled; // null: always
@@ -60,7 +62,7 @@ private:
     QMenu* addMenu(const QString& title);
     QAction* addItem(QMenu& menu, const QString& text, const QString& keys, Action chosen,
         Test isEnabled = nullptr);
-    QAction* addSwitch(QMenu& menu, const QString& text, const QString& keys, std::string_view key);
+    QAction* addSwitch(QMenu& menu, const QString& text, const QString& keys, Switch setting);
     void addShortcut(QAction& action, const QString& keys);
     [[nodiscard]] bool passes(Test test) const;
 
