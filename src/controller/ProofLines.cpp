@@ -1,7 +1,7 @@
 #include "controller/ProofLines.h"
 
 #include "controller/GameController.h"
-#include "controller/Scoring.h"
+#include "play/Scoring.h"
 
 namespace veyrand::controller {
 
@@ -44,7 +44,7 @@ void ProofLines::calculateScore()
 {
     const progress::CurrentGame& game = m_game.currentGame;
     m_game.currentGame.addToScore(
-        pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount()));
+        play::pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount()));
 }
 
 void ProofLines::clearProof(unsigned firstRow, unsigned count, DeleteButtons buttons)

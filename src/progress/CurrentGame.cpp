@@ -15,12 +15,12 @@ namespace {
 
 constexpr int kDefaultEndlessPar = 5;
 
-int targetPar(int wantedPar)
+} // namespace
+
+int endlessParFor(int wantedPar)
 {
     return wantedPar == 0 ? kDefaultEndlessPar : std::clamp(wantedPar, kSmallestPar, kGreatestPar);
 }
-
-} // namespace
 
 CurrentGame::CurrentGame(const platform::Preferences& preferences, platform::Random& random,
     const platform::Resources& resources)
@@ -87,7 +87,7 @@ void CurrentGame::generateProof()
 
 void CurrentGame::generateEndlessProofForPar(int wantedPar)
 {
-    const int target = targetPar(wantedPar);
+    const int target = endlessParFor(wantedPar);
     m_proof = nullptr;
     while (m_proof == nullptr) {
         const CatalogueEntry& puzzle = m_endlessProofs.at(m_random.next() % kEndlessEntries);

@@ -16,6 +16,10 @@ class Resources;
 
 namespace veyrand::progress {
 
+// The par in lines of the Endless puzzles that are drawn for a wanted one: it is brought into 2 to
+// 12, and 0 asks for 5.
+[[nodiscard]] int endlessParFor(int wantedPar);
+
 // Where the player stands: name, Classic position, both scores, Endless par, and the puzzle in play
 // with its par. It makes the puzzles from the two catalogues and reads the player's record; writing
 // the record back is the controller's work. The application owns one; it outlives everything that
@@ -56,9 +60,8 @@ public:
     // std::out_of_range.
     void generateProof();
 
-    // Puts a random Endless puzzle in play. The wanted par (in lines) is brought into 2 to 12; 0
-    // asks for 5. Draws until one fits, so the catalogue must hold every par; from a catalogue too
-    // short it throws std::out_of_range.
+    // Puts a random Endless puzzle in play, of endlessParFor the wanted par. Draws until one fits,
+    // so the catalogue must hold every par; from a catalogue too short it throws std::out_of_range.
     void generateEndlessProofForPar(int wantedPar);
 
     // Puts a puzzle in play as if its place in the catalogue had given it.
@@ -91,6 +94,12 @@ public:
     void setEndlessPar(int par) { m_endlessPar = par; }
     [[nodiscard]] std::int64_t endlessScore() const { return m_endlessScore; }
     void setEndlessScore(std::int64_t score) { m_endlessScore = score; }
+
+    // The puzzles that a mode can bring.
+    [[nodiscard]] const Catalogue& catalogueOf(Mode mode) const
+    {
+        return mode == Mode::Endless ? m_endlessProofs : m_proofs;
+    }
 
     // What was wrong with the catalogues, one line each with the file's name; empty when both were
     // read.

@@ -1,6 +1,6 @@
-#include "controller/Scoring.h"
+#include "play/Scoring.h"
 
-namespace veyrand::controller {
+namespace veyrand::play {
 
 long pointsForSolving(bool endless, int par, unsigned lines)
 {
@@ -10,4 +10,4 @@ long pointsForSolving(bool endless, int par, unsigned lines)
     return base - (static_cast<long>(lines) - par) * kPointsPerLine;
 }
 
-} // namespace veyrand::controller
+} // namespace veyrand::play

@@ -1,8 +1,8 @@
-#include "controller/Scoring.h"
+#include "play/Scoring.h"
 
 #include <gtest/gtest.h>
 
-namespace veyrand::controller {
+namespace veyrand::play {
 
 TEST(Scoring, ClassicStartsFromOneHundredAndFiftyAndEachLineBeyondParCostsTen)
 {
@@ -19,4 +19,4 @@ TEST(Scoring, EndlessStartsFromTenAMoveOfPar)
     EXPECT_EQ(pointsForSolving(true, 2, 13), -100);
 }
 
-} // namespace veyrand::controller
+} // namespace veyrand::play
