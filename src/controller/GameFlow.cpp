@@ -31,6 +31,38 @@ GameFlow::GameFlow(GameController& controller)
 {
 }
 
+const std::shared_ptr<engine::Proof>& GameFlow::proof() const
+{
+    static const std::shared_ptr<engine::Proof> kNone;
+    return m_session ? m_session->proof() : kNone;
+}
+
+play::Phase GameFlow::phase() const
+{
+    return m_session ? m_session->phase() : play::Phase::None;
+}
+
+std::variant<play::Outcome, play::Refusal> GameFlow::apply(const play::Action& action)
+{
+    if (!m_session) {
+        return play::Refusal { play::Reason::Busy };
+    }
+    return m_session->apply(action);
+}
+
+play::Puzzle GameFlow::puzzleInPlay() const
+{
+    const CurrentGame& game = m_game.currentGame;
+    const bool isEndless = game.endlessGame();
+    return { .mode = isEndless ? progress::Mode::Endless : progress::Mode::Classic,
+        .place = isEndless ? progress::Place {} : progress::Place { game.level(), game.stage() },
+        .root = game.proof()->root().theorem(),
+        .goal = game.proof()->goal().theorem(),
+        .par = game.par(),
+        .saved = isEndless ? game.endlessScore() : game.score(),
+        .spent = 0 };
+}
+
 std::string GameFlow::playerName() const
 {
     return progress::currentPlayer(m_game.preferences);
@@ -123,8 +155,8 @@ void GameFlow::layOutPuzzle()
     m_controller.messages().dismiss();
     m_controller.dialogues().dismiss();
     m_controller.hints().resetHintMode();
-    m_proof = m_game.currentGame.proof();
-    m_game.board.newGame(m_proof->root().theorem(), m_proof->goal().theorem());
+    m_session.emplace(puzzleInPlay(), m_game.currentGame.proof());
+    m_game.board.newGame(proof()->root().theorem(), proof()->goal().theorem());
     m_game.board.panel.drawCounters();
 }
 
@@ -164,7 +196,7 @@ void GameFlow::finishClassicGame()
 {
     const CurrentGame& game = m_game.currentGame;
     m_controller.hints().resetHintMode();
-    m_proof.reset();
+    m_session.reset();
     setStageAndLevelAndScore(game.stage(), game.level(), game.score());
     m_game.board.panel.drawCounters();
     m_controller.pages().show("classicGameFinished");
@@ -175,7 +207,7 @@ void GameFlow::returnToMenu()
     m_controller.messages().dismiss();
     m_controller.hints().resetHintMode();
     m_game.sounds.stopLoop();
-    m_proof.reset();
+    m_session.reset();
     m_game.board.gameData.gameObjects().removeAllEntries();
     m_game.effects.play("GlockE2");
     m_controller.titlePage().createTitleAndStartButtons();
@@ -200,6 +232,7 @@ void GameFlow::cleanUpProofForPar(int par)
     m_controller.hints().resetHintMode();
     m_game.effects.play("Marble");
     const int newPar = std::clamp(par, kEasiestPar, kHardestPar);
+    static_cast<void>(apply(play::Leave { newPar }));
     m_game.view.block().startBlockClick(kBlock);
     performWithThisProof(kBoardEmpties, [this] { m_controller.lines().removeAllDeleteButtons(); });
     performWithThisProof(kBoardEmpties, [this] { m_controller.lines().clearProof(); });
@@ -212,20 +245,20 @@ void GameFlow::cleanUpProofForPar(int par)
 
 void GameFlow::regenerateBoard()
 {
-    if (!m_proof) {
+    if (!m_session) {
         return;
     }
     m_game.board.animations.abandonAll();
-    for (unsigned row = 0; row < m_proof->lines().size(); ++row) {
-        m_game.board.lines.redrawRow(m_proof->lines()[row].theorem(), row);
+    for (unsigned row = 0; row < m_session->lines().size(); ++row) {
+        m_game.board.lines.redrawRow(m_session->lines()[row].theorem(), row);
     }
 }
 
 void GameFlow::performWithThisProof(double delay, std::function<void()> call)
 {
     m_game.runLoop.performAfterDelay(
-        delay, [this, call = std::move(call), proof = std::weak_ptr(m_proof)] {
-            if (m_proof && m_proof == proof.lock()) {
+        delay, [this, call = std::move(call), begun = std::weak_ptr(proof())] {
+            if (proof() && proof() == begun.lock()) {
                 call();
             }
         });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "play/Session.h"
 #include "progress/PlayerRecord.h"
 
 #include <functional>
@@ -9,14 +10,20 @@ namespace veyrand::controller {
 
 class GameController;
 
-// Starts, continues and advances games, holds the proof in play, and saves progress to the player's
-// record after every puzzle.
+// Starts, continues and advances games, holds the puzzle in play, hands it every action, and saves
+// progress to the player's record after every puzzle.
 class GameFlow {
 public:
     explicit GameFlow(GameController& controller);
 
     // The puzzle in play, null on the title page and after the last Classic puzzle.
-    [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_proof; }
+    [[nodiscard]] play::Session* session() { return m_session ? &*m_session : nullptr; }
+    [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const;
+    [[nodiscard]] play::Phase phase() const;
+
+    // The one door by which the player's actions reach the puzzle in play; without one all are
+    // refused. Nothing is shown and no points are counted: that is for whoever asks.
+    [[nodiscard]] std::variant<play::Outcome, play::Refusal> apply(const play::Action& action);
 
     // The title page's entries: they ask first where a saved game could be lost.
     void newClassicGame();
@@ -51,6 +58,7 @@ public:
     [[nodiscard]] std::string playerName() const;
 
 private:
+    [[nodiscard]] play::Puzzle puzzleInPlay() const;
     void loadClassicPuzzle();
     void repairPosition();
     void finishClassicGame();
@@ -61,7 +69,7 @@ private:
 
     GameController& m_controller;
     GameContext& m_game;
-    std::shared_ptr<engine::Proof> m_proof;
+    std::optional<play::Session> m_session;
 };
 
 } // namespace veyrand::controller

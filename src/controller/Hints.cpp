@@ -1,13 +1,14 @@
 #include "controller/Hints.h"
 
 #include "controller/GameController.h"
+#include "engine/HintHelper.h"
 #include "progress/PlayerRecord.h"
 
 namespace veyrand::controller {
 
 namespace {
 
-constexpr int kPrice = 50;
+constexpr std::int64_t kPrice = play::kHintPrice;
 constexpr unsigned kMostHintChips = 12;
 constexpr double kPiecesFly = 0.75; // seconds until the pieces have become a line
 constexpr double kWalkBackStep = 0.5; // seconds a bad line
@@ -49,19 +50,36 @@ void Hints::hintClick()
         m_game.currentGame.addToScore(kPrice);
         return;
     }
-    if (!m_hintHelper) {
-        m_hintHelper.emplace(proof);
+    const auto decision = play::decideHint(proof, stage(), kPrice);
+    const auto* const hint = std::get_if<play::Hint>(&decision);
+    if (hint == nullptr) {
+        return;
     }
-    if (proof->lines().size() == 1 && m_hintMode == 0) {
-        m_hintMode = 1; // the start line is always good
+    const auto answer = m_controller.flow().apply(*hint);
+    if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
+        show(hint->kind, *outcome);
     }
-    const bool hasNext = m_hintHelper->nextTheorem().has_value();
-    if (m_hintMode == 0) {
-        markLastLine(hasNext);
-    } else if (hasNext && m_hintMode == 1) {
-        showPieces(*m_hintHelper);
-    } else if (hasNext) {
-        placePieces(*m_hintHelper);
+}
+
+play::HintStage Hints::stage() const
+{
+    const play::Session* const session = m_controller.flow().session();
+    return session != nullptr ? session->hintStage() : play::HintStage::None;
+}
+
+void Hints::show(play::Hint::Kind kind, const play::Outcome& outcome)
+{
+    switch (kind) {
+    case play::Hint::Kind::Good:
+        return lastGoodFound();
+    case play::Hint::Kind::Back:
+        return walkBack(outcome);
+    case play::Hint::Kind::Pieces:
+        return showPieces();
+    case play::Hint::Kind::Line:
+        return placePieces();
+    case play::Hint::Kind::Nothing:
+        return;
     }
 }
 
@@ -75,80 +93,66 @@ bool Hints::isFirstHintOfPlayer()
     return true;
 }
 
-void Hints::markLastLine(bool isGood)
-{
-    if (isGood) {
-        m_game.effects.play("GlockE2");
-        m_hintMode = 1;
-        m_game.board.hints.drawProofGoodSoFar();
-    } else {
-        findLastGood();
-    }
-}
-
-void Hints::showPieces(const engine::HintHelper& helper)
+void Hints::showPieces()
 {
     m_game.effects.play("Chimes");
     m_game.board.hints.clearProofGoodSoFar();
+    const engine::HintHelper helper(m_controller.proof());
     m_game.board.hints.drawHintMatrix(helper.nextTheoremAsMatrix().value());
-    m_hintMode = 2;
 }
 
-void Hints::placePieces(const engine::HintHelper& helper)
+void Hints::placePieces()
 {
     m_game.effects.play("Chimes");
-    const engine::Theorem next = helper.nextTheorem().value();
-    m_game.board.hints.drawHint(
-        next.theorem(), helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
-    m_hintMode = 1;
+    const engine::HintHelper helper(m_controller.proof());
+    m_game.board.hints.drawHint(helper.nextTheorem().value().theorem(),
+        helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
     // Asked for before the block's own call, so that the line stands when the block ends.
-    m_controller.flow().performWithThisProof(kPiecesFly, [this, next] { completeHint(next); });
+    m_controller.flow().performWithThisProof(kPiecesFly, [this] { completeHint(); });
     m_game.view.block().blockAtLeast(kPiecesFly);
 }
 
-void Hints::completeHint(const engine::Theorem& line)
+void Hints::completeHint()
 {
-    const unsigned row = m_controller.lineCount();
-    m_game.board.lines.createChipsForTheorem(line.theorem(), row);
-    if (line.theorem() != m_controller.proof()->goal().theorem()) {
-        m_game.board.lines.createDeleteButton(row);
+    const play::Outcome outcome = m_controller.flow().session()->landed();
+    const std::string& line = outcome.come.back().theorem();
+    m_game.board.lines.createChipsForTheorem(line, outcome.row);
+    if (!outcome.solved) {
+        m_game.board.lines.createDeleteButton(outcome.row);
     }
-    m_controller.proof()->appendLine(line);
     clearHint();
-    m_hintHelper.reset();
     m_controller.lines().checkProofComplete();
 }
 
 void Hints::findLastGood()
 {
-    m_hintHelper.reset();
-    const engine::HintHelper helper(m_controller.proof());
-    const unsigned count = m_controller.lineCount();
-    if (helper.nextTheorem() || count < 2) {
+    play::Session& session = *m_controller.flow().session();
+    const play::Outcome outcome = session.stepBack();
+    if (session.phase() == play::Phase::WalkingBack) {
+        walkBack(outcome);
+    } else {
         lastGoodFound();
-        return;
     }
+}
+
+void Hints::walkBack(const play::Outcome& outcome)
+{
     m_controller.flow().performWithThisProof(kWalkBackStep, [this] { findLastGood(); });
     m_game.view.block().blockAtLeast(kWalkBackStep);
     m_game.effects.play("Triangle");
-    m_controller.lines().clearProof(count - 1, 1, ProofLines::DeleteButtons::Remove);
+    m_controller.lines().clearRows(outcome.row, outcome.gone, ProofLines::DeleteButtons::Remove);
 }
 
 void Hints::lastGoodFound()
 {
     m_game.effects.play("GlockE2");
-    m_hintMode = 1;
     m_game.board.hints.drawProofGoodSoFar();
 }
 
 void Hints::resetHintMode()
 {
-    if (m_hintMode == 2) {
-        clearHint();
-    }
-    m_hintMode = 0;
+    clearHint();
     m_game.board.hints.clearProofGoodSoFar();
-    m_hintHelper.reset();
 }
 
 void Hints::clearHint()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
-#include "engine/HintHelper.h"
+#include "play/Session.h"
 
 namespace veyrand::controller {
 
@@ -9,7 +9,7 @@ class GameController;
 
 // The help that a player can buy, revealed in three clicks: the mark that the proof is good so far
 // (or the walk back to where it was), the pieces of the next line, the pieces in their places.
-// Holds the stage reached on the last line and the search behind it; both end with the line.
+// Shows it; what is found out, and how far the help has come, is the puzzle's in play.
 class Hints {
 public:
     explicit Hints(GameController& controller);
@@ -22,29 +22,29 @@ public:
 
     // 0 none given on this line, 1 the last good line is marked, 2 the next line's pieces are
     // shown.
-    [[nodiscard]] int hintMode() const { return m_hintMode; }
+    [[nodiscard]] int hintMode() const { return static_cast<int>(stage()); }
 
-    // Ends any hint on the current line.
+    // Takes any hint on the current line off the board.
     void resetHintMode();
     // Takes away the hint's chips.
     void clearHint();
 
-    // Removes bad lines from the end, one every half second, and marks the last good one. Input
-    // stays blocked until then.
+    // The next step of the walk back: a bad line goes from the end, one every half second, or the
+    // last good one is marked. Input stays blocked until then.
     void findLastGood();
 
 private:
     [[nodiscard]] bool isFirstHintOfPlayer();
-    void markLastLine(bool isGood);
-    void showPieces(const engine::HintHelper& helper);
-    void placePieces(const engine::HintHelper& helper);
-    void completeHint(const engine::Theorem& line);
+    [[nodiscard]] play::HintStage stage() const;
+    void show(play::Hint::Kind kind, const play::Outcome& outcome);
+    void showPieces();
+    void placePieces();
+    void completeHint();
+    void walkBack(const play::Outcome& outcome);
     void lastGoodFound();
 
     GameController& m_controller;
     GameContext& m_game;
-    int m_hintMode = 0;
-    std::optional<engine::HintHelper> m_hintHelper; // of the lines as they stand
 };
 
 } // namespace veyrand::controller

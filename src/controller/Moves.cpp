@@ -59,7 +59,8 @@ play::Position Moves::position() const
     return { .lines = proof ? proof->lines() : kNoLines,
         .goal = proof ? proof->goal() : kNoGoal,
         .open = m_game.currentGame.highestRule(),
-        .lesson = m_controller.tutorial().lesson() };
+        .lesson = m_controller.tutorial().lesson(),
+        .phase = m_controller.flow().phase() };
 }
 
 bool Moves::perform(const play::Gesture& gesture)
@@ -76,8 +77,7 @@ bool Moves::perform(const play::Gesture& gesture)
 
 void Moves::make(const play::Move& move, const play::Gesture& gesture)
 {
-    engine::Proof& proof = *m_controller.proof();
-    const std::string lineBefore = proof.lines().back().theorem();
+    const std::string lineBefore = m_controller.proof()->lines().back().theorem();
     auto choreography = board::choreographyOf(move, lineBefore);
     // Two neighbouring blues have no match of their own: another pair's chips fall. The board shows
     // the gesture all the same, and ends as the line reads.
@@ -86,7 +86,7 @@ void Moves::make(const play::Move& move, const play::Gesture& gesture)
         choreography.column = std::min(drag->from, drag->to);
         choreography.endingColumn = std::max(drag->from, drag->to);
     }
-    proof.applyRule(move.rule, move.match);
+    static_cast<void>(m_controller.flow().apply(move)); // decided, so it is granted
     const unsigned newRow = m_controller.lineCount() - 1;
     board::perform(m_game.board.animations, choreography, lineBefore, newRow);
     settleAfter(choreography.ends, newRow);

@@ -49,37 +49,53 @@ void ProofLines::calculateScore()
 
 void ProofLines::clearProof(unsigned firstRow, unsigned count, DeleteButtons buttons)
 {
-    board::ObjectTable& table = m_game.board.gameData.gameObjects();
     engine::Proof& proof = *m_controller.proof();
-    for (unsigned row = firstRow; row < firstRow + count; ++row) {
-        const std::size_t length = proof.lines().at(row).theorem().size();
-        for (unsigned column = 0; column < length; ++column) {
-            table.removeGameObjectForKey(board::generateKeyChipKey(column, row));
-        }
-    }
+    const auto first = proof.lines().begin() + firstRow;
+    const std::vector<engine::Theorem> lines(first, first + count);
     for (unsigned i = 0; i < count; ++i) {
         proof.removeLine(firstRow);
     }
-    if (buttons == DeleteButtons::Remove) {
-        removeDeleteButtons(firstRow, count);
-    }
+    clearRows(firstRow, lines, buttons);
 }
 
 void ProofLines::clearProof()
 {
-    clearProof(0, m_controller.lineCount(), DeleteButtons::Remove);
+    const play::Outcome outcome = m_controller.flow().session()->emptied();
+    clearRows(outcome.row, outcome.gone, DeleteButtons::Remove);
+}
+
+void ProofLines::clearRows(
+    unsigned firstRow, const std::vector<engine::Theorem>& lines, DeleteButtons buttons)
+{
+    board::ObjectTable& table = m_game.board.gameData.gameObjects();
+    unsigned row = firstRow;
+    for (const engine::Theorem& line : lines) {
+        for (unsigned column = 0; column < line.theorem().size(); ++column) {
+            table.removeGameObjectForKey(board::generateKeyChipKey(column, row));
+        }
+        ++row;
+    }
+    if (buttons == DeleteButtons::Remove) {
+        removeDeleteButtons(firstRow, static_cast<unsigned>(lines.size()));
+    }
 }
 
 void ProofLines::deleteClick(unsigned row)
 {
-    m_game.effects.play("DeleteDing");
-    const unsigned count = m_controller.lineCount();
-    for (unsigned r = row; r < count; ++r) {
-        m_game.board.gameData.gameObjects().removeGameObjectForKey(board::deleteButtonKey(r));
-        m_game.board.lines.dropTheorem(m_controller.proof()->lines().at(r).theorem(), r);
+    const auto answer = m_controller.flow().apply(play::Remove { row });
+    if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
+        dropRows(*outcome);
     }
-    for (unsigned r = count; r > row; --r) {
-        m_controller.proof()->removeLine(r - 1);
+}
+
+void ProofLines::dropRows(const play::Outcome& outcome)
+{
+    m_game.effects.play("DeleteDing");
+    unsigned row = outcome.row;
+    for (const engine::Theorem& line : outcome.gone) {
+        m_game.board.gameData.gameObjects().removeGameObjectForKey(board::deleteButtonKey(row));
+        m_game.board.lines.dropTheorem(line.theorem(), row);
+        ++row;
     }
     m_controller.hints().resetHintMode();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "play/Session.h"
 
 namespace veyrand::controller {
 
@@ -20,6 +21,9 @@ public:
     enum class DeleteButtons { Keep, Remove };
     void clearProof(unsigned firstRow, unsigned count, DeleteButtons buttons);
     void clearProof();
+    // The same for lines that the puzzle in play has lost already.
+    void clearRows(
+        unsigned firstRow, const std::vector<engine::Theorem>& lines, DeleteButtons buttons);
 
     // Removes the row and every row below it; they shrink away.
     void deleteClick(unsigned row);
@@ -27,6 +31,7 @@ public:
     void removeAllDeleteButtons();
 
 private:
+    void dropRows(const play::Outcome& outcome);
     void removeDeleteButtons(unsigned firstRow, unsigned count);
     void calculateScore();
 

@@ -15,25 +15,25 @@ constexpr int kAllMoves = 7;
 
 // So many lines, the last of which is the given one; the goal is one that no gesture here makes,
 // unless it is named.
-class Standing {
+class Situation {
 public:
-    explicit Standing(const char* line, int open = kAllMoves, std::size_t count = 1)
+    explicit Situation(const char* line, int open = kAllMoves, std::size_t count = 1)
         : m_lines(count, engine::Theorem(line))
         , m_open(open)
     {
     }
 
-    Standing& towards(const char* goal)
+    Situation& towards(const char* goal)
     {
         m_goal = engine::Theorem(goal);
         return *this;
     }
-    Standing& during(Phase phase)
+    Situation& during(Phase phase)
     {
         m_phase = phase;
         return *this;
     }
-    Standing& inLesson(const Lesson& lesson)
+    Situation& inLesson(const Lesson& lesson)
     {
         m_lesson = lesson;
         return *this;
@@ -85,125 +85,125 @@ private:
 TEST(Click, OnTheYellowDoublesWhatFollowsIt)
 {
     for (int open = 1; open <= kAllMoves; ++open) {
-        EXPECT_EQ(Standing("YR", open).click(0), "1/0 YRR") << open;
+        EXPECT_EQ(Situation("YR", open).click(0), "1/0 YRR") << open;
     }
-    EXPECT_EQ(Standing("RGYB").click(2), "1/0 RGYBB");
-    EXPECT_EQ(Standing("Y").click(0), "YellowLast");
-    EXPECT_EQ(Standing("RGY").click(2), "YellowLast");
+    EXPECT_EQ(Situation("RGYB").click(2), "1/0 RGYBB");
+    EXPECT_EQ(Situation("Y").click(0), "YellowLast");
+    EXPECT_EQ(Situation("RGY").click(2), "YellowLast");
 }
 
 TEST(Click, OnARedAtTheEndAddsAGreenThere)
 {
-    EXPECT_EQ(Standing("YR", 2).click(1), "0/0 YRG");
-    EXPECT_EQ(Standing("YRGRR").click(4), "0/0 YRGRRG");
-    EXPECT_EQ(Standing("YR", 1).click(1), "NotOpen 2");
-    EXPECT_EQ(Standing("YRG").click(1), "RedNotLast");
-    EXPECT_EQ(Standing("YRR").click(1), "RedNotLast");
+    EXPECT_EQ(Situation("YR", 2).click(1), "0/0 YRG");
+    EXPECT_EQ(Situation("YRGRR").click(4), "0/0 YRGRRG");
+    EXPECT_EQ(Situation("YR", 1).click(1), "NotOpen 2");
+    EXPECT_EQ(Situation("YRG").click(1), "RedNotLast");
+    EXPECT_EQ(Situation("YRR").click(1), "RedNotLast");
 }
 
 TEST(Click, OnTheFirstOfTwoGreensLetsABlueBetweenThem)
 {
-    EXPECT_EQ(Standing("YGG", 6).click(1), "5/0 YGBG");
-    EXPECT_EQ(Standing("YGGG").click(2), "5/1 YGGBG");
-    EXPECT_EQ(Standing("YGGRGG").click(4), "5/1 YGGRGBG");
-    EXPECT_EQ(Standing("YGG", 5).click(1), "NotOpen 6");
-    EXPECT_EQ(Standing("YGG").click(2), "LoneGreen"); // the second of the pair
-    EXPECT_EQ(Standing("YGR").click(1), "LoneGreen");
-    EXPECT_EQ(Standing("YG").click(1), "LoneGreen");
+    EXPECT_EQ(Situation("YGG", 6).click(1), "5/0 YGBG");
+    EXPECT_EQ(Situation("YGGG").click(2), "5/1 YGGBG");
+    EXPECT_EQ(Situation("YGGRGG").click(4), "5/1 YGGRGBG");
+    EXPECT_EQ(Situation("YGG", 5).click(1), "NotOpen 6");
+    EXPECT_EQ(Situation("YGG").click(2), "LoneGreen"); // the second of the pair
+    EXPECT_EQ(Situation("YGR").click(1), "LoneGreen");
+    EXPECT_EQ(Situation("YG").click(1), "LoneGreen");
 }
 
 TEST(Click, ElsewhereStartsNoMove)
 {
-    EXPECT_EQ(Standing("YBB").click(1), "NoMoveHere");
-    EXPECT_EQ(Standing("YRB").click(2), "NoMoveHere");
-    EXPECT_EQ(Standing("YR").click(2), "NoMoveHere"); // past the line
-    EXPECT_EQ(Standing("YR").click(99), "NoMoveHere");
+    EXPECT_EQ(Situation("YBB").click(1), "NoMoveHere");
+    EXPECT_EQ(Situation("YRB").click(2), "NoMoveHere");
+    EXPECT_EQ(Situation("YR").click(2), "NoMoveHere"); // past the line
+    EXPECT_EQ(Situation("YR").click(99), "NoMoveHere");
 }
 
 TEST(Click, MakesNoLineThatTheBoardHasNoRoomFor)
 {
-    EXPECT_EQ(Standing("RYGGGGG").click(1), "1/0 RYGGGGGGGGGG"); // 12 chips
-    EXPECT_EQ(Standing("YGGGGGG").click(0), "TooLong");
-    EXPECT_EQ(Standing("YR", kAllMoves, 11).click(0), "1/0 YRR");
-    EXPECT_EQ(Standing("YR", kAllMoves, 12).click(0), "LastMustBeGoal");
-    EXPECT_EQ(Standing("YR", kAllMoves, 12).towards("YRR").click(0), "1/0 YRR");
-    EXPECT_EQ(Standing("YR", kAllMoves, 13).towards("YRR").click(0), "BoardFull");
-    EXPECT_EQ(Standing("YR", kAllMoves, 0).ask(Click { 0, 0 }), "NoLine");
+    EXPECT_EQ(Situation("RYGGGGG").click(1), "1/0 RYGGGGGGGGGG"); // 12 chips
+    EXPECT_EQ(Situation("YGGGGGG").click(0), "TooLong");
+    EXPECT_EQ(Situation("YR", kAllMoves, 11).click(0), "1/0 YRR");
+    EXPECT_EQ(Situation("YR", kAllMoves, 12).click(0), "LastMustBeGoal");
+    EXPECT_EQ(Situation("YR", kAllMoves, 12).towards("YRR").click(0), "1/0 YRR");
+    EXPECT_EQ(Situation("YR", kAllMoves, 13).towards("YRR").click(0), "BoardFull");
+    EXPECT_EQ(Situation("YR", kAllMoves, 0).ask(Click { 0, 0 }), "NoLine");
 }
 
 TEST(Click, IsForTheLastLine)
 {
-    EXPECT_EQ(Standing("YR", kAllMoves, 3).ask(Click { 1, 0 }), "NotLastLine");
-    EXPECT_EQ(Standing("YR", kAllMoves, 3).ask(Click { 3, 0 }), "NotLastLine");
+    EXPECT_EQ(Situation("YR", kAllMoves, 3).ask(Click { 1, 0 }), "NotLastLine");
+    EXPECT_EQ(Situation("YR", kAllMoves, 3).ask(Click { 3, 0 }), "NotLastLine");
 }
 
 TEST(Drag, AlongThreeRedsMakesThemAGreen)
 {
-    EXPECT_EQ(Standing("YRRRG", 3).drag(1, 3), "2/0 YGG");
-    EXPECT_EQ(Standing("YRRRG", 3).drag(3, 1), "2/0 YGG");
-    EXPECT_EQ(Standing("YRRRR").drag(4, 2), "2/1 YRG");
-    EXPECT_EQ(Standing("YRRRG", 2).drag(1, 3), "NotOpen 3");
-    EXPECT_EQ(Standing("YRRRG").drag(1, 2), "DragReds");
-    EXPECT_EQ(Standing("YRRRR").drag(1, 4), "DragReds");
-    EXPECT_EQ(Standing("YRGR").drag(1, 3), "DragReds");
+    EXPECT_EQ(Situation("YRRRG", 3).drag(1, 3), "2/0 YGG");
+    EXPECT_EQ(Situation("YRRRG", 3).drag(3, 1), "2/0 YGG");
+    EXPECT_EQ(Situation("YRRRR").drag(4, 2), "2/1 YRG");
+    EXPECT_EQ(Situation("YRRRG", 2).drag(1, 3), "NotOpen 3");
+    EXPECT_EQ(Situation("YRRRG").drag(1, 2), "DragReds");
+    EXPECT_EQ(Situation("YRRRR").drag(1, 4), "DragReds");
+    EXPECT_EQ(Situation("YRGR").drag(1, 3), "DragReds");
 }
 
 TEST(Drag, OfAGreenOntoTheNextMakesBothVanish)
 {
-    EXPECT_EQ(Standing("YGG", 4).drag(1, 2), "3/0 Y");
-    EXPECT_EQ(Standing("YGG", 4).drag(2, 1), "3/0 Y");
-    EXPECT_EQ(Standing("YGGG").drag(3, 2), "3/1 YG");
-    EXPECT_EQ(Standing("YGG", 3).drag(1, 2), "NotOpen 4");
-    EXPECT_EQ(Standing("YGGG").drag(1, 3), "DragGreens");
-    EXPECT_EQ(Standing("YGRG").drag(1, 3), "DragGreens");
+    EXPECT_EQ(Situation("YGG", 4).drag(1, 2), "3/0 Y");
+    EXPECT_EQ(Situation("YGG", 4).drag(2, 1), "3/0 Y");
+    EXPECT_EQ(Situation("YGGG").drag(3, 2), "3/1 YG");
+    EXPECT_EQ(Situation("YGG", 3).drag(1, 2), "NotOpen 4");
+    EXPECT_EQ(Situation("YGGG").drag(1, 3), "DragGreens");
+    EXPECT_EQ(Situation("YGRG").drag(1, 3), "DragGreens");
 }
 
 TEST(Drag, OfTheYellowJumpsOverTwoToTheRightOnly)
 {
-    EXPECT_EQ(Standing("YRG", 5).drag(0, 2), "4/0 GRY");
-    EXPECT_EQ(Standing("GYRB").drag(1, 3), "4/0 GBRY");
-    EXPECT_EQ(Standing("YRG", 4).drag(0, 2), "NotOpen 5");
-    EXPECT_EQ(Standing("YRG").drag(0, 1), "DragYellow");
-    EXPECT_EQ(Standing("YRG").drag(2, 0), "DragGreens");
-    EXPECT_EQ(Standing("RGY").drag(2, 0), "DragYellow");
+    EXPECT_EQ(Situation("YRG", 5).drag(0, 2), "4/0 GRY");
+    EXPECT_EQ(Situation("GYRB").drag(1, 3), "4/0 GBRY");
+    EXPECT_EQ(Situation("YRG", 4).drag(0, 2), "NotOpen 5");
+    EXPECT_EQ(Situation("YRG").drag(0, 1), "DragYellow");
+    EXPECT_EQ(Situation("YRG").drag(2, 0), "DragGreens");
+    EXPECT_EQ(Situation("RGY").drag(2, 0), "DragYellow");
 }
 
 // Open as soon as greens can be split, not only with the seventh move.
 TEST(Drag, OfABlueOntoTheNextMakesWhatStandsBetweenVanish)
 {
-    EXPECT_EQ(Standing("YBRGB", 6).drag(1, 4), "6/0 YBB");
-    EXPECT_EQ(Standing("YBRGB", 6).drag(4, 1), "6/0 YBB");
-    EXPECT_EQ(Standing("YBRBGB").drag(3, 5), "6/1 YBRBB");
-    EXPECT_EQ(Standing("YBRGB", 5).drag(1, 4), "NotOpen 7");
-    EXPECT_EQ(Standing("YBRBGB").drag(1, 5), "BlueBetween");
-    EXPECT_EQ(Standing("YBRGB").drag(1, 3), "DragBlues");
+    EXPECT_EQ(Situation("YBRGB", 6).drag(1, 4), "6/0 YBB");
+    EXPECT_EQ(Situation("YBRGB", 6).drag(4, 1), "6/0 YBB");
+    EXPECT_EQ(Situation("YBRBGB").drag(3, 5), "6/1 YBRBB");
+    EXPECT_EQ(Situation("YBRGB", 5).drag(1, 4), "NotOpen 7");
+    EXPECT_EQ(Situation("YBRBGB").drag(1, 5), "BlueBetween");
+    EXPECT_EQ(Situation("YBRGB").drag(1, 3), "DragBlues");
 }
 
 // Two blues side by side have no match of their own: the first of the line is taken, if any.
 TEST(Drag, OfNeighbouringBluesFallsToTheFirstMatchOfTheLine)
 {
-    EXPECT_EQ(Standing("YBRGBB").drag(4, 5), "6/0 YBBB");
-    EXPECT_EQ(Standing("YBB").drag(1, 2), "BluesTouch");
-    EXPECT_EQ(Standing("YBB", 5).drag(1, 2), "BluesTouch");
+    EXPECT_EQ(Situation("YBRGBB").drag(4, 5), "6/0 YBBB");
+    EXPECT_EQ(Situation("YBB").drag(1, 2), "BluesTouch");
+    EXPECT_EQ(Situation("YBB", 5).drag(1, 2), "BluesTouch");
 }
 
 TEST(Drag, IsRefusedWhereItStartsThenWhereItEnds)
 {
-    const Standing three("YGG", kAllMoves, 3);
+    const Situation three("YGG", kAllMoves, 3);
     EXPECT_EQ(three.ask(Drag { 1, 1, 1, 2 }), "NotLastLine");
     EXPECT_EQ(three.ask(Drag { 2, 1, 1, 2 }), "OtherRow");
     EXPECT_EQ(three.drag(1, 1), "SameChip");
     EXPECT_EQ(three.drag(1, 3), "NoChip");
     EXPECT_EQ(three.drag(7, 1), "NoChip");
-    EXPECT_EQ(Standing("YGG", kAllMoves, 11).drag(1, 2), "3/0 Y");
-    EXPECT_EQ(Standing("YGG", kAllMoves, 12).drag(1, 2), "NoDragNow");
-    EXPECT_EQ(Standing("YGG", kAllMoves, 13).drag(1, 2), "NoDragNow");
-    EXPECT_EQ(Standing("YGG", kAllMoves, 0).ask(Drag { 0, 1, 0, 2 }), "NoLine");
+    EXPECT_EQ(Situation("YGG", kAllMoves, 11).drag(1, 2), "3/0 Y");
+    EXPECT_EQ(Situation("YGG", kAllMoves, 12).drag(1, 2), "NoDragNow");
+    EXPECT_EQ(Situation("YGG", kAllMoves, 13).drag(1, 2), "NoDragNow");
+    EXPECT_EQ(Situation("YGG", kAllMoves, 0).ask(Drag { 0, 1, 0, 2 }), "NoLine");
 }
 
 TEST(Drag, IsSilentOnALineThatIsNotTheLastWhereAClickIsNot)
 {
-    const Standing three("YGG", kAllMoves, 3);
+    const Situation three("YGG", kAllMoves, 3);
     EXPECT_EQ(
         std::get<Refusal>(decide(three.position(), Drag { 1, 1, 1, 2 })).heard, Heard::Silent);
     EXPECT_EQ(std::get<Refusal>(decide(three.position(), Click { 1, 1 })).heard, Heard::No);
@@ -211,7 +211,7 @@ TEST(Drag, IsSilentOnALineThatIsNotTheLastWhereAClickIsNot)
 
 TEST(Removal, IsOfAnyRowButTheStartLine)
 {
-    const Standing three("YR", kAllMoves, 3);
+    const Situation three("YR", kAllMoves, 3);
     EXPECT_EQ(three.ask(Remove { 1 }), "remove 1");
     EXPECT_EQ(three.ask(Remove { 2 }), "remove 2");
     EXPECT_EQ(three.ask(Remove { 0 }), "NoSuchRow");
@@ -220,7 +220,7 @@ TEST(Removal, IsOfAnyRowButTheStartLine)
 
 TEST(ALesson, WithAClickAcceptsThatClickAndEveryDrag)
 {
-    Standing lesson("YGG", kAllMoves, 2);
+    Situation lesson("YGG", kAllMoves, 2);
     lesson.inLesson({ .click = Click { 1, 0 }, .drag = {} });
     EXPECT_EQ(lesson.click(0), "1/0 YGGGG");
     EXPECT_EQ(lesson.click(1), "Lesson");
@@ -231,7 +231,7 @@ TEST(ALesson, WithAClickAcceptsThatClickAndEveryDrag)
 
 TEST(ALesson, WithADragAcceptsNothingButThatDrag)
 {
-    Standing lesson("YGGG", kAllMoves, 2);
+    Situation lesson("YGGG", kAllMoves, 2);
     lesson.inLesson({ .click = {}, .drag = Drag { 1, 1, 1, 2 } });
     EXPECT_EQ(lesson.drag(1, 2), "3/0 YG");
     EXPECT_EQ(lesson.drag(2, 3), "Lesson");
@@ -245,7 +245,7 @@ TEST(EveryGesture, IsRefusedWhileTheGameIsBusy)
 {
     for (const Phase phase : { Phase::None, Phase::HintFlying, Phase::WalkingBack,
              Phase::Celebrating, Phase::Leaving }) {
-        Standing busy("YGG", kAllMoves, 2);
+        Situation busy("YGG", kAllMoves, 2);
         busy.during(phase);
         EXPECT_EQ(busy.click(0), "Busy");
         EXPECT_EQ(busy.drag(1, 2), "Busy");
@@ -289,22 +289,22 @@ TEST(Targets, AreThePlacesEachShapeAllows)
         { "YRGRG", 1, {} },
     };
     for (const auto& [line, column, expected] : cases) {
-        EXPECT_THAT(targets(Standing(line, 1).position(), column), ElementsAreArray(expected))
+        EXPECT_THAT(targets(Situation(line, 1).position(), column), ElementsAreArray(expected))
             << line << " from " << column;
     }
 }
 
 TEST(Targets, AreNoneFromTwelveLinesOn)
 {
-    EXPECT_THAT(targets(Standing("YGG", kAllMoves, 11).position(), 1), ElementsAre(2));
-    EXPECT_THAT(targets(Standing("YGG", kAllMoves, 12).position(), 1), IsEmpty());
+    EXPECT_THAT(targets(Situation("YGG", kAllMoves, 11).position(), 1), ElementsAre(2));
+    EXPECT_THAT(targets(Situation("YGG", kAllMoves, 12).position(), 1), IsEmpty());
 }
 
 // Whatever is open to the player; the drop itself is what is tested against that.
 TEST(Targets, AreDropsThatAllMovesAccept)
 {
     for (const char* line : { "YRRRRR", "YGGG", "YRG", "YBRBGB", "YBBRB", "GYRRRGGB" }) {
-        const Standing standing(line);
+        const Situation standing(line);
         for (unsigned column = 0; column < std::string_view(line).size(); ++column) {
             for (const unsigned target : targets(standing.position(), column)) {
                 EXPECT_TRUE(std::holds_alternative<Action>(
@@ -317,17 +317,17 @@ TEST(Targets, AreDropsThatAllMovesAccept)
 
 TEST(Actions, AreTheClicksAndDropsThatAreMoves)
 {
-    EXPECT_THAT(actions(Standing("YGG", 4, 2).position()),
+    EXPECT_THAT(actions(Situation("YGG", 4, 2).position()),
         ElementsAre(
             Gesture(Click { 1, 0 }), Gesture(Drag { 1, 1, 1, 2 }), Gesture(Drag { 1, 2, 1, 1 })));
-    EXPECT_THAT(actions(Standing("YGG", 1, 2).position()), ElementsAre(Gesture(Click { 1, 0 })));
-    EXPECT_THAT(actions(Standing("YGG", 1, 0).position()), IsEmpty());
+    EXPECT_THAT(actions(Situation("YGG", 1, 2).position()), ElementsAre(Gesture(Click { 1, 0 })));
+    EXPECT_THAT(actions(Situation("YGG", 1, 0).position()), IsEmpty());
 }
 
 TEST(AGestureFor, ALineComesWithTheMovesThatAreOpen)
 {
     const auto made = [](const char* from, const char* to, int open, std::size_t standing) {
-        return gestureFor(Standing(from, open, standing).position(), to).has_value();
+        return gestureFor(Situation(from, open, standing).position(), to).has_value();
     };
     EXPECT_TRUE(made("YRG", "GRY", 5, 1));
     EXPECT_FALSE(made("YRG", "GRY", 4, 1));
@@ -338,8 +338,8 @@ TEST(AGestureFor, ALineComesWithTheMovesThatAreOpen)
     EXPECT_FALSE(made("YR", "YRG", 7, 12)); // the last line must be the goal
     EXPECT_FALSE(made("YR", "YRG", 7, 13));
     EXPECT_FALSE(made("YR", "YB", 7, 1)); // no move at all
-    EXPECT_EQ(gestureFor(Standing("YGGG").position(), "YGGBG"), Gesture(Click { 0, 2 }));
-    EXPECT_EQ(gestureFor(Standing("YBRGB").position(), "YBB"), Gesture(Drag { 0, 1, 0, 4 }));
+    EXPECT_EQ(gestureFor(Situation("YGGG").position(), "YGGBG"), Gesture(Click { 0, 2 }));
+    EXPECT_EQ(gestureFor(Situation("YBRGB").position(), "YBB"), Gesture(Drag { 0, 1, 0, 4 }));
 }
 
 TEST(ALineAfterAMove, IsNoneWhereTheMoveHasNoSuchMatch)
