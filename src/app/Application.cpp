@@ -53,7 +53,8 @@ public:
               .view = m_game.view(),
               .pointer = m_pointer,
               .images = m_images,
-              .resized = [this](platform::Size size) { resized(size); } })
+              .resized = [this](platform::Size size) { resized(size); },
+              .cursor = [this] { return m_game.controller().answers().cursor(); } })
         , m_window(m_menu, m_board)
     {
         m_overlay.setMainWindow(m_window);

@@ -9,6 +9,7 @@ desktop::qt::GameMenu::Actions menuActions(
         .endlessGame = [&controller] { controller.flow().newEndlessGame(); },
         .quit = [&controller] { controller.context().quit.terminate(); },
         .musicChanged = [&controller] { controller.musicMenuClick(); },
+        .settingsChanged = [&controller] { controller.answers().settingsChanged(); },
         .toggleFullScreen = [&controller] { controller.toggleFullscreen(); },
         .exitFullScreen = [&controller] { controller.exitFullscreen(); },
         .howToPlay = [&controller] { controller.showHowToPlay(); },

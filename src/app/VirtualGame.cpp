@@ -66,10 +66,12 @@ VirtualGame::VirtualGame(const Options& options)
             .view = m_game->view(),
             .pointer = m_pointer,
             .images = m_images,
-            .resized = [this](platform::Size size) {
-                controller().updateContentViewFrame(size);
-                controller().windowDidResize();
-            } });
+            .resized =
+                [this](platform::Size size) {
+                    controller().updateContentViewFrame(size);
+                    controller().windowDidResize();
+                },
+            .cursor = [this] { return controller().answers().cursor(); } });
     m_widget->setAttribute(Qt::WA_DontShowOnScreen);
     m_widget->resize(options.window);
     m_widget->show();

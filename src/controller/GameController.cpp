@@ -1,5 +1,6 @@
 #include "controller/GameController.h"
 
+#include "controller/Legality.h"
 #include "controller/OverlayFrame.h"
 #include "install/M3InstallController.h"
 
@@ -19,6 +20,7 @@ GameController::GameController(GameContext& context)
     , m_dialogues(*this)
     , m_tutorial(*this)
     , m_fullScreen(*this)
+    , m_answers(*this)
 {
     m_context.view.setGestureTarget(*this);
 }
@@ -132,6 +134,11 @@ void GameController::buttonClick(const std::string& key)
 void GameController::messageWindowClick()
 {
     m_messages.messageWindowClick();
+}
+
+bool GameController::isMove(unsigned row, unsigned column) const
+{
+    return !whyNoClick(*this, row, column);
 }
 
 std::optional<unsigned> GameController::rowToDrag() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controller/Answers.h"
 #include "controller/Dialogues.h"
 #include "controller/FullScreen.h"
 #include "controller/GameFlow.h"
@@ -30,6 +31,7 @@ public:
 
     [[nodiscard]] GameContext& context() const { return m_context; }
     [[nodiscard]] Moves& moves() { return m_moves; }
+    [[nodiscard]] const Moves& moves() const { return m_moves; }
     [[nodiscard]] ProofLines& lines() { return m_lines; }
     [[nodiscard]] Hints& hints() { return m_hints; }
     [[nodiscard]] GameFlow& flow() { return m_flow; }
@@ -38,6 +40,7 @@ public:
     [[nodiscard]] Pages& pages() { return m_pages; }
     [[nodiscard]] Dialogues& dialogues() { return m_dialogues; }
     [[nodiscard]] Tutorial& tutorial() { return m_tutorial; }
+    [[nodiscard]] Answers& answers() { return m_answers; }
     [[nodiscard]] const FullScreen& fullScreen() const { return m_fullScreen; }
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
@@ -65,6 +68,7 @@ public:
     void deleteClick(unsigned row) override;
     void buttonClick(const std::string& key) override;
     void messageWindowClick() override;
+    [[nodiscard]] bool isMove(unsigned row, unsigned column) const override;
     [[nodiscard]] std::optional<unsigned> rowToDrag() const override;
     [[nodiscard]] std::optional<std::vector<unsigned>> areasToTrack(
         unsigned row, unsigned column) const override;
@@ -86,6 +90,7 @@ private:
     Dialogues m_dialogues;
     Tutorial m_tutorial;
     FullScreen m_fullScreen;
+    Answers m_answers;
 };
 
 } // namespace veyrand::controller

@@ -158,6 +158,7 @@ void GameFlow::layOutPuzzle()
     m_session.emplace(puzzleInPlay(), m_game.currentGame.proof());
     m_game.board.newGame(proof()->root().theorem(), proof()->goal().theorem());
     m_game.board.panel.drawCounters();
+    m_controller.answers().puzzleLaidOut();
 }
 
 void GameFlow::startMusic()

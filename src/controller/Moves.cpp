@@ -69,6 +69,7 @@ bool Moves::perform(const play::Gesture& gesture)
     const auto* const action = std::get_if<play::Action>(&decision);
     if (action == nullptr) {
         playNoRuleApplied();
+        m_controller.answers().refused(gesture, std::get<play::Refusal>(decision));
         return false;
     }
     make(std::get<play::Move>(*action), gesture);

@@ -3,6 +3,7 @@
 #include "input/BoardKeys.h"
 
 #include <cmath>
+#include <utility>
 
 namespace veyrand::input {
 
@@ -15,11 +16,16 @@ constexpr double kChipBlock = 0.75;
 constexpr double kDeleteBlock = 0.95;
 constexpr double kButtonBlock = 0.5;
 
+// Two presses of one chip within so many seconds are a double click.
+constexpr double kDoubleClick = 0.4;
+
 } // namespace
 
 GameView::GameView(const Parts& parts)
     : m_gameData(parts.gameData)
     , m_layers(parts.layers)
+    , m_runLoop(parts.runLoop)
+    , m_pointer(parts.pointer)
     , m_block(parts.runLoop, [this] { blockEnded(); })
     , m_hover(parts.gameData, parts.layers, parts.pointer, parts.effects)
     , m_dragImage(parts.layers, parts.runLoop)
@@ -32,9 +38,14 @@ void GameView::mouseDown(const MouseEvent& event)
 {
     cancelGesture();
     m_held = Hover::Button::Held;
+    if (m_onlooker != nullptr) {
+        m_onlooker->pressBegins();
+    }
     if (m_block.blockClick() || m_target == nullptr) {
+        losePress(event);
         return;
     }
+    m_remembered.clear();
     if (m_messageWindow) {
         m_target->messageWindowClick();
         return;
@@ -47,7 +58,28 @@ void GameView::mouseDown(const MouseEvent& event)
         m_drag.reset();
         m_blockDrag = false;
         m_position = event.location;
-        holdDown(keyHit(event.location));
+        m_lastPressed = keyHit(event.location);
+        m_lastPressTime = m_runLoop.now();
+        holdDown(m_lastPressed);
+        tellHandsChanged();
+    }
+}
+
+void GameView::losePress(const MouseEvent& event)
+{
+    const std::string key = keyHit(event.location);
+    const bool isSecondOfTwo
+        = key == m_lastPressed && m_runLoop.now() - m_lastPressTime < kDoubleClick;
+    m_lastPressed = key;
+    m_lastPressTime = m_runLoop.now();
+    if (event.hasModifier || m_messageWindow) {
+        return;
+    }
+    if (isChipKey(key) && !isSecondOfTwo) {
+        m_lost = event.location;
+    }
+    if (m_onlooker != nullptr) {
+        m_onlooker->pressLost(key);
     }
 }
 
@@ -63,7 +95,15 @@ void GameView::mouseDragged(const MouseEvent& event)
             m_dragImage.moveTo(onBackground(event.location));
         }
     }
+    followPointer();
+}
+
+void GameView::followPointer()
+{
     m_hover.pointerMoved(m_held);
+    if (m_onlooker != nullptr) {
+        m_onlooker->pointerMoved();
+    }
 }
 
 void GameView::mouseUp(const MouseEvent& event)
@@ -78,6 +118,7 @@ void GameView::mouseUp(const MouseEvent& event)
             mouseClick(event, pressed);
         }
     }
+    rememberPress(event);
     finishGesture();
 }
 
@@ -85,7 +126,7 @@ void GameView::mouseUp(const MouseEvent& event)
 void GameView::mouseMoved()
 {
     cancelGesture();
-    m_hover.pointerMoved(m_held);
+    followPointer();
 }
 
 void GameView::cancelGesture()
@@ -100,14 +141,30 @@ void GameView::cancelGesture()
     finishGesture();
 }
 
+void GameView::rememberPress(const MouseEvent& release)
+{
+    if (!m_lost) {
+        return;
+    }
+    const std::string pressed = keyHit(*m_lost);
+    if (isChipKey(pressed) && pressed == keyHit(release.location)) {
+        m_remembered = pressed;
+        if (!m_block.blockClick()) {
+            playRememberedPress(); // the block has ended under the held button
+        }
+    }
+}
+
 void GameView::finishGesture()
 {
     m_click = false;
     m_drag.reset();
     m_blockDrag = false;
+    m_lost.reset();
     m_held = Hover::Button::Up;
     // What the pointer crossed while the button was held is made good now.
-    m_hover.pointerMoved(m_held);
+    followPointer();
+    tellHandsChanged();
 }
 
 // Only what is seen changes: the record knows nothing of it, and a layer that goes takes it along.
@@ -146,10 +203,14 @@ void GameView::tryToStartDrag(platform::Point location)
     const auto targets = m_target->areasToTrack(row, columnForKey(key));
     if (m_target->rowToDrag() != row || !targets) {
         m_blockDrag = true;
+        if (m_onlooker != nullptr) {
+            m_onlooker->dragRefused(key);
+        }
         return;
     }
     startLayerDrag(key, m_position);
     m_hover.createTrackingAreas(row, *targets);
+    tellHandsChanged();
 }
 
 void GameView::startLayerDrag(const std::string& key, platform::Point position)
@@ -178,7 +239,8 @@ void GameView::endDrag(const MouseEvent& event)
     const std::string originKey = m_drag->originKey;
     m_hover.flushTrackingAreas();
     m_dragImage.fadeOut();
-    const bool moved = dropOnKey(event, originKey, keyHit(event.location));
+    const std::string droppedOn = keyHit(event.location);
+    const bool moved = dropOnKey(event, originKey, droppedOn);
     if (!moved) {
         m_dragImage.flyTo(home);
     }
@@ -193,6 +255,23 @@ void GameView::endDrag(const MouseEvent& event)
         chip->setOpacity(1.0F);
     }
     m_dragImage.removeAfterFade();
+    if (!moved) {
+        missedDrop(event, originKey, droppedOn);
+    }
+}
+
+// What happened on the way is settled by now, so a click may follow.
+void GameView::missedDrop(const MouseEvent& event, const std::string& from, const std::string& to)
+{
+    if (from != to) {
+        if (m_onlooker != nullptr) {
+            m_onlooker->dropMissed(from, to);
+        }
+    } else if (m_habits && m_habits().forgivingClicks) {
+        mouseClick(event, from);
+    } else if (m_onlooker != nullptr) {
+        m_onlooker->clickMissed(from);
+    }
 }
 
 void GameView::takeBackDrag()
@@ -278,6 +357,30 @@ platform::PointF GameView::onBackground(platform::Point location) const
         { .x = static_cast<float>(location.x), .y = static_cast<float>(location.y) });
 }
 
+std::string GameView::keyUnderPointer() const
+{
+    const auto place = m_pointer.position();
+    return place ? keyHit(*place) : std::string();
+}
+
+std::optional<platform::PointF> GameView::pointerPlace() const
+{
+    const auto place = m_pointer.position();
+    return place ? std::optional(platform::PointF {
+               .x = static_cast<float>(place->x), .y = static_cast<float>(place->y) })
+                 : std::nullopt;
+}
+
+std::string GameView::keyHeld() const
+{
+    return m_held == Hover::Button::Held && m_click && !m_drag ? m_lastPressed : std::string();
+}
+
+std::string GameView::keyDragged() const
+{
+    return m_drag ? m_drag->originKey : std::string();
+}
+
 void GameView::establishButtonTracking()
 {
     m_hover.establishButtonTracking(m_target != nullptr && m_target->isEndlessGame());
@@ -307,6 +410,26 @@ void GameView::blockEnded()
     if (m_target != nullptr && m_target->dialogueState() == 0 && !m_target->hasMessageWindow()) {
         turnOnAllHovers();
     }
+    playRememberedPress();
+    tellHandsChanged();
+}
+
+void GameView::tellHandsChanged() const
+{
+    if (m_onlooker != nullptr) {
+        m_onlooker->handsChanged();
+    }
+}
+
+void GameView::playRememberedPress()
+{
+    const std::string key = std::exchange(m_remembered, {});
+    if (key.empty() || m_messageWindow || m_target == nullptr || m_target->dialogueState() != 0
+        || !m_habits || !m_habits().rememberPress || !m_gameData.gameObjects().contains(key)
+        || !m_target->isMove(rowForKey(key), columnForKey(key))) {
+        return;
+    }
+    mouseClick({}, key);
 }
 
 void GameView::turnOnAllHovers()

@@ -3,6 +3,7 @@
 #include "input/DragImage.h"
 #include "input/Hover.h"
 #include "input/InputBlock.h"
+#include "input/Onlooker.h"
 
 namespace veyrand::input {
 
@@ -20,9 +21,20 @@ public:
         const platform::Pointer& pointer;
         const platform::SoundEffects& effects;
     };
+    // How presses are taken that would otherwise do nothing.
+    struct Habits {
+        // The last press that fell into a block is played when the block ends, if it is a move
+        // then.
+        bool rememberPress = false;
+        // A chip that is let go over itself counts as clicked.
+        bool forgivingClicks = false;
+    };
     explicit GameView(const Parts& parts);
 
     void setGestureTarget(GestureTarget& target) { m_target = &target; }
+    void setOnlooker(Onlooker* onlooker) { m_onlooker = onlooker; }
+    // What the player has chosen; asked whenever it matters.
+    void setHabits(std::function<Habits()> habits) { m_habits = std::move(habits); }
 
     // Events of the left button, in the order in which they happen; and the pointer's free
     // movement.
@@ -31,7 +43,7 @@ public:
     void mouseUp(const MouseEvent& event);
     void mouseMoved();
     // The pointer is outside; the button may be held there.
-    void pointerLeft() { m_hover.pointerMoved(m_held); }
+    void pointerLeft() { followPointer(); }
     // The release will not come, or would mean nothing: the window has gone, another has the
     // pointer, a box wants an answer first. A chip in the hand goes back, and the press was none.
     void cancelGesture();
@@ -44,6 +56,13 @@ public:
 
     [[nodiscard]] InputBlock& block() { return m_block; }
     [[nodiscard]] Hover& hover() { return m_hover; }
+
+    // The element under the pointer; the one under the held button while the press may still become
+    // a click; and the one a drag began on. Empty when there is none.
+    [[nodiscard]] std::string keyUnderPointer() const;
+    [[nodiscard]] std::optional<platform::PointF> pointerPlace() const; // in the view's points
+    [[nodiscard]] std::string keyHeld() const;
+    [[nodiscard]] std::string keyDragged() const;
 
     void establishButtonTracking() override;
     // After the window changed size or mode: tracks what is on the screen now.
@@ -73,14 +92,28 @@ private:
     void mouseClick(const MouseEvent& event, const std::string& key);
     bool dropOnKey(const MouseEvent& event, const std::string& from, const std::string& to);
     void blockEnded();
+    void followPointer();
+    void tellHandsChanged() const;
+    void losePress(const MouseEvent& event);
+    void rememberPress(const MouseEvent& release);
+    void playRememberedPress();
+    void missedDrop(const MouseEvent& event, const std::string& from, const std::string& to);
 
     board::GameData& m_gameData;
     present::BoardLayers& m_layers;
     GestureTarget* m_target = nullptr;
+    Onlooker* m_onlooker = nullptr;
+    std::function<Habits()> m_habits;
+    platform::RunLoop& m_runLoop;
+    const platform::Pointer& m_pointer;
     InputBlock m_block;
     Hover m_hover;
     DragImage m_dragImage;
     platform::Point m_position; // of the last press
+    std::optional<platform::Point> m_lost; // a press into a block, while it is held
+    std::string m_remembered; // the chip of such a press, let go where it was pressed
+    std::string m_lastPressed;
+    double m_lastPressTime = -1.0;
     std::optional<Drag> m_drag;
     std::string m_heldKey; // of the button that looks pressed
     Hover::Button m_held = Hover::Button::Up;

@@ -32,6 +32,8 @@ public:
     virtual void deleteClick(unsigned row) = 0;
     virtual void buttonClick(const std::string& key) = 0;
     virtual void messageWindowClick() = 0;
+    // Whether a click there would be a move now.
+    [[nodiscard]] virtual bool isMove(unsigned row, unsigned column) const = 0;
 
     // The only row whose chips may be dragged; none while there is no line.
     [[nodiscard]] virtual std::optional<unsigned> rowToDrag() const = 0;

@@ -18,6 +18,9 @@ void InputBlock::blockAtLeast(double seconds)
 
 void InputBlock::blockAndPollAfter(double seconds)
 {
+    if (!m_blocked) {
+        m_since = m_runLoop.now();
+    }
     m_blocked = true;
     m_runLoop.performAfterDelay(seconds, [this] { removeBlockClick(); });
 }

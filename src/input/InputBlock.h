@@ -24,6 +24,9 @@ public:
         return m_delayUntil;
     } // seconds of the run loop's clock
 
+    // How long the block that is running, or ran last, is in all, in seconds.
+    [[nodiscard]] double length() const { return m_delayUntil - m_since; }
+
     void startBlockClick(double seconds);
     void increaseDelay(double seconds) { m_delayUntil += seconds; }
 
@@ -41,6 +44,7 @@ private:
     platform::RunLoop& m_runLoop;
     std::function<void()> m_ended;
     double m_delayUntil = 0.0;
+    double m_since = 0.0;
     bool m_blocked = false;
 };
 

@@ -25,6 +25,7 @@ BoardLayers::BoardLayers(
     , m_contentLayer(scene, { .red = 0.0, .green = 0.0, .blue = 0.0 })
     , m_backgroundLayer(
           m_contentLayer.addSublayer(std::make_unique<ImageLayer>(scene, "WoodBackground")))
+    , m_extras(scene)
 {
     m_backgroundLayer.setMasksToBounds(true);
     gameData.setTextHost(*this);
@@ -101,10 +102,16 @@ std::string BoardLayers::shownText(const board::GameObject& record) const
     return text != nullptr ? text->string() : std::string();
 }
 
-DisplayList BoardLayers::displayList() const
+DisplayList BoardLayers::displayList()
 {
     DisplayList list;
     m_contentLayer.flattenInto(list);
+    // A bloom's radius is given for a game of 900 points and grows with it, as everything does.
+    constexpr double kGlowHeight = 900.0;
+    for (DisplayItem& item : list) {
+        item.glow *= static_cast<float>(m_gameData.gameHeight() / kGlowHeight);
+    }
+    m_extras.decorate(list, *this);
     return list;
 }
 

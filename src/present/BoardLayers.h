@@ -1,5 +1,6 @@
 #pragma once
 
+#include "present/Extras.h"
 #include "present/GameObjectLayer.h"
 #include "present/TextLayer.h"
 
@@ -20,6 +21,8 @@ public:
     [[nodiscard]] const Layer& contentLayer() const { return m_contentLayer; }
     [[nodiscard]] ImageLayer& backgroundLayer() const { return m_backgroundLayer; }
 
+    [[nodiscard]] const platform::TextMetrics& textMetrics() const { return m_metrics; }
+
     // The size of the view, in points.
     [[nodiscard]] platform::Size viewSize() const;
     // Fits the game area into a view of the size: letter-boxed and centred, never stretched.
@@ -34,7 +37,10 @@ public:
     void attachText(const board::GameObject& record, const board::TextStyle& style) override;
     [[nodiscard]] std::string shownText(const board::GameObject& record) const override;
 
-    [[nodiscard]] DisplayList displayList() const;
+    // What the view adds to the board.
+    [[nodiscard]] Extras& extras() { return m_extras; }
+
+    [[nodiscard]] DisplayList displayList();
 
 private:
     void createLayer(const std::string& key);
@@ -44,6 +50,7 @@ private:
     const platform::TextMetrics& m_metrics;
     SolidLayer m_contentLayer;
     ImageLayer& m_backgroundLayer; // owned by the content layer
+    Extras m_extras;
 };
 
 } // namespace veyrand::present

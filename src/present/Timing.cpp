@@ -34,9 +34,15 @@ float progressOf(Timing timing, double fraction)
     if (fraction >= 1.0) {
         return 1.0F;
     }
-    const double progress
-        = timing == Timing::EaseInEaseOut ? bezier(0.0, 1.0, parameterAt(fraction)) : fraction;
-    return static_cast<float>(progress);
+    switch (timing) {
+    case Timing::EaseInEaseOut:
+        return static_cast<float>(bezier(0.0, 1.0, parameterAt(fraction)));
+    case Timing::EaseOut:
+        return static_cast<float>(1.0 - (1.0 - fraction) * (1.0 - fraction));
+    case Timing::Linear:
+        break;
+    }
+    return static_cast<float>(fraction);
 }
 
 } // namespace veyrand::present

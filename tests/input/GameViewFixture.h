@@ -27,6 +27,10 @@ public:
     void deleteClick(unsigned row) override { note("delete " + std::to_string(row)); }
     void buttonClick(const std::string& key) override { note(key); }
     void messageWindowClick() override { note("message"); }
+    [[nodiscard]] bool isMove(unsigned row, unsigned column) const override
+    {
+        return playableRow == row && column == moveColumn;
+    }
 
     [[nodiscard]] std::optional<unsigned> rowToDrag() const override { return playableRow; }
     [[nodiscard]] std::optional<std::vector<unsigned>> areasToTrack(
@@ -46,6 +50,7 @@ public:
     std::optional<unsigned> playableRow = 1;
     std::optional<std::vector<unsigned>> targets = std::vector<unsigned> { 1 };
     unsigned lines = 2;
+    unsigned moveColumn = 0;
     int dialogue = 0;
     bool acceptsDrags = false;
     bool endless = false;

@@ -132,4 +132,20 @@ TEST_F(MouseEvents, ThePointerLeavingTheWindowPutsTheLightOut)
     EXPECT_EQ(object("button-menubuttonon")->opacity(), 0.0);
 }
 
+// Window systems tell of a quick flick in one to three leaps, or only of its end.
+TEST_F(MouseEvents, AFastFlickTakesTheStoneItBeganOnAndDropsItWhereItEnds)
+{
+    for (const auto& way : std::vector<std::vector<std::string>> { {}, { "chip-3-0" },
+             { "chip-2-0", "chip-3-0" }, { "chip-1-0", "chip-2-0", "chip-3-0" } }) {
+        play("YRRR", "YB");
+        send(QEvent::MouseButtonPress, "chip-1-0", Qt::LeftButton, Qt::LeftButton);
+        for (const std::string& key : way) {
+            send(QEvent::MouseMove, key, Qt::NoButton, Qt::LeftButton);
+        }
+        send(QEvent::MouseButtonRelease, "chip-3-0", Qt::LeftButton, Qt::NoButton);
+        EXPECT_THAT(lines(), ElementsAre("YRRR", "YG")) << way.size() << " moves";
+        settle();
+    }
+}
+
 } // namespace veyrand::input

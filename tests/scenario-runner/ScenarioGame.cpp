@@ -200,6 +200,43 @@ QJSValue ScenarioGame::layer(const QString& key)
     return value;
 }
 
+QString ScenarioGame::cursor()
+{
+    const auto name = input::nameOf(game().controller().answers().cursor());
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QString ScenarioGame::tip()
+{
+    return QString::fromStdString(game().controller().answers().tip());
+}
+
+QString ScenarioGame::whisper()
+{
+    return QString::fromStdString(game().controller().answers().whisper());
+}
+
+QJSValue ScenarioGame::extras()
+{
+    const auto shown = game().game().layers().extras().shown();
+    QJSValue list = m_engine.newArray(static_cast<uint>(shown.size()));
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const auto& extra = shown[i];
+        QJSValue value = m_engine.newObject();
+        const std::string kind(present::nameOf(extra.kind));
+        value.setProperty(QStringLiteral("kind"), QString::fromStdString(kind));
+        value.setProperty(QStringLiteral("key"), QString::fromStdString(extra.key));
+        value.setProperty(QStringLiteral("x"), extra.rect.x);
+        value.setProperty(QStringLiteral("y"), extra.rect.y);
+        value.setProperty(QStringLiteral("width"), extra.rect.width);
+        value.setProperty(QStringLiteral("height"), extra.rect.height);
+        value.setProperty(QStringLiteral("opacity"), extra.opacity);
+        value.setProperty(QStringLiteral("text"), QString::fromStdString(extra.text));
+        list.setProperty(static_cast<quint32>(i), value);
+    }
+    return list;
+}
+
 QJSValue ScenarioGame::lines()
 {
     std::vector<std::string> lines;

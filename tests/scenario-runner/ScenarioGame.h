@@ -44,6 +44,11 @@ public:
     Q_INVOKABLE QString text(const QString& key);
     Q_INVOKABLE QJSValue layer(const QString& key);
 
+    Q_INVOKABLE QString cursor();
+    Q_INVOKABLE QString tip();
+    Q_INVOKABLE QString whisper();
+    Q_INVOKABLE QJSValue extras();
+
     Q_INVOKABLE QJSValue lines();
     Q_INVOKABLE QString goal();
     Q_INVOKABLE int par();

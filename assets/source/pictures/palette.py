@@ -80,3 +80,10 @@ PAPER = [(0, '#F2E2BE'), (.44, '#FFFDF5'), (.5, '#CBB78B'), (.56, '#FFFDF5'), (1
 VEIL = [(0, '#140A03', .6), (.55, '#100702', .72), (1, '#0A0401', 1)]
 SHADOW = '#000000'
 SHINE = '#FFFFFF'
+
+# --- what the view adds while the board is played on
+WARM_LIGHT = '#FFE9A8'
+LIMIT = '#FFD98A'
+EXTRA_DARK = '#1A0D04'
+IVORY_PLATE = [(0, '#FFFBF0'), (1, '#F1E4C6')]
+BRASS_PLATE = [(0, '#F7E3AC'), (.5, '#E6C67A'), (1, '#CFA557')]

@@ -1,6 +1,7 @@
 #include "desktop/qt/BoardWidget.h"
 
 #include "desktop/qt/Logging.h"
+#include "input/MouseTrail.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -9,6 +10,25 @@
 #include <cmath>
 
 namespace veyrand::desktop::qt {
+
+namespace {
+
+Qt::CursorShape shapeOf(input::Cursor cursor)
+{
+    switch (cursor) {
+    case input::Cursor::Pointing:
+        return Qt::PointingHandCursor;
+    case input::Cursor::Open:
+        return Qt::OpenHandCursor;
+    case input::Cursor::Closed:
+        return Qt::ClosedHandCursor;
+    case input::Cursor::Arrow:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+} // namespace
 
 BoardWidget::BoardWidget(Parts parts, QWidget* parent)
     : QWidget(parent)
@@ -53,8 +73,18 @@ void BoardWidget::showFrame()
     }
 }
 
+void BoardWidget::showCursor()
+{
+    const input::Cursor cursor = m_parts.cursor ? m_parts.cursor() : input::Cursor::Arrow;
+    if (cursor != m_cursor) {
+        m_cursor = cursor;
+        setCursor(shapeOf(cursor));
+    }
+}
+
 QRegion BoardWidget::nextFrame()
 {
+    showCursor();
     present::DisplayList next = m_parts.layers.displayList();
     const QRegion pixels = ListPainter::damagedPixels(m_shown, next, surface());
     m_shown = std::move(next);
@@ -98,8 +128,10 @@ void BoardWidget::mousePressEvent(QMouseEvent* event)
 {
     const input::MouseEvent press = track(*event);
     if (event->button() == Qt::LeftButton) {
+        m_dragged = press.location;
         m_parts.view.mouseDown(press);
     }
+    showCursor();
 }
 
 // The second press of a quick pair is a press like any other.
@@ -110,20 +142,40 @@ void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event)
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    const input::MouseEvent move = track(*event);
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        m_parts.view.mouseDragged(move);
+        followTo(*event);
     } else {
+        static_cast<void>(track(*event));
         m_parts.view.mouseMoved();
     }
+    showCursor();
+}
+
+// The held button's whole way to where the event saw it.
+void BoardWidget::followTo(const QMouseEvent& event)
+{
+    const input::MouseEvent last = track(event);
+    const auto height = static_cast<double>(m_parts.layers.backgroundLayer().rectInRoot().height);
+    for (const platform::Point& place : input::trail(
+             m_dragged.value_or(last.location), last.location, input::kLargestStep * height)) {
+        m_parts.pointer.setPosition(place);
+        m_parts.view.mouseDragged({ .location = place, .hasModifier = last.hasModifier });
+    }
+    m_dragged = last.location;
 }
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     const input::MouseEvent release = track(*event);
     if (event->button() == Qt::LeftButton) {
+        // A flick may end without a word of where it went.
+        if (m_dragged && !(*m_dragged == release.location)) {
+            followTo(*event);
+        }
+        m_dragged.reset();
         m_parts.view.mouseUp(release);
     }
+    showCursor();
 }
 
 void BoardWidget::leaveEvent(QEvent* event)

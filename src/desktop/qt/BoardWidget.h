@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/qt/ListPainter.h"
+#include "input/Cursor.h"
 #include "input/GameView.h"
 #include "platform/TrackedPointer.h"
 
@@ -24,6 +25,8 @@ public:
         ImageStore& images;
         // Called with the new size (points) whenever the widget has one.
         std::function<void(platform::Size)> resized;
+        // What the pointer looks like now; an arrow always when nobody says.
+        std::function<input::Cursor()> cursor {};
     };
     explicit BoardWidget(Parts parts, QWidget* parent = nullptr);
     BoardWidget(const BoardWidget&) = delete;
@@ -60,12 +63,16 @@ private:
     [[nodiscard]] platform::Point gamePoint(QPointF position) const;
     [[nodiscard]] input::MouseEvent track(const QMouseEvent& event);
     void findPointerAgain();
+    void followTo(const QMouseEvent& event);
+    void showCursor();
 
     Parts m_parts;
     ListPainter m_painter;
     present::DisplayList m_shown;
     QTimer m_frameTimer;
     std::optional<QPointF> m_pointerOnDesktop;
+    std::optional<platform::Point> m_dragged; // where the held button was last seen
+    input::Cursor m_cursor = input::Cursor::Arrow;
     int m_framesPainted = 0;
 };
 

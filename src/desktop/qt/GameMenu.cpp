@@ -54,6 +54,11 @@ void GameMenu::buildOptionsMenu()
     QObject::connect(m_music, &QAction::toggled, &m_bar, [this] { call(m_actions.musicChanged); });
     m_effects = addSwitch(menu, tr("&Sound Effects"), shortcut("Ctrl+Shift+M"), &Settings::effects);
     menu.addSeparator();
+    addSetting(menu, tr("&Answers"), &progress::Settings::answers);
+    addSetting(menu, tr("Sa&y Why"), &progress::Settings::sayWhy);
+    addSetting(menu, tr("&Remember a Press"), &progress::Settings::rememberPress);
+    addSetting(menu, tr("F&orgiving Clicks"), &progress::Settings::forgivingClicks);
+    menu.addSeparator();
     m_fullScreen = addItem(menu, tr("&Full Screen"), shortcut("F11"), &Actions::toggleFullScreen);
     m_fullScreen->setCheckable(true);
     // In no menu, but what everybody presses to get out.
@@ -116,6 +121,19 @@ QAction* GameMenu::addSwitch(QMenu& menu, const QString& text, const QString& ke
         progress::writeSettings(m_preferences, settings);
     });
     return action;
+}
+
+void GameMenu::addSetting(QMenu& menu, const QString& text, bool progress::Settings::*setting)
+{
+    QAction* const action = menu.addAction(text);
+    action->setCheckable(true);
+    action->setChecked(progress::readSettings(m_preferences).*setting);
+    QObject::connect(action, &QAction::toggled, &m_bar, [this, setting](bool on) {
+        progress::Settings settings = progress::readSettings(m_preferences);
+        settings.*setting = on;
+        progress::writeSettings(m_preferences, settings);
+        call(m_actions.settingsChanged);
+    });
 }
 
 void GameMenu::addShortcut(QAction& action, const QString& keys)

@@ -20,6 +20,7 @@ public:
         std::function<void()> endlessGame;
         std::function<void()> quit;
         std::function<void()> musicChanged;
+        std::function<void()> settingsChanged;
         std::function<void()> toggleFullScreen;
         std::function<void()> exitFullScreen;
         std::function<void()> howToPlay;
@@ -63,6 +64,7 @@ private:
     QAction* addItem(QMenu& menu, const QString& text, const QString& keys, Action chosen,
         Test isEnabled = nullptr);
     QAction* addSwitch(QMenu& menu, const QString& text, const QString& keys, Switch setting);
+    void addSetting(QMenu& menu, const QString& text, bool progress::Settings::*setting);
     void addShortcut(QAction& action, const QString& keys);
     [[nodiscard]] bool passes(Test test) const;
 

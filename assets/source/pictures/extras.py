@@ -1,0 +1,250 @@
+"""What the view adds to the board while it is played on: lights, rings, plates for words, dust.
+
+None of these is ever a thing of the board: they lie on it for a moment and take no press. What must
+be soft is made of gradients and stacked outlines, as everywhere.
+"""
+
+import math
+import random
+
+from .palette import BRASS, BRASS_EDGE, BRASS_PLATE, CHIP, EXTRA_DARK, IVORY_PLATE, LIMIT, WARM_LIGHT
+from .shapes import plate, plate_shadow
+from .svg import UNITS_PER_HEIGHT, Drawing, number, numbers
+
+FIELD = 1.01 * UNITS_PER_HEIGHT     # from the panel's edge to the board's
+ROW = .075 * UNITS_PER_HEIGHT
+
+
+def _box(x, y, width, height):
+    return 'M%s %sH%sV%sH%sZ' % numbers(x, y, x + width, y + height, x)
+
+
+def row_light():
+    """On the wood under the line that is played on."""
+    drawing = Drawing(FIELD, ROW)
+    drawing.path(_box(0, 0, FIELD, ROW), fill=drawing.linear(
+        0, 0, FIELD, 0, [(0, '#FFB765', .26), (.55, '#FFB765', .17), (1, '#FFB765', .03)]))
+    for y in (0, ROW - 3.6):
+        drawing.path(_box(0, y, FIELD, 3.6), fill=drawing.linear(
+            0, 0, FIELD, 0, [(0, '#FFE7AE', .85), (.6, '#FFE7AE', .55), (1, '#FFE7AE', 0)]))
+    return drawing
+
+
+def row_flash():
+    """The same place for a moment, when another line was tried."""
+    drawing = Drawing(FIELD, ROW)
+    drawing.path(_box(0, 0, FIELD, ROW), fill=drawing.linear(
+        0, 0, FIELD, 0, [(0, WARM_LIGHT, .34), (.6, WARM_LIGHT, .22), (1, WARM_LIGHT, .06)]))
+    return drawing
+
+
+def ring():
+    """Round a stone on which the lifted one may be dropped."""
+    size = .086 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    drawing.circle(size / 2, size / 2, 77, stroke=EXTRA_DARK, width=14, opacity=.8)
+    drawing.circle(size / 2, size / 2, 77, stroke=drawing.linear(30, 20, 150, 160, BRASS), width=6.8)
+    return drawing
+
+
+def halo():
+    """Round a thing, and not on it: the light over the thing itself is the shine's."""
+    size = .096 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    drawing.circle(size / 2, size / 2, size / 2, fill=drawing.radial(
+        size / 2, size / 2, size / 2,
+        [(0, WARM_LIGHT, 0), (.74, WARM_LIGHT, 0), (.76, WARM_LIGHT, .62), (.86, '#FFD27A', .28), (1, '#FFC04A', 0)]))
+    return drawing
+
+
+def shine():
+    size = .075 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    drawing.circle(size / 2, size / 2, size * .42, fill=drawing.radial(
+        size / 2, size * .62, size * .55, [(0, '#FFF3CC', .26), (.7, '#FFF3CC', .13), (1, '#FFF8E6', .05)]))
+    return drawing
+
+
+def limit_edge():
+    """The board's right edge lights up: no line may pass it."""
+    width, height = .06 * UNITS_PER_HEIGHT, .13 * UNITS_PER_HEIGHT
+    drawing = Drawing(width, height)
+    for step in range(10, 0, -1):
+        grow = step * 4.4
+        drawing.path('M%s %sa%s %s 0 0 1 %s 0V%sa%s %s 0 0 1 %s 0Z' % numbers(
+            width / 2 - grow, 50, grow, grow, 2 * grow, height - 50, grow, grow, -2 * grow),
+            fill=LIMIT, opacity=.055)
+    for side in (-1, 1):
+        drawing.path(_box(width / 2 + side * 7 - 2.6, 55, 5.2, ROW), fill=EXTRA_DARK)
+    drawing.path(_box(width / 2 - 4.6, 55, 9.2, ROW), fill=LIMIT)
+    return drawing
+
+
+def limit_ring():
+    """The place of the last stone a line can hold."""
+    size = .075 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    radius, count = 66.0, 14
+    for colour, width in ((EXTRA_DARK, 8), (LIMIT, 4.6)):
+        for i in range(count):
+            start, end = 2 * math.pi * (i + .2) / count, 2 * math.pi * (i + .8) / count
+            drawing.path('M%s %sA%s %s 0 0 1 %s %s' % numbers(
+                size / 2 + radius * math.sin(start), size / 2 - radius * math.cos(start), radius, radius,
+                size / 2 + radius * math.sin(end), size / 2 - radius * math.cos(end)), stroke=colour, width=width)
+    return drawing
+
+
+def limit_row():
+    """The last row a line can stand in."""
+    drawing = Drawing(FIELD, ROW)
+    drawing.path(_box(0, 0, FIELD, ROW), fill=drawing.linear(
+        0, 0, FIELD, 0, [(0, LIMIT, .16), (.8, LIMIT, .12), (1, LIMIT, 0)]))
+    for y in (0, ROW - 6):
+        drawing.path(_box(0, y, FIELD, 6), fill=drawing.linear(
+            0, 0, FIELD, 0, [(0, LIMIT, 1), (.8, LIMIT, .8), (1, LIMIT, 0)]))
+    return drawing
+
+
+# --- plates for words: drawn in steps of width, so that their corners are never stretched
+
+SHADOW_ROOM = 20        # round every plate
+TIP_WIDTHS = range(180, 661, 60)        # thousandths of the game's height
+TIP_HEIGHTS = {1: 56, 2: 92, 3: 128}
+WHISPER_WIDTHS = range(240, 561, 40)
+HEADING_WIDTHS = range(240, 901, 60)
+NOSE = (60, 40)
+
+
+def _plate_drawing(width, height):
+    drawing = Drawing(2 * width + 2 * SHADOW_ROOM, 2 * height + 2 * SHADOW_ROOM)
+    return drawing, SHADOW_ROOM, SHADOW_ROOM, 2 * width, 2 * height
+
+
+def _ivory(drawing, x, y, w, h, scoop):
+    plate_shadow(drawing, x, y, w, h, scoop, steps=9, strength=.075, fall=5)
+    drawing.path(plate(x, y, w, h, scoop), fill=BRASS_EDGE)
+    drawing.path(plate(x + 1.6, y + 1.6, w - 3.2, h - 3.2, scoop), fill=drawing.linear(x, y, x + w * .6, y + h, BRASS))
+    drawing.path(plate(x + 6.5, y + 6.5, w - 13, h - 13, scoop - 1), fill='#5A3C12')
+    drawing.path(plate(x + 8, y + 8, w - 16, h - 16, scoop - 1), fill=drawing.linear(0, y, 0, y + h, IVORY_PLATE))
+
+
+def tip_plate(width, lines):
+    drawing, x, y, w, h = _plate_drawing(width, TIP_HEIGHTS[lines])
+    _ivory(drawing, x, y, w, h, 16)
+    return drawing
+
+
+def tip_nose(turn):
+    """Points at what the tip explains; drawn pointing up and turned by quarters, clockwise."""
+    width, height = NOSE if turn % 2 == 0 else NOSE[::-1]
+    drawing = Drawing(width, height)
+    tones = (IVORY_PLATE[0][1], '#F7EFDC', IVORY_PLATE[1][1], '#F7EFDC')
+
+    def turned(points):
+        for _ in range(turn):
+            points = [(-y, x) for x, y in points]
+        return 'M' + 'L'.join('%s %s' % numbers(width / 2 + px, height / 2 + py) for px, py in points) + 'Z'
+
+    drawing.path(turned([(-26, 19), (0, -18), (26, 19)]), fill=BRASS_EDGE)
+    drawing.path(turned([(-24, 19), (0, -15.5), (24, 19)]), fill='#D9B465')
+    drawing.path(turned([(-18, 20), (0, -6.5), (18, 20)]), fill=tones[turn])
+    return drawing
+
+
+def whisper_plate(width):
+    drawing, x, y, w, h = _plate_drawing(width, 50)
+    drawing.path(plate(x, y, w, h, 18), fill=EXTRA_DARK, opacity=.78)
+    drawing.path(plate(x + 6, y + 6, w - 12, h - 12, 15), stroke='#C79A66', width=1.8, opacity=.55)
+    return drawing
+
+
+def heading_plate(width):
+    drawing, x, y, w, h = _plate_drawing(width, 79)
+    _ivory(drawing, x, y, w, h, 22)
+    drawing.path(plate(x + 16, y + 16, w - 32, h - 32, 17), stroke='#C9A86A', width=1.6, opacity=.8)
+    return drawing
+
+
+def brass_plate():
+    """What a solved puzzle brought is engraved on it."""
+    drawing, x, y, w, h = _plate_drawing(560, 156)
+    plate_shadow(drawing, x, y, w, h, 34, steps=12, strength=.07, fall=9)
+    drawing.path(plate(x, y, w, h, 34), fill=BRASS_EDGE)
+    drawing.path(plate(x + 2, y + 2, w - 4, h - 4, 34), fill=drawing.linear(x, y, x + w * .6, y + h, BRASS))
+    drawing.path(plate(x + 9, y + 9, w - 18, h - 18, 32), fill=drawing.linear(0, y, 0, y + h, BRASS_PLATE))
+    drawing.path(plate(x + 25.6, y + 26.2, w - 50, h - 50, 24), stroke='#FFF4CF', width=2, opacity=.8)
+    drawing.path(plate(x + 24, y + 24, w - 50, h - 50, 24), stroke='#7A5518', width=2.2, opacity=.8)
+    for cx in (x + 58, x + w - 58):
+        for cy in (y + 46, y + h - 46):
+            drawing.circle(cx, cy, 8, fill='#7A5518')
+            drawing.circle(cx, cy - .8, 6.6, fill=drawing.linear(cx - 5, cy - 5, cx + 5, cy + 5, BRASS))
+    return drawing
+
+
+# --- a puzzle is solved
+
+def line_glow():
+    """A band of light behind a line; as long as the line, so its ends are soft over a fixed share."""
+    width, height = .8 * UNITS_PER_HEIGHT, .11 * UNITS_PER_HEIGHT
+    drawing = Drawing(width, height)
+    for step in range(9):
+        inset = 2 + step * 5.5
+        w, h = width - 2 * inset, height - 2 * inset
+        round_x, round_y = min(w * .04, 60), h * .3
+        drawing.path('M%s %sH%sA%s %s 0 0 1 %s %sV%sA%s %s 0 0 1 %s %sH%sA%s %s 0 0 1 %s %sV%sA%s %s 0 0 1 %s %sZ' % numbers(
+            inset + round_x, inset, inset + w - round_x, round_x, round_y, inset + w, inset + round_y,
+            inset + h - round_y, round_x, round_y, inset + w - round_x, inset + h, inset + round_x,
+            round_x, round_y, inset, inset + h - round_y, inset + round_y, round_x, round_y, inset + round_x, inset),
+            fill='#FFE08A' if step < 6 else '#FFF3CC', opacity=.075)
+    return drawing
+
+
+def spark():
+    """The light that runs along the line."""
+    size = .13 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    c = size / 2
+    drawing.circle(c, c, c, fill=drawing.radial(
+        c, c, c, [(0, '#FFF8E6', .95), (.22, '#FFE9A8', .8), (.5, '#FFD27A', .35), (1, '#FFC04A', 0)]))
+    star = 'M0 %s' % number(-c * .86)
+    for i in range(4):
+        angle = math.pi / 2 * i
+        for turn, radius in ((.25, .11), (1, .86)):
+            at = angle + math.pi / 2 * turn
+            star += 'L%s %s' % numbers(c * radius * math.sin(at), -c * radius * math.cos(at))
+    drawing.path(star + 'Z', fill='#FFF8E6', opacity=.92, at=(c, c))
+    return drawing
+
+
+def dust(stone):
+    """What a stone becomes: grains of its own colours, denser in the middle."""
+    size = .12 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    chance = random.Random(['Yellow', 'Red', 'Green', 'Blue'].index(stone) + 31)
+    colours = (CHIP[stone]['light'], CHIP[stone]['face'], CHIP[stone]['deep'])
+    for i in range(44):
+        angle, distance = chance.random() * 2 * math.pi, chance.random() ** .7 * size * .46
+        drawing.circle(size / 2 + distance * math.sin(angle), size / 2 + distance * math.cos(angle),
+                       2.2 + chance.random() * 5.2, fill=colours[i % 3], opacity=.55 + .4 * chance.random())
+    return drawing
+
+
+def pictures():
+    """Name -> a function that returns the Drawing."""
+    known = {
+        'RowLight': row_light, 'RowFlash': row_flash, 'Ring': ring, 'Halo': halo, 'Shine': shine, 'LimitEdge': limit_edge,
+        'LimitRing': limit_ring, 'LimitRow': limit_row, 'BrassPlate': brass_plate, 'LineGlow': line_glow,
+        'Spark': spark,
+    }
+    for turn, name in enumerate(('Up', 'Right', 'Down', 'Left')):
+        known['TipNose' + name] = lambda turn=turn: tip_nose(turn)
+    for width in TIP_WIDTHS:
+        for lines in TIP_HEIGHTS:
+            known['TipPlate-%d-%d' % (width, lines)] = lambda width=width, lines=lines: tip_plate(width, lines)
+    for width in WHISPER_WIDTHS:
+        known['WhisperPlate-%d' % width] = lambda width=width: whisper_plate(width)
+    for width in HEADING_WIDTHS:
+        known['HeadingPlate-%d' % width] = lambda width=width: heading_plate(width)
+    for stone in ('Yellow', 'Red', 'Green', 'Blue'):
+        known[stone + 'Dust'] = lambda stone=stone: dust(stone)
+    return known

@@ -1,0 +1,460 @@
+#include "controller/Answers.h"
+
+#include "controller/GameController.h"
+#include "controller/Legality.h"
+#include "input/BoardKeys.h"
+#include "present/ExtraPictures.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace veyrand::controller {
+
+using input::Cursor;
+using play::Reason;
+using present::Extra;
+using present::ExtraRect;
+
+namespace {
+
+constexpr int kMissesUntilAdvice = 2;
+constexpr int kLostUntilAdvice = 3;
+constexpr double kBlockThatShows = 1.0; // s; a shorter one changes no cursor
+
+// Texts have no layer of a record under the pointer, only their letters.
+constexpr std::array<std::string_view, 3> kCounters { "counter-score", "counter-stage",
+    "counter-par" };
+
+bool isTooFar(Reason reason)
+{
+    return reason == Reason::TooLong;
+}
+
+bool isTooMany(Reason reason)
+{
+    return reason == Reason::BoardFull || reason == Reason::LastMustBeGoal
+        || reason == Reason::NoDragNow;
+}
+
+} // namespace
+
+Answers::Answers(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+    , m_tips(controller)
+{
+    settingsChanged();
+    m_game.view.setOnlooker(this);
+    m_game.view.setHabits([this] {
+        return input::GameView::Habits { .rememberPress = m_settings.rememberPress,
+            .forgivingClicks = m_settings.forgivingClicks };
+    });
+    m_game.layers.extras().setDirector([this] { direct(); });
+}
+
+Answers::~Answers()
+{
+    m_game.view.setOnlooker(nullptr);
+    m_game.view.setHabits({});
+    m_game.layers.extras().setDirector({});
+}
+
+void Answers::settingsChanged()
+{
+    m_settings = progress::readSettings(m_game.preferences);
+    m_game.layers.extras().setTaste(
+        m_settings.reducedMotion == progress::Settings::ReducedMotion::On
+            ? present::MotionTaste::Reduced
+            : present::MotionTaste::Full);
+    if (!m_settings.answers) {
+        m_game.layers.extras().clear();
+    }
+    m_game.layers.scene().setNeedsDisplay();
+}
+
+void Answers::puzzleLaidOut()
+{
+    m_clicksMissed = 0;
+    m_pressesLost = 0;
+    m_whisper.clear();
+    direct();
+}
+
+// --- What stands
+
+Answers::Situation Answers::situation() const
+{
+    Situation now;
+    now.isOn = m_settings.answers;
+    now.whisper = m_whisper;
+    if (!now.isOn) {
+        return now;
+    }
+    if (const auto& proof = m_controller.proof(); proof && !proof->lines().empty()) {
+        for (const engine::Theorem& line : proof->lines()) {
+            now.lines.push_back(line.theorem());
+        }
+        now.inPlay = !proof->checkSolved();
+    }
+    if (!m_controller.hasMessageWindow()) {
+        now.thing = thingUnderPointer();
+        now.held = m_game.view.keyHeld();
+        now.dragged = m_game.view.keyDragged();
+        now.tipIsDue = m_tipIsDue && now.thing == m_restingOn && now.dragged.empty();
+    }
+    const progress::CurrentGame& game = m_game.currentGame;
+    now.points = game.endlessGame() ? game.endlessScore() : game.score();
+    now.par = game.par();
+    return now;
+}
+
+void Answers::direct()
+{
+    Situation now = situation();
+    if (now == m_shown) {
+        return;
+    }
+    m_shown = std::move(now);
+    std::vector<Extra> wanted;
+    if (m_shown.isOn) {
+        addRows(wanted);
+        addHands(wanted);
+    }
+    addWords(wanted);
+    m_game.layers.extras().want(std::move(wanted));
+}
+
+void Answers::addRows(std::vector<Extra>& wanted) const
+{
+    if (!m_shown.inPlay) {
+        return;
+    }
+    std::vector<unsigned> lengths;
+    for (const std::string& line : m_shown.lines) {
+        lengths.push_back(static_cast<unsigned>(line.size()));
+    }
+    auto last = static_cast<unsigned>(lengths.size() - 1);
+    double share = 1.0;
+    if (const std::string doomer = doomedBy(m_shown.thing); !doomer.empty()) {
+        const unsigned first = input::rowForDeleteButton(doomer);
+        wanted.push_back(present::doomedRows(lengths, first));
+        last = first - 1;
+        share = present::extras::kLeftLight;
+    }
+    wanted.push_back(present::rowInPlay(last, share));
+    for (unsigned row = 0; row < last; ++row) {
+        wanted.push_back(present::restingRow(row, lengths[row]));
+    }
+}
+
+void Answers::addHands(std::vector<Extra>& wanted) const
+{
+    if (!m_shown.dragged.empty()) {
+        const unsigned row = input::rowForKey(m_shown.dragged);
+        const unsigned column = input::columnForKey(m_shown.dragged);
+        for (const unsigned target : dropsThatAreMoves(m_controller, row, column)) {
+            wanted.push_back(present::targetRing(target, row));
+        }
+        return;
+    }
+    if (input::isChipKey(m_shown.held)) {
+        if (const auto place = placeOf(m_shown.held)) {
+            wanted.push_back(present::heldDown(m_shown.held, *place));
+        }
+    }
+    const auto place = placeOf(m_shown.thing);
+    if (!place || !m_shown.inPlay) {
+        return;
+    }
+    const bool isStone = input::isChipKey(m_shown.thing);
+    if (isStone || input::isDeleteKey(m_shown.thing)) {
+        const Cursor hand = cursor();
+        if (hand == Cursor::Pointing || hand == Cursor::Open) {
+            wanted.push_back(present::lightUnder(m_shown.thing, *place));
+        }
+    }
+}
+
+void Answers::addWords(std::vector<Extra>& wanted) const
+{
+    if (!m_shown.whisper.empty()) {
+        wanted.push_back(present::whisper(m_shown.whisper, m_game.layers.textMetrics()));
+    }
+    const auto place = placeOf(m_shown.thing);
+    if (!m_shown.isOn || !m_shown.tipIsDue || !place) {
+        return;
+    }
+    std::string text = m_tips.textFor(m_shown.thing);
+    if (m_advised == m_shown.thing) {
+        text = m_advice;
+    }
+    if (!text.empty()) {
+        wanted.push_back(present::tipFor(m_shown.thing, *place, text, m_game.layers.textMetrics()));
+    }
+}
+
+// --- What the pointer is over
+
+std::string Answers::thingUnderPointer() const
+{
+    std::string key = m_game.view.keyUnderPointer();
+    if (!key.empty()) {
+        return key;
+    }
+    const auto pointer = m_game.view.pointerPlace();
+    for (const std::string_view counter : kCounters) {
+        const auto* const layer = m_game.layers.layerForKey(counter);
+        const auto* const text
+            = pointer && layer != nullptr ? present::BoardLayers::textOn(*layer) : nullptr;
+        if (text != nullptr && text->rectInRoot().contains(*pointer)) {
+            return std::string(counter);
+        }
+    }
+    return {};
+}
+
+// The delete button whose click would take rows away, if that is what the thing is.
+std::string Answers::doomedBy(const std::string& thing) const
+{
+    if (!input::isDeleteKey(thing)) {
+        return {};
+    }
+    const unsigned row = input::rowForDeleteButton(thing);
+    return row > 0 && row < m_shown.lines.size() ? thing : std::string();
+}
+
+std::optional<ExtraRect> Answers::placeOf(const std::string& key) const
+{
+    const auto record = m_game.board.gameData.gameObjects().objectForKey(key);
+    if (!record) {
+        return std::nullopt;
+    }
+    ExtraRect place {
+        .x = record->x(), .y = record->y(), .width = record->width(), .height = record->height()
+    };
+    const auto* const layer = m_game.layers.layerForKey(key);
+    const auto* const text = layer != nullptr ? present::BoardLayers::textOn(*layer) : nullptr;
+    if (text != nullptr && place.width <= 0.0) {
+        place.width
+            = static_cast<double>(text->bounds().width) / m_game.board.gameData.gameHeight();
+        place.height = text->fontSize() / 900.0;
+    }
+    return place;
+}
+
+Cursor Answers::cursor() const
+{
+    const input::InputBlock& block = m_game.view.block();
+    if (!m_settings.answers || m_controller.hasMessageWindow()
+        || (block.blockClick() && block.length() >= kBlockThatShows)) {
+        return Cursor::Arrow;
+    }
+    if (!m_game.view.keyDragged().empty()) {
+        return Cursor::Closed;
+    }
+    const std::string key = m_game.view.keyUnderPointer();
+    if (input::Hover::isLitFace(key)) {
+        // A note's pictures share the keys of a dialogue's buttons.
+        const bool answers = m_controller.dialogueState() != 0 || key.starts_with("button");
+        return answers ? Cursor::Pointing : Cursor::Arrow;
+    }
+    if (input::isDeleteKey(key)) {
+        return Cursor::Pointing;
+    }
+    if (!input::isChipKey(key)) {
+        return Cursor::Arrow;
+    }
+    const unsigned row = input::rowForKey(key);
+    const unsigned column = input::columnForKey(key);
+    if (!whyNoClick(m_controller, row, column)) {
+        return Cursor::Pointing;
+    }
+    return dropsThatAreMoves(m_controller, row, column).empty() ? Cursor::Arrow : Cursor::Open;
+}
+
+std::string Answers::tip()
+{
+    for (const auto& shown : m_game.layers.extras().shown()) {
+        if (shown.kind == present::ExtraKind::Tip) {
+            return shown.text;
+        }
+    }
+    return {};
+}
+
+std::string Answers::whisper()
+{
+    return m_whisper;
+}
+
+// --- What happens
+
+void Answers::pointerMoved()
+{
+    if (!m_settings.answers) {
+        return;
+    }
+    const std::string thing = thingUnderPointer();
+    if (thing != m_restingOn) {
+        m_restingOn = thing;
+        m_advised.clear();
+        restHere();
+    }
+    handsChanged();
+}
+
+// Asked before every picture anyway; but what comes shall begin to come now, and not with whatever
+// picture happens to be next.
+void Answers::handsChanged()
+{
+    direct();
+}
+
+// A tip comes when the pointer has rested on one thing, and goes with the next press.
+void Answers::restHere()
+{
+    m_tipIsDue = false;
+    const unsigned rest = ++m_rests;
+    if (m_restingOn.empty()) {
+        return;
+    }
+    m_game.runLoop.performAfterDelay(present::extras::kTipAfter, [this, rest] {
+        if (rest == m_rests) {
+            m_tipIsDue = true;
+            handsChanged();
+        }
+    });
+}
+
+void Answers::pressBegins()
+{
+    ++m_rests;
+    m_tipIsDue = false;
+    m_advised.clear();
+    present::Extras& extras = m_game.layers.extras();
+    for (const auto kind :
+        { present::ExtraKind::Shake, present::ExtraKind::Limit, present::ExtraKind::Light }) {
+        extras.end(kind);
+    }
+    direct();
+}
+
+void Answers::refused(const play::Gesture& gesture, const play::Refusal& why)
+{
+    if (const auto* const click = std::get_if<play::Click>(&gesture)) {
+        refusedAt(click->row, click->column, why);
+    } else if (const auto* const drag = std::get_if<play::Drag>(&gesture)) {
+        refusedAt(drag->fromRow, drag->from, why);
+    }
+}
+
+void Answers::refusedAt(unsigned row, unsigned column, const play::Refusal& why)
+{
+    say(why);
+    if (!m_settings.answers) {
+        return;
+    }
+    if (why.reason == Reason::NotLastLine && m_controller.lineCount() > 0) {
+        m_game.layers.extras().start(present::lastLineShown(m_controller.lineCount() - 1));
+    }
+    if (isTooFar(why.reason)) {
+        pulse(present::limitOfLine(row));
+    } else if (isTooMany(why.reason)) {
+        pulse(present::limitOfBoard());
+    }
+    shake(board::generateKeyChipKey(column, row));
+    restHere(); // whoever stays is told why
+}
+
+void Answers::pressLost(const std::string& key)
+{
+    if (!m_settings.answers || !input::isChipKey(key)) {
+        return;
+    }
+    if (const auto place = placeOf(key)) {
+        m_game.layers.extras().start(present::blink(key, *place));
+    }
+    if (++m_pressesLost >= kLostUntilAdvice && !m_settings.rememberPress) {
+        m_pressesLost = 0;
+        showTipAtOnce(key, "Options > Remember a Press plays it when the board is ready.");
+    }
+}
+
+void Answers::dragRefused(const std::string& key)
+{
+    const unsigned row = input::rowForKey(key);
+    const bool isLast = row + 1 == m_controller.lineCount();
+    refusedAt(row, input::columnForKey(key),
+        { .reason = isLast ? Reason::NoDragNow : Reason::NotLastLine });
+}
+
+void Answers::dropMissed(const std::string& from, const std::string& to)
+{
+    if (!input::isChipKey(from)) {
+        return;
+    }
+    // Dropped on a stone of its line it was refused, and answered, as a gesture.
+    const bool onStone = input::isChipKey(to);
+    if (!onStone) {
+        say({ .reason = Reason::NoChip });
+    } else if (input::rowForKey(from) != input::rowForKey(to)) {
+        say({ .reason = Reason::OtherRow });
+    }
+}
+
+void Answers::clickMissed(const std::string& key)
+{
+    say({ .reason = Reason::SameChip });
+    if (!m_settings.answers || !input::isChipKey(key)) {
+        return;
+    }
+    if (++m_clicksMissed >= kMissesUntilAdvice) {
+        m_clicksMissed = 0;
+        showTipAtOnce(key, "Options > Forgiving Clicks takes this for a click.");
+    }
+}
+
+void Answers::shake(const std::string& key)
+{
+    if (const auto place = placeOf(key)) {
+        m_game.layers.extras().start(present::shakenHead(key, *place));
+    }
+}
+
+// However often it is met, a limit lights up no more than the eye can bear.
+void Answers::pulse(const Extra& limit)
+{
+    const double now = m_game.runLoop.now();
+    if (m_lastPulse < 0.0 || now - m_lastPulse >= present::extras::kLimitAgain) {
+        m_lastPulse = now;
+        m_game.layers.extras().start(limit);
+    }
+}
+
+void Answers::say(const play::Refusal& why)
+{
+    const std::string words = play::wordsFor(why);
+    if (!m_settings.sayWhy || words.empty()) {
+        return;
+    }
+    m_whisper = words;
+    handsChanged();
+    m_game.runLoop.performAfterDelay(present::extras::kWhisper, [this, number = ++m_whispers] {
+        if (number == m_whispers) {
+            m_whisper.clear();
+            handsChanged();
+        }
+    });
+}
+
+void Answers::showTipAtOnce(const std::string& key, std::string advice)
+{
+    m_restingOn = key;
+    m_advised = key;
+    m_advice = std::move(advice);
+    m_tipIsDue = true;
+    handsChanged();
+}
+
+} // namespace veyrand::controller

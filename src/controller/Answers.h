@@ -1,0 +1,91 @@
+#pragma once
+
+#include "controller/GameContext.h"
+#include "controller/Tips.h"
+#include "input/Cursor.h"
+#include "input/Onlooker.h"
+#include "play/Gesture.h"
+#include "play/Refusal.h"
+#include "progress/Settings.h"
+
+namespace veyrand::controller {
+
+class GameController;
+
+// Answers every touch for the eye: shows what can be done, shakes its head at what cannot, and says
+// why in tips and whispers. It looks at the game and the pointer and tells the view's extras what
+// is wanted; the game never hears of it, and with Answers switched off nothing of it is left.
+class Answers final : public input::Onlooker {
+public:
+    explicit Answers(GameController& controller);
+    Answers(const Answers&) = delete;
+    Answers& operator=(const Answers&) = delete;
+    ~Answers() override;
+
+    // The player has chosen something else.
+    void settingsChanged();
+    // Another puzzle lies on the board.
+    void puzzleLaidOut();
+    void refused(const play::Gesture& gesture, const play::Refusal& why);
+
+    [[nodiscard]] input::Cursor cursor() const;
+    [[nodiscard]] std::string tip(); // the text on show, or none
+    [[nodiscard]] std::string whisper();
+
+    void pointerMoved() override;
+    void pressBegins() override;
+    void handsChanged() override;
+    void pressLost(const std::string& key) override;
+    void dragRefused(const std::string& key) override;
+    void dropMissed(const std::string& from, const std::string& to) override;
+    void clickMissed(const std::string& key) override;
+
+private:
+    // What everything that stands follows from. While it is the same, so is the picture.
+    struct Situation {
+        std::vector<std::string> lines;
+        std::string thing; // under the pointer
+        std::string held;
+        std::string dragged;
+        std::string whisper;
+        std::int64_t points = 0;
+        int par = 0;
+        bool tipIsDue = false;
+        bool inPlay = false;
+        bool isOn = true;
+        friend bool operator==(const Situation&, const Situation&) = default;
+    };
+
+    [[nodiscard]] Situation situation() const;
+    void direct();
+    void addRows(std::vector<present::Extra>& wanted) const;
+    void addHands(std::vector<present::Extra>& wanted) const;
+    void addWords(std::vector<present::Extra>& wanted) const;
+    [[nodiscard]] std::string thingUnderPointer() const;
+    [[nodiscard]] std::string doomedBy(const std::string& thing) const;
+    [[nodiscard]] std::optional<present::ExtraRect> placeOf(const std::string& key) const;
+    void refusedAt(unsigned row, unsigned column, const play::Refusal& why);
+    void shake(const std::string& key);
+    void pulse(const present::Extra& limit);
+    void say(const play::Refusal& why);
+    void showTipAtOnce(const std::string& key, std::string advice);
+    void restHere();
+
+    GameController& m_controller;
+    GameContext& m_game;
+    Tips m_tips;
+    progress::Settings m_settings;
+    Situation m_shown {};
+    std::string m_whisper;
+    std::string m_advice; // what the next tip of m_advised also says
+    std::string m_advised;
+    std::string m_restingOn;
+    unsigned m_rests = 0; // counts them, so that a late call knows its own
+    unsigned m_whispers = 0;
+    int m_clicksMissed = 0; // in this puzzle
+    int m_pressesLost = 0;
+    double m_lastPulse = -1.0;
+    bool m_tipIsDue = false;
+};
+
+} // namespace veyrand::controller

@@ -1,0 +1,209 @@
+#include "present/ExtraWords.h"
+
+#include "present/ExtraPictures.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <sstream>
+
+namespace veyrand::present {
+
+using namespace extras;
+
+namespace {
+
+// Plates are drawn in steps of width, so that their corners keep their shape. Thousandths of the
+// game's height.
+constexpr int kTipNarrowest = 180;
+constexpr int kTipWidest = 660;
+constexpr int kTipStep = 60;
+constexpr int kWhisperNarrowest = 240;
+constexpr int kWhisperWidest = 560;
+constexpr int kWhisperStep = 40;
+constexpr std::array kTipHeights { 56, 92, 128 };
+
+constexpr double kShadowRoom = 0.010; // round every plate
+constexpr double kTipEm = 0.028;
+constexpr double kTipPitch = 0.036;
+constexpr double kTipPadding = 0.044; // of both sides together
+constexpr double kTipGap = 0.016; // from the thing to the plate; the nose lies there
+constexpr double kNoseLength = 0.020;
+constexpr double kNoseWidth = 0.030;
+constexpr double kBoardMargin = 0.012;
+
+constexpr double kWhisperX = 0.3;
+constexpr double kWhisperY = 0.044;
+constexpr double kWhisperHeight = 0.05;
+constexpr double kWhisperEm = 0.031;
+constexpr double kWhisperSmallest = 0.024;
+constexpr double kWhisperPadding = 0.05;
+
+constexpr board::Color kTipInk { .red = 0.20, .green = 0.125, .blue = 0.06, .alpha = 1.0 };
+constexpr board::Color kWhisperInk { .red = 1.0, .green = 0.953, .blue = 0.84, .alpha = 1.0 };
+
+int stepFor(double width, int narrowest, int widest, int step)
+{
+    const int thousandths = static_cast<int>(std::ceil(width * 1000.0));
+    const int steps = std::max(0, (thousandths - narrowest + step - 1) / step);
+    return std::min(narrowest + steps * step, widest);
+}
+
+ExtraPiece line(const std::string& text, double x, double y, double em, const board::Color& color,
+    const platform::TextMetrics& metrics)
+{
+    const platform::Size size = metrics.preferredFrameSize(text);
+    return { .content = TextContent { text, color },
+        .rect = { .x = x, .y = y, .width = size.width * em, .height = size.height * em } };
+}
+
+ExtraPiece plate(const std::string& name, const ExtraRect& body)
+{
+    return { .content = ImageContent { name },
+        .rect = { .x = body.x,
+            .y = body.y,
+            .width = body.width + 2.0 * kShadowRoom,
+            .height = body.height + 2.0 * kShadowRoom } };
+}
+
+enum class Side { Right, Left, Above, Below };
+
+// Things of the panel and the title page are explained to their right, stones below or above them:
+// beside a stone lie others.
+Side sideFor(const ExtraRect& thing, double width)
+{
+    if (thing.x < 0.62) {
+        return Side::Right;
+    }
+    if (thing.height > 0.09) {
+        return thing.x - thing.width / 2.0 - kTipGap - width > kBoardMargin ? Side::Left
+                                                                            : Side::Below;
+    }
+    return thing.y > 0.5 ? Side::Below : Side::Above;
+}
+
+struct Layout {
+    ExtraRect body;
+    ExtraPiece nose;
+};
+
+Layout layOut(const ExtraRect& thing, double width, double height)
+{
+    const Side side = sideFor(thing, width);
+    const bool beside = side == Side::Right || side == Side::Left;
+    const double away = kTipGap + (beside ? thing.width + width : thing.height + height) / 2.0;
+    const double sign = side == Side::Right || side == Side::Above ? 1.0 : -1.0;
+    const auto inside = [](double centre, double length, double end) {
+        return std::clamp(centre, kBoardMargin + length / 2.0, end - kBoardMargin - length / 2.0);
+    };
+    Layout layout { .body = { .x = inside(thing.x + (beside ? sign * away : 0.0), width, 1.6),
+                        .y = inside(thing.y + (beside ? 0.0 : sign * away), height, 1.0),
+                        .width = width,
+                        .height = height },
+        .nose = {} };
+    const char* const name = side == Side::Right ? "TipNoseLeft"
+        : side == Side::Left                     ? "TipNoseRight"
+        : side == Side::Above                    ? "TipNoseDown"
+                                                 : "TipNoseUp";
+    const double toNose = (beside ? width : height) / 2.0 + kNoseLength / 2.0 - 0.0045;
+    layout.nose = { .content = ImageContent { name },
+        .rect = { .x = beside ? layout.body.x - sign * toNose : thing.x,
+            .y = beside ? thing.y : layout.body.y - sign * toNose,
+            .width = beside ? kNoseLength : kNoseWidth,
+            .height = beside ? kNoseWidth : kNoseLength } };
+    return layout;
+}
+
+} // namespace
+
+std::vector<std::string> broken(
+    const std::string& text, double width, const platform::TextMetrics& metrics)
+{
+    const auto lengthOf
+        = [&metrics](const std::string& words) { return metrics.preferredFrameSize(words).width; };
+    const double whole = lengthOf(text);
+    const double count = std::max(1.0, std::ceil(whole / width));
+    // A little longer than an equal share, so that the last line is not the longest.
+    const double share = count > 1.0 ? std::min(width, whole / count * 1.12) : width;
+    std::vector<std::string> lines;
+    std::istringstream words(text);
+    std::string word;
+    while (words >> word) {
+        if (!lines.empty() && lengthOf(lines.back() + ' ' + word) <= share) {
+            lines.back() += ' ' + word;
+        } else {
+            lines.push_back(word);
+        }
+    }
+    return lines;
+}
+
+Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& text,
+    const platform::TextMetrics& metrics)
+{
+    constexpr double kLongestLine = 0.42;
+    std::vector<std::string> lines = broken(text, kLongestLine / kTipEm, metrics);
+    if (lines.size() > kTipHeights.size()) {
+        lines = broken(text, (kTipWidest / 1000.0 - kTipPadding) / kTipEm, metrics);
+    }
+    lines.resize(std::min(lines.size(), kTipHeights.size()));
+    double longest = 0.0;
+    for (const std::string& words : lines) {
+        longest = std::max(longest, metrics.preferredFrameSize(words).width * kTipEm);
+    }
+    const int width = stepFor(longest + kTipPadding, kTipNarrowest, kTipWidest, kTipStep);
+    const Layout layout = layOut(thing, width / 1000.0, kTipHeights.at(lines.size() - 1) / 1000.0);
+    Extra extra { .kind = ExtraKind::Tip,
+        .key = key,
+        .text = text,
+        .rect = layout.body,
+        .band = ExtraBand::OverMessages,
+        .slot = "tip " + key,
+        .fade = kTipFade };
+    extra.pieces.push_back(plate(
+        "TipPlate-" + std::to_string(width) + '-' + std::to_string(lines.size()), layout.body));
+    extra.pieces.push_back(layout.nose);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const double fromMiddle
+            = (static_cast<double>(lines.size()) - 1.0) / 2.0 - static_cast<double>(i);
+        extra.pieces.push_back(line(lines[i], layout.body.x, layout.body.y + fromMiddle * kTipPitch,
+            kTipEm, kTipInk, metrics));
+    }
+    return extra;
+}
+
+Extra whisper(const std::string& text, const platform::TextMetrics& metrics)
+{
+    const double ems = metrics.preferredFrameSize(text).width;
+    constexpr double kRoom = kWhisperWidest / 1000.0 - kWhisperPadding;
+    const double em = std::clamp(kRoom / std::max(ems, 1.0), kWhisperSmallest, kWhisperEm);
+    const int width
+        = stepFor(ems * em + kWhisperPadding, kWhisperNarrowest, kWhisperWidest, kWhisperStep);
+    const ExtraRect body {
+        .x = kWhisperX, .y = kWhisperY, .width = width / 1000.0, .height = kWhisperHeight
+    };
+    return { .kind = ExtraKind::Whisper,
+        .key = "whisper",
+        .text = text,
+        .rect = body,
+        .pieces = { plate("WhisperPlate-" + std::to_string(width), body),
+            line(text, kWhisperX, kWhisperY, em, kWhisperInk, metrics) },
+        .slot = "whisper",
+        .fade = kWhisperFade };
+}
+
+std::vector<std::string> wordPictureNames()
+{
+    std::vector<std::string> names { "TipNoseUp", "TipNoseRight", "TipNoseDown", "TipNoseLeft" };
+    for (int width = kTipNarrowest; width <= kTipWidest; width += kTipStep) {
+        for (std::size_t lines = 1; lines <= kTipHeights.size(); ++lines) {
+            names.push_back("TipPlate-" + std::to_string(width) + '-' + std::to_string(lines));
+        }
+    }
+    for (int width = kWhisperNarrowest; width <= kWhisperWidest; width += kWhisperStep) {
+        names.push_back("WhisperPlate-" + std::to_string(width));
+    }
+    return names;
+}
+
+} // namespace veyrand::present

@@ -1,0 +1,196 @@
+#include "present/Extras.h"
+
+#include "platform/fakes/VirtualRunLoop.h"
+#include "present/BoardLayers.h"
+#include "present/ExtraPictures.h"
+#include "support/BoardFakes.h"
+
+#include <gmock/gmock.h>
+
+namespace veyrand::present {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace {
+
+constexpr double kChip = 0.075;
+
+// A board of 1440 x 900 points with one stone on it.
+class ExtrasTest : public ::testing::Test {
+protected:
+    ExtrasTest()
+    {
+        m_layers.fitTo({ .width = 1440, .height = 900 });
+        add("chip-0-0", 0.72, 0.95);
+    }
+
+    void add(const std::string& key, double x, double y)
+    {
+        m_gameData.gameObjects().addGameObject(
+            std::make_shared<board::GameObject>("RedChip", x, y, kChip, kChip, 1.0, true), key);
+    }
+    [[nodiscard]] std::vector<std::string> pictures()
+    {
+        std::vector<std::string> names;
+        for (const DisplayItem& item : m_layers.displayList()) {
+            if (const auto* const image = std::get_if<ImageContent>(&item.content)) {
+                names.push_back(image->name);
+            }
+        }
+        return names;
+    }
+    [[nodiscard]] DisplayItem itemOf(const std::string& picture)
+    {
+        for (DisplayItem& item : m_layers.displayList()) {
+            if (item.content == Content(ImageContent { picture })) {
+                return item;
+            }
+        }
+        ADD_FAILURE() << picture << " is not shown";
+        return {};
+    }
+    Extras& extras() { return m_layers.extras(); }
+    BoardLayers& layers() { return m_layers; }
+    void wait(double seconds) { m_runLoop.advance(seconds); }
+    static ExtraRect stone() { return placeOfChip(0, 0); }
+
+private:
+    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
+    test::SquareLetters m_metrics;
+    platform::VirtualRunLoop m_runLoop;
+    board::GameData m_gameData { m_screen };
+    Scene m_scene { m_runLoop };
+    BoardLayers m_layers { m_scene, m_gameData, m_metrics };
+};
+
+} // namespace
+
+TEST_F(ExtrasTest, WhatIsWantedComesAndWhatIsNotGoesSoftly)
+{
+    extras().want({ targetRing(0, 0) });
+    ASSERT_THAT(extras().shown(), SizeIs(1));
+    EXPECT_EQ(extras().shown().front().kind, ExtraKind::Ring);
+    EXPECT_EQ(extras().shown().front().key, "chip-0-0");
+    wait(0.06);
+    const double half = extras().shown().front().opacity;
+    EXPECT_GT(half, 0.0);
+    EXPECT_LT(half, 1.0);
+    wait(0.06);
+    EXPECT_EQ(extras().shown().front().opacity, 1.0);
+
+    extras().want({});
+    EXPECT_THAT(extras().shown(), IsEmpty()) << "what is on its way out is no more";
+    EXPECT_THAT(pictures(), ElementsAre("WoodBackground", "RedChip", "Ring")) << "but is seen";
+    wait(0.12);
+    EXPECT_THAT(pictures(), ElementsAre("WoodBackground", "RedChip"));
+}
+
+TEST_F(ExtrasTest, LightLiesOnTheWoodRingsBeforeTheStonesAndBothBehindMessages)
+{
+    add("fullScreen", 0.8, 0.5);
+    extras().want({ targetRing(0, 0), rowInPlay(0) });
+    EXPECT_THAT(
+        pictures(), ElementsAre("WoodBackground", "RowLight", "RedChip", "Ring", "RedChip"));
+}
+
+TEST_F(ExtrasTest, NothingOfItIsEverUnderThePointer)
+{
+    const platform::PointF place { .x = 0.72F * 900.0F, .y = 0.95F * 900.0F };
+    const Layer* const before = layers().contentLayer().hitTest(place);
+    extras().want({ targetRing(0, 0), lightUnder("chip-0-0", stone()) });
+    EXPECT_EQ(layers().contentLayer().hitTest(place), before);
+}
+
+TEST_F(ExtrasTest, AShakenHeadStaysWithinASixthOfTheStoneAndComesToRest)
+{
+    const float home = itemOf("RedChip").rect.x;
+    extras().start(shakenHead("chip-0-0", stone()));
+    float left = 0.0F;
+    float right = 0.0F;
+    int turns = 0;
+    float last = 0.0F;
+    for (int frame = 0; frame < 30; ++frame) {
+        wait(0.01);
+        const float away = itemOf("RedChip").rect.x - home;
+        turns += away * last < 0.0F ? 1 : 0;
+        last = away != 0.0F ? away : last;
+        left = std::min(left, away);
+        right = std::max(right, away);
+    }
+    EXPECT_EQ(turns, 2) << "three swings";
+    EXPECT_LT(left, -0.008F * 900.0F);
+    EXPECT_GT(right, 0.006F * 900.0F);
+    EXPECT_LE(std::max(right, -left), 0.075F * 900.0F / 6.0F);
+    EXPECT_EQ(itemOf("RedChip").rect.x, home);
+    EXPECT_THAT(extras().shown(), IsEmpty());
+}
+
+TEST_F(ExtrasTest, WhereMotionIsReducedLightTellsInstead)
+{
+    extras().setTaste(MotionTaste::Reduced);
+    const DisplayItem before = itemOf("RedChip");
+    extras().start(shakenHead("chip-0-0", stone()));
+    wait(0.05);
+    const DisplayItem shaken = itemOf("RedChip");
+    EXPECT_EQ(shaken.rect, before.rect);
+    EXPECT_GT(shaken.glow, 0.0F);
+
+    extras().want({ rowInPlay(0) });
+    wait(1.0);
+    const float y = itemOf("RowLight").rect.y;
+    extras().want({ rowInPlay(1) });
+    EXPECT_FLOAT_EQ(itemOf("RowLight").rect.y, y - 0.075F * 900.0F) << "at once";
+}
+
+TEST_F(ExtrasTest, TheLightOfTheRowGoesTheWayToTheNext)
+{
+    extras().want({ rowInPlay(0) });
+    wait(1.0);
+    const float y = itemOf("RowLight").rect.y;
+    extras().want({ rowInPlay(1) });
+    EXPECT_FLOAT_EQ(itemOf("RowLight").rect.y, y);
+    wait(0.08);
+    EXPECT_LT(itemOf("RowLight").rect.y, y);
+    EXPECT_GT(itemOf("RowLight").rect.y, y - 0.075F * 900.0F);
+    wait(0.08);
+    EXPECT_FLOAT_EQ(itemOf("RowLight").rect.y, y - 0.075F * 900.0F);
+}
+
+TEST_F(ExtrasTest, ALimitLightsUpTwiceAndNoFasterThanTheEyeCanBear)
+{
+    extras().start(limitOfLine(0));
+    int crests = 0;
+    double before = 0.0;
+    double last = 0.0;
+    for (int frame = 0; frame < 45; ++frame) {
+        wait(0.01);
+        const auto shown = extras().shown();
+        const double now = shown.empty() ? 0.0 : shown.front().opacity;
+        crests += last > before && last > now ? 1 : 0;
+        before = last;
+        last = now;
+    }
+    EXPECT_EQ(crests, 2);
+    EXPECT_THAT(extras().shown(), IsEmpty());
+}
+
+TEST_F(ExtrasTest, ATipLiesBesideWhatItExplainsAndOnTheBoard)
+{
+    const test::SquareLetters metrics;
+    for (const auto& thing : { placeOfChip(0, 0), placeOfChip(11, 3), placeOfChip(5, 11),
+             ExtraRect { .x = 0.3, .y = 0.4, .width = 0.05, .height = 0.06 },
+             ExtraRect { .x = 1.4, .y = 0.5, .width = 0.15, .height = 0.15 } }) {
+        const Extra tip = tipFor("thing", thing, "10 less for every move more", metrics);
+        const bool apart = std::abs(tip.rect.x - thing.x) >= (tip.rect.width + thing.width) / 2.0
+            || std::abs(tip.rect.y - thing.y) >= (tip.rect.height + thing.height) / 2.0;
+        EXPECT_TRUE(apart) << thing.x << ' ' << thing.y;
+        EXPECT_GT(tip.rect.x - tip.rect.width / 2.0, 0.0);
+        EXPECT_LT(tip.rect.x + tip.rect.width / 2.0, 1.6);
+        EXPECT_GT(tip.rect.y - tip.rect.height / 2.0, 0.0);
+        EXPECT_LT(tip.rect.y + tip.rect.height / 2.0, 1.0);
+    }
+}
+
+} // namespace veyrand::present
