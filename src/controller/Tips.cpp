@@ -2,9 +2,9 @@
 
 #include "controller/GameController.h"
 #include "controller/Legality.h"
-#include "controller/Scoring.h"
 #include "input/BoardKeys.h"
 #include "play/Move.h"
+#include "play/Scoring.h"
 #include "progress/PlayerRecord.h"
 
 namespace veyrand::controller {
@@ -137,7 +137,7 @@ std::string Tips::forPoints() const
 {
     const progress::CurrentGame& game = m_game.currentGame;
     const std::string most = std::to_string(
-        pointsForSolving(game.endlessGame(), game.par(), static_cast<unsigned>(game.par())));
+        play::pointsForSolving(game.endlessGame(), game.par(), static_cast<unsigned>(game.par())));
     return most + (game.endlessGame() ? " at par" : " for a solution at par")
         + ", 10 less for every move more";
 }
