@@ -140,7 +140,7 @@ void VirtualGame::key(const QString& sequence)
 {
     const QKeySequence keys(sequence);
     for (QAction* const action : m_menu.actions()) {
-        if (action->shortcut() == keys) {
+        if (action->shortcuts().contains(keys)) {
             action->trigger(); // as the desktop does before the widget hears of it
             return;
         }

@@ -60,8 +60,11 @@ Chips LineDrawing::introduceNewTheorem(const std::string& line, unsigned row, fl
     // down shows as a slide from the line above.
     setRow(row - 1, chips);
     setRow(row, chips);
-    m_runLoop.performAfterDelay(
-        static_cast<double>(delay), [this, row] { createDeleteButton(row); });
+    m_runLoop.performAfterDelay(static_cast<double>(delay), [this, row, begun = m_abandoned] {
+        if (begun == m_abandoned) {
+            createDeleteButton(row);
+        }
+    });
     return chips;
 }
 
@@ -115,6 +118,12 @@ void LineDrawing::settleRow(const std::string& line, unsigned row)
 
 void LineDrawing::redrawRow(const std::string& line, unsigned row)
 {
+    clearRow(row);
+    createChipsForTheorem(line, row);
+}
+
+void LineDrawing::clearRow(unsigned row)
+{
     const std::string_view prefix = "chip-";
     const std::string suffix = '-' + std::to_string(row);
     for (const std::string& key : m_gameData.gameObjects().keys()) {
@@ -123,7 +132,6 @@ void LineDrawing::redrawRow(const std::string& line, unsigned row)
             m_gameData.gameObjects().removeGameObjectForKey(key);
         }
     }
-    createChipsForTheorem(line, row);
 }
 
 } // namespace veyrand::board

@@ -41,17 +41,22 @@ public:
     void dropTheorem(const std::string& line, unsigned row);
 
     void createDeleteButton(unsigned row);
+    // The delete buttons that were still to come stay away: for whoever draws them at once.
+    void abandonDeleteButtons() { ++m_abandoned; }
 
     // Makes the row read as the line: nothing when it does, else its chips are drawn anew.
     void settleRow(const std::string& line, unsigned row);
     // Draws every chip of the row anew, whatever an animation had made of it.
     void redrawRow(const std::string& line, unsigned row);
+    // Takes every chip of the row off the board, also those that are still shrinking.
+    void clearRow(unsigned row);
 
 private:
     void dropTheorem2(const std::string& key, const std::weak_ptr<GameObject>& dropped);
 
     GameData& m_gameData;
     platform::RunLoop& m_runLoop;
+    unsigned m_abandoned = 0; // how often; a button promised before the last time no longer comes
 };
 
 } // namespace veyrand::board

@@ -11,6 +11,7 @@ namespace veyrand::controller {
 GameController::GameController(GameContext& context)
     : m_context(context)
     , m_hints(*this)
+    , m_history(*this)
     , m_flow(*this)
     , m_lines(*this)
     , m_moves(*this)

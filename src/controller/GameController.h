@@ -5,6 +5,7 @@
 #include "controller/FullScreen.h"
 #include "controller/GameFlow.h"
 #include "controller/Hints.h"
+#include "controller/History.h"
 #include "controller/Messages.h"
 #include "controller/Moves.h"
 #include "controller/Pages.h"
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] const Moves& moves() const { return m_moves; }
     [[nodiscard]] ProofLines& lines() { return m_lines; }
     [[nodiscard]] Hints& hints() { return m_hints; }
+    [[nodiscard]] History& history() { return m_history; }
     [[nodiscard]] GameFlow& flow() { return m_flow; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
     [[nodiscard]] Messages& messages() { return m_messages; }
@@ -81,6 +83,7 @@ public:
 private:
     GameContext& m_context;
     Hints m_hints;
+    History m_history;
     GameFlow m_flow;
     ProofLines m_lines;
     Moves m_moves;

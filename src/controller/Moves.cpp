@@ -89,21 +89,28 @@ void Moves::make(const play::Move& move, const play::Gesture& gesture)
     }
     static_cast<void>(m_controller.flow().apply(move)); // decided, so it is granted
     const unsigned newRow = m_controller.lineCount() - 1;
-    board::perform(m_game.board.animations, choreography, lineBefore, newRow);
-    settleAfter(choreography.ends, newRow);
-    m_game.view.block().increaseDelay(choreography.block);
-    m_game.effects.play("Marble");
+    show(choreography, lineBefore, newRow);
     m_controller.lines().checkProofComplete();
     m_controller.hints().resetHintMode();
+}
+
+void Moves::show(
+    const board::Choreography& choreography, const std::string& lineBefore, unsigned row)
+{
+    board::perform(m_game.board.animations, choreography, lineBefore, row);
+    settleAfter(choreography.ends, row);
+    m_game.view.block().increaseDelay(choreography.block);
+    m_game.effects.play("Marble");
 }
 
 // Whatever was shown, the row ends as the line reads.
 void Moves::settleAfter(double seconds, unsigned row)
 {
     m_game.runLoop.performAfterDelay(
-        seconds, [this, row, proof = std::weak_ptr(m_controller.proof())] {
+        seconds, [this, row, begun = m_abandoned, proof = std::weak_ptr(m_controller.proof())] {
             const auto inPlay = m_controller.proof();
-            if (inPlay && inPlay == proof.lock() && row < inPlay->lines().size()) {
+            if (begun == m_abandoned && inPlay && inPlay == proof.lock()
+                && row < inPlay->lines().size()) {
                 m_game.board.lines.settleRow(inPlay->lines()[row].theorem(), row);
             }
         });

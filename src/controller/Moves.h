@@ -1,5 +1,6 @@
 #pragma once
 
+#include "board/Choreography.h"
 #include "controller/GameContext.h"
 #include "play/Move.h"
 #include "play/Position.h"
@@ -26,6 +27,12 @@ public:
     // What the gestures are held against. It refers to the proof in play.
     [[nodiscard]] play::Position position() const;
 
+    // The animation of the move that made the row's line; input stays blocked for as long as it
+    // takes.
+    void show(const board::Choreography& choreography, const std::string& lineBefore, unsigned row);
+    // Animations under way have been overtaken: what they promised to make good at their end is.
+    void abandonSettling() { ++m_abandoned; }
+
 private:
     bool perform(const play::Gesture& gesture);
     void make(const play::Move& move, const play::Gesture& gesture);
@@ -34,6 +41,7 @@ private:
 
     GameController& m_controller;
     GameContext& m_game;
+    unsigned m_abandoned = 0;
 };
 
 } // namespace veyrand::controller

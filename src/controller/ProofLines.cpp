@@ -84,20 +84,20 @@ void ProofLines::deleteClick(unsigned row)
 {
     const auto answer = m_controller.flow().apply(play::Remove { row });
     if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
+        m_game.effects.play("DeleteDing");
         dropRows(*outcome);
+        m_controller.hints().resetHintMode();
     }
 }
 
 void ProofLines::dropRows(const play::Outcome& outcome)
 {
-    m_game.effects.play("DeleteDing");
     unsigned row = outcome.row;
     for (const engine::Theorem& line : outcome.gone) {
         m_game.board.gameData.gameObjects().removeGameObjectForKey(board::deleteButtonKey(row));
         m_game.board.lines.dropTheorem(line.theorem(), row);
         ++row;
     }
-    m_controller.hints().resetHintMode();
 }
 
 void ProofLines::removeDeleteButtons(unsigned firstRow, unsigned count)

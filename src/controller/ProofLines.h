@@ -30,8 +30,10 @@ public:
 
     void removeAllDeleteButtons();
 
-private:
+    // The lines that have gone shrink away, their buttons at once.
     void dropRows(const play::Outcome& outcome);
+
+private:
     void removeDeleteButtons(unsigned firstRow, unsigned count);
     void calculateScore();
 

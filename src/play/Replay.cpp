@@ -268,6 +268,16 @@ void Replay::hintOf(const Step& step)
     m_marked = m_hintStage == 1 && step.isRemoval();
 }
 
+std::optional<Replay::StepKind> Replay::undoes() const
+{
+    return canUndo() ? std::optional(m_steps[m_cursor - 1].kind()) : std::nullopt;
+}
+
+std::optional<Replay::StepKind> Replay::redoes() const
+{
+    return canRedo() ? std::optional(m_steps[m_cursor].kind()) : std::nullopt;
+}
+
 // The steps as they can be done anew, then so many undone, then the hint's clicks; what else has
 // been paid for is spent beforehand.
 std::vector<Action> Replay::listOf(std::size_t undos, std::size_t redos, const Clicks& clicks) const

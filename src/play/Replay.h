@@ -57,6 +57,11 @@ public:
     [[nodiscard]] bool canUndo() const { return m_cursor > 0 && !isOver(); }
     [[nodiscard]] bool canRedo() const { return m_cursor < m_steps.size() && !isOver(); }
 
+    // What would be undone, or done again; nothing when nothing can be.
+    enum class StepKind { Move, Removal };
+    [[nodiscard]] std::optional<StepKind> undoes() const;
+    [[nodiscard]] std::optional<StepKind> redoes() const;
+
     // A shorter list that comes to the same, for as long as the puzzle is not over.
     [[nodiscard]] std::vector<Action> compact() const;
 
@@ -71,6 +76,10 @@ private:
         std::size_t row = 0;
         std::vector<Line> lines; // one that was made; all that were taken back
         [[nodiscard]] bool isRemoval() const;
+        [[nodiscard]] StepKind kind() const
+        {
+            return isRemoval() ? StepKind::Removal : StepKind::Move;
+        }
     };
 
     [[nodiscard]] std::string fault(const Action& action) const;

@@ -32,6 +32,7 @@ GameMenu::GameMenu(platform::Preferences& preferences)
     : m_preferences(preferences)
 {
     buildGameMenu();
+    buildEditMenu();
     buildOptionsMenu();
     buildHelpMenu();
 }
@@ -45,6 +46,46 @@ void GameMenu::buildGameMenu()
         &Actions::canStartGame);
     menu.addSeparator();
     addItem(menu, tr("&Quit"), shortcut("Ctrl+Q"), &Actions::quit);
+}
+
+void GameMenu::buildEditMenu()
+{
+    QMenu& menu = *addMenu(tr("&Edit"));
+    m_undo = addItem(menu, tr("&Undo"), shortcut("Ctrl+Z"), &Actions::undo, &Actions::canUndo);
+    m_redo
+        = addItem(menu, tr("&Redo"), shortcut("Ctrl+Shift+Z"), &Actions::redo, &Actions::canRedo);
+    // What other desktops press for it.
+    m_redo->setShortcuts({ m_redo->shortcut(), QKeySequence(shortcut("Ctrl+Y")) });
+    QObject::connect(&menu, &QMenu::aboutToShow, &m_bar, [this] { nameSteps(); });
+}
+
+void GameMenu::nameSteps()
+{
+    const auto stepOf = [](const std::function<Actions::Step()>& step) {
+        return step ? step() : Actions::Step::None;
+    };
+    switch (stepOf(m_actions.undoes)) {
+    case Actions::Step::None:
+        m_undo->setText(tr("&Undo"));
+        break;
+    case Actions::Step::Move:
+        m_undo->setText(tr("&Undo Move"));
+        break;
+    case Actions::Step::Removal:
+        m_undo->setText(tr("&Undo Removal"));
+        break;
+    }
+    switch (stepOf(m_actions.redoes)) {
+    case Actions::Step::None:
+        m_redo->setText(tr("&Redo"));
+        break;
+    case Actions::Step::Move:
+        m_redo->setText(tr("&Redo Move"));
+        break;
+    case Actions::Step::Removal:
+        m_redo->setText(tr("&Redo Removal"));
+        break;
+    }
 }
 
 void GameMenu::buildOptionsMenu()

@@ -19,6 +19,8 @@ public:
         std::function<void()> classicGame;
         std::function<void()> endlessGame;
         std::function<void()> quit;
+        std::function<void()> undo;
+        std::function<void()> redo;
         std::function<void()> musicChanged;
         std::function<void()> settingsChanged;
         std::function<void()> toggleFullScreen;
@@ -28,8 +30,14 @@ public:
         std::function<void()> about;
         // Whether the items may be chosen now.
         std::function<bool()> canStartGame;
+        std::function<bool()> canUndo;
+        std::function<bool()> canRedo;
         std::function<bool()> canOpenPage;
         std::function<bool()> canListMoves;
+        // What Undo and Redo would do, which their texts name.
+        enum class Step { None, Move, Removal };
+        std::function<Step()> undoes;
+        std::function<Step()> redoes;
     };
 
     explicit GameMenu(platform::Preferences& preferences);
@@ -58,6 +66,7 @@ private:
     };
 
     void buildGameMenu();
+    void buildEditMenu();
     void buildOptionsMenu();
     void buildHelpMenu();
     QMenu* addMenu(const QString& title);
@@ -67,12 +76,15 @@ private:
     void addSetting(QMenu& menu, const QString& text, bool progress::Settings::*setting);
     void addShortcut(QAction& action, const QString& keys);
     [[nodiscard]] bool passes(Test test) const;
+    void nameSteps();
 
     platform::Preferences& m_preferences;
     Actions m_actions;
     QMenuBar m_bar;
     std::vector<Item> m_items;
     QList<QAction*> m_shortcuts;
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
     QAction* m_music = nullptr;
     QAction* m_effects = nullptr;
     QAction* m_fullScreen = nullptr;
