@@ -8,30 +8,27 @@ namespace {
 
 constexpr double kPanelX = 0.3;
 
-struct Caption {
+// A caption has an image and a size. A counter has a text, until drawCounters sets the real one,
+// and is as large as that turns out.
+struct PanelItem {
     std::string_view key;
-    std::string_view image;
+    std::string_view imageOrText;
     double y;
-    double width;
-    double height;
+    double width = 0.0;
+    double height = 0.0;
+
+    [[nodiscard]] bool isCounter() const { return width == 0.0; }
 };
 
-struct Counter {
-    std::string_view key;
-    std::string_view text; // until drawCounters sets the real one
-    double y;
-};
+constexpr std::array kClassicItems { PanelItem { "label-points", "Points", 0.9, 0.2, 0.06 },
+    PanelItem { "counter-score", "0", 0.8 },
+    PanelItem { "label-stage", "Stage", 0.7, 0.271186440677966, 0.08150943396226 },
+    PanelItem { "label-par", "Par", 0.5, 0.2, 0.06 }, PanelItem { "counter-stage", "1-1", 0.6 },
+    PanelItem { "counter-par", "1", 0.4 } };
 
-constexpr std::array kClassicCaptions { Caption { "label-points", "Points", 0.9, 0.2, 0.06 },
-    Caption { "label-stage", "Stage", 0.7, 0.271186440677966, 0.08150943396226 },
-    Caption { "label-par", "Par", 0.5, 0.2, 0.06 } };
-constexpr std::array kClassicCounters { Counter { "counter-score", "0", 0.8 },
-    Counter { "counter-stage", "1-1", 0.6 }, Counter { "counter-par", "1", 0.4 } };
-
-constexpr std::array kEndlessCaptions { Caption { "label-points", "Points", 0.9, 0.2, 0.06 },
-    Caption { "label-par", "Par", 0.7, 0.2, 0.06 } };
-constexpr std::array kEndlessCounters { Counter { "counter-score", "0", 0.8 },
-    Counter { "counter-par", "5", 0.6 } };
+constexpr std::array kEndlessItems { PanelItem { "label-points", "Points", 0.9, 0.2, 0.06 },
+    PanelItem { "counter-score", "0", 0.8 }, PanelItem { "label-par", "Par", 0.7, 0.2, 0.06 },
+    PanelItem { "counter-par", "5", 0.6 } };
 
 } // namespace
 
@@ -77,20 +74,22 @@ void PanelDrawing::drawEndlessButton(std::string_view name, std::string_view ima
 
 void PanelDrawing::drawLabels()
 {
-    const auto draw = [this](const auto& captions, const auto& counters) {
-        for (const Caption& caption : captions) {
-            m_gameData.fadeInLabel(caption.image, kPanelX, caption.y, caption.width, caption.height,
-                std::string(caption.key));
-        }
-        for (const Counter& counter : counters) {
-            m_gameData.fadeInCounter(
-                std::string(counter.text), kPanelX, counter.y, 0.0, 0.0, std::string(counter.key));
+    const auto draw = [this](const auto& items) {
+        for (const PanelItem& item : items) {
+            const std::string key(item.key);
+            if (item.isCounter()) {
+                m_gameData.fadeInCounter(
+                    std::string(item.imageOrText), kPanelX, item.y, 0.0, 0.0, key);
+            } else {
+                m_gameData.fadeInLabel(
+                    item.imageOrText, kPanelX, item.y, item.width, item.height, key);
+            }
         }
     };
     if (m_currentGame.endlessGame()) {
-        draw(kEndlessCaptions, kEndlessCounters);
+        draw(kEndlessItems);
     } else {
-        draw(kClassicCaptions, kClassicCounters);
+        draw(kClassicItems);
     }
 }
 

@@ -6,7 +6,6 @@ namespace veyrand::board {
 
 using progress::CurrentGame;
 using ::testing::ElementsAre;
-using ::testing::UnorderedElementsAre;
 
 namespace {
 
@@ -91,8 +90,8 @@ TEST_F(PanelDrawingTest, EndlessHasTwoMoreButtons)
 TEST_F(PanelDrawingTest, ClassicHasThreeCaptionsAndThreeCounters)
 {
     EXPECT_THAT(addedBy([this] { board().panel.drawLabels(); }),
-        UnorderedElementsAre("label-points", "counter-score", "label-stage", "label-par",
-            "counter-stage", "counter-par"));
+        ElementsAre("label-points", "counter-score", "label-stage", "label-par", "counter-stage",
+            "counter-par"));
     EXPECT_EQ(lookOf(*object("label-points")), (Look { "Points", 0.3, 0.9, 0.2, 0.06, 1.0 }));
     EXPECT_EQ(lookOf(*object("label-stage")),
         (Look { "Stage", 0.3, 0.7, 0.271186440677966, 0.08150943396226, 1.0 }));
@@ -109,7 +108,7 @@ TEST_F(PanelDrawingTest, EndlessHasNoStage)
 {
     place(1, 1, 5, CurrentGame::Mode::Endless);
     EXPECT_THAT(addedBy([this] { board().panel.drawLabels(); }),
-        UnorderedElementsAre("label-points", "counter-score", "label-par", "counter-par"));
+        ElementsAre("label-points", "counter-score", "label-par", "counter-par"));
     EXPECT_EQ(lookOf(*object("label-par")), (Look { "Par", 0.3, 0.7, 0.2, 0.06, 1.0 }));
     EXPECT_EQ(lookOf(*object("counter-par")), (Look { "", 0.3, 0.6, 0, 0, 1.0 }));
     EXPECT_EQ(texts().text("counter-score"), "0");
