@@ -6,7 +6,9 @@
 #include "platform/Texts.h"
 #include "platform/Volumes.h"
 
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace veyrand::install {
 
@@ -15,6 +17,15 @@ namespace veyrand::install {
 struct Bundle {
     std::string path; // empty when the program is no such thing; then it is never installed
     std::string name; // as people call it
+    // What its copy is called, where the place it runs from is named by chance; empty for its own
+    // name.
+    std::string installedName {};
+    // What of the folder is copied, relative to it, where others may have put something into it;
+    // empty for everything.
+    std::vector<std::string> parts {};
+    // Whether what is at the path, be it nothing, may make room for the copy. Without this anything
+    // may.
+    std::function<bool(const std::string& path)> mayReplace {};
 };
 
 // Whoever runs the program.

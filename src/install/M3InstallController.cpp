@@ -1,5 +1,6 @@
 #include "install/M3InstallController.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace veyrand::install {
@@ -129,16 +130,35 @@ void M3InstallController::installApp(const std::function<void()>& done)
 // half of it stands there.
 bool M3InstallController::copyInto(const std::string& folder) const
 {
-    const std::string name = lastComponent(m_installation.bundle.path);
-    const std::string beside = folder + "/." + name + ".installing";
+    const Bundle& bundle = m_installation.bundle;
+    const std::string name
+        = bundle.installedName.empty() ? lastComponent(bundle.path) : bundle.installedName;
+    const std::string place = folder + '/' + name;
     platform::Files& files = m_installation.files;
+    if (!files.isFolder(folder) || (bundle.mayReplace && !bundle.mayReplace(place))) {
+        return false;
+    }
+    const std::string beside = folder + "/." + name + ".installing";
     files.remove(beside); // what an earlier attempt may have left
-    if (files.copy(m_installation.bundle.path, beside)
-        && files.replace(folder + '/' + name, beside)) {
+    if (copyTo(beside) && files.replace(place, beside)) {
         return true;
     }
     files.remove(beside);
     return false;
+}
+
+bool M3InstallController::copyTo(const std::string& path) const
+{
+    const Bundle& bundle = m_installation.bundle;
+    platform::Files& files = m_installation.files;
+    if (bundle.parts.empty()) {
+        return files.copy(bundle.path, path);
+    }
+    return std::all_of(bundle.parts.begin(), bundle.parts.end(), [&](const std::string& part) {
+        const std::string to = path + '/' + part;
+        return files.makeFolder(to.substr(0, to.rfind('/')))
+            && files.copy(bundle.path + '/' + part, to);
+    });
 }
 
 void M3InstallController::report(const std::string& message, const std::string& informativeText,

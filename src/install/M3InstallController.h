@@ -21,7 +21,8 @@ public:
     // once, when nothing is left to ask or to say: perhaps before this returns.
     void displayInstaller(std::function<void()> done);
     // Copies the application and tells how that went. An existing copy is replaced without asking,
-    // and only by a complete new one: what fails half-way leaves it alone.
+    // and only by a complete new one: what fails half-way leaves it alone. Where something else
+    // stands in its place, the next folder is tried.
     void installApp(const std::function<void()>& done);
 
     [[nodiscard]] const platform::Alert& alert() const { return m_alert; }
@@ -29,6 +30,7 @@ public:
 private:
     [[nodiscard]] bool hasReasonToAsk() const;
     [[nodiscard]] bool copyInto(const std::string& folder) const;
+    [[nodiscard]] bool copyTo(const std::string& path) const;
     void report(const std::string& message, const std::string& informativeText,
         const std::function<void()>& done) const;
     [[nodiscard]] std::string localized(const char* text) const;

@@ -13,6 +13,8 @@ public:
     Files& operator=(const Files&) = delete;
     virtual ~Files() = default;
 
+    // A link to one is none.
+    [[nodiscard]] virtual bool isFolder(const std::string& path) const = 0;
     // Makes the folder and those above it; true when it is there afterwards.
     virtual bool makeFolder(const std::string& path) = 0;
     // `to` must not exist, but its folder must. After a failure part of the copy may stand there.

@@ -303,6 +303,56 @@ TEST_F(Installer, AnExistingCopyIsReplacedWithoutAsking)
     EXPECT_EQ(m_files.read("/Applications/Seven Moves/bin/game"), "new");
 }
 
+TEST_F(Installer, AFolderNamedByChanceGetsANameOfItsOwn)
+{
+    m_bundle.installedName = "Veyrand";
+    m_files.write("/Applications/Seven Moves/diary", "hers");
+    quitAndAnswer(kInstall);
+    EXPECT_THAT(filesBelow("/Applications"),
+        ElementsAre("Seven Moves/diary", "Veyrand/bin/game", "Veyrand/share/data"));
+}
+
+TEST_F(Installer, OnlyTheApplicationsPartsOfAFolderAreCopied)
+{
+    m_bundle.parts = { "bin/game", "share/data" };
+    m_files.write("/media/Veyrand/Seven Moves/share/another", "theirs");
+    m_files.write("/media/Veyrand/Seven Moves/diary", "theirs");
+    quitAndAnswer(kInstall);
+    EXPECT_THAT(
+        filesBelow("/Applications"), ElementsAre("Seven Moves/bin/game", "Seven Moves/share/data"));
+    m_files.remove("/Applications");
+    quitAndAnswer(kInstall);
+    EXPECT_FALSE(m_files.exists("/Applications"));
+    EXPECT_EQ(m_report.informativeText, "Seven was installed in /home/ada/Applications.");
+}
+
+TEST_F(Installer, WhereAPartIsMissingNothingIsInstalled)
+{
+    m_bundle.parts = { "bin/game", "share/missing" };
+    quitAndAnswer(kInstall);
+    EXPECT_THAT(filesBelow("/Applications"), IsEmpty());
+    EXPECT_EQ(m_report.message, "Could not install Seven!");
+}
+
+TEST_F(Installer, WhatIsAStrangersStaysAndTheNextFolderIsTried)
+{
+    m_bundle.mayReplace = [this](const std::string& path) {
+        return !m_files.exists(path) || m_files.exists(path + "/bin/game");
+    };
+    m_files.write("/Applications/Seven Moves/diary", "hers");
+    quitAndAnswer(kInstall);
+    EXPECT_THAT(filesBelow("/Applications"), ElementsAre("Seven Moves/diary"));
+    EXPECT_EQ(m_report.informativeText, "Seven was installed in /home/ada/Applications.");
+    quitAndAnswer(kInstall); // ours makes room
+    EXPECT_EQ(m_report.informativeText, "Seven was installed in /home/ada/Applications.");
+
+    m_files.remove("/home/ada/Applications");
+    m_files.write("/home/ada/Applications/Seven Moves", "a file of hers");
+    quitAndAnswer(kInstall);
+    EXPECT_EQ(m_report.message, "Could not install Seven!");
+    EXPECT_THAT(filesBelow("/home/ada/Applications"), ElementsAre("Seven Moves"));
+}
+
 TEST_F(Installer, WithoutASystemFolderTheUsersOwnIsMade)
 {
     m_files.remove("/Applications");

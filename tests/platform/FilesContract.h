@@ -119,6 +119,14 @@ TYPED_TEST_P(FilesContract, WithoutANewcomerTheOldOneStays)
     EXPECT_EQ(this->read("app/game"), "old");
 }
 
+TYPED_TEST_P(FilesContract, AFolderIsToldFromAFileAndFromNothing)
+{
+    this->write("app/game", "new");
+    EXPECT_TRUE(this->files().isFolder(this->at("app")));
+    EXPECT_FALSE(this->files().isFolder(this->at("app/game")));
+    EXPECT_FALSE(this->files().isFolder(this->at("nowhere")));
+}
+
 TYPED_TEST_P(FilesContract, FoldersAreMadeWithThoseAboveThem)
 {
     EXPECT_TRUE(this->files().makeFolder(this->at("a/b/c")));
@@ -150,7 +158,7 @@ REGISTER_TYPED_TEST_SUITE_P(FilesContract, AFolderIsCopiedWithEverythingInIt, AF
     NothingIsCopiedOverWhatIsThere, WhatIsMissingCannotBeCopied, ACopyNeedsAFolderToGoInto,
     ACopyThatBreaksOffFails, ANewcomerTakesTheFreePlace, ANewcomerTakesThePlaceOfAllThatWasThere,
     AFileMayReplaceAFolderAndAFolderAFile, WithoutANewcomerTheOldOneStays,
-    FoldersAreMadeWithThoseAboveThem, AFolderCannotBeMadeWhereAFileIs,
-    WhatIsRemovedIsGoneAndItsNeighbourIsNot);
+    AFolderIsToldFromAFileAndFromNothing, FoldersAreMadeWithThoseAboveThem,
+    AFolderCannotBeMadeWhereAFileIs, WhatIsRemovedIsGoneAndItsNeighbourIsNot);
 
 } // namespace veyrand::platform

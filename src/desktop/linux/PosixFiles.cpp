@@ -107,6 +107,12 @@ Error exchangeByHand(const fs::path& one, const fs::path& other)
 
 } // namespace
 
+bool PosixFiles::isFolder(const std::string& path) const
+{
+    Error error;
+    return fs::is_directory(fs::symlink_status(path, error));
+}
+
 bool PosixFiles::makeFolder(const std::string& path)
 {
     Error error;

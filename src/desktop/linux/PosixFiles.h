@@ -16,6 +16,7 @@ public:
     {
     }
 
+    [[nodiscard]] bool isFolder(const std::string& path) const override;
     bool makeFolder(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
     bool replace(const std::string& path, const std::string& newcomer) override;

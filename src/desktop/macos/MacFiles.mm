@@ -20,6 +20,13 @@ bool isThere(NSString* path)
 
 class MacFiles final : public platform::Files {
 public:
+    [[nodiscard]] bool isFolder(const std::string& path) const override
+    {
+        NSDictionary* const attributes =
+            [[NSFileManager defaultManager] attributesOfItemAtPath:toPath(path) error:nullptr];
+        return [attributes[NSFileType] isEqualToString:NSFileTypeDirectory];
+    }
+
     bool makeFolder(const std::string& path) override
     {
         return [[NSFileManager defaultManager] createDirectoryAtPath:toPath(path)

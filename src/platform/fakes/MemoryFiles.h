@@ -14,6 +14,10 @@ namespace veyrand::platform {
 // It writes down what it is asked to do, and refuses what a test wants refused.
 class MemoryFiles final : public Files {
 public:
+    [[nodiscard]] bool isFolder(const std::string& path) const override
+    {
+        return m_folders.contains(path);
+    }
     bool makeFolder(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
     bool replace(const std::string& path, const std::string& newcomer) override;

@@ -203,6 +203,80 @@ TEST(Bundle, IsTheFolderThatHoldsTheProgramAndItsData)
     EXPECT_EQ(bundle.name, "Veyrand");
 }
 
+TEST(Bundle, HoldsWhatAnInstallationMakesAndNothingElse)
+{
+    const test::ScratchFolder folder;
+    for (const char* file : { "bin/veyrand", "bin/other", "lost+found/x", "notes.txt",
+             "share/veyrand/data", "share/other/data", "share/doc/veyrand/copyright",
+             "share/icons/hicolor/48x48/apps/" VEYRAND_ID ".png",
+             "share/icons/hicolor/48x48/apps/other.png" }) {
+        folder.write(folder.at(std::string("Label 7/") + file), "");
+    }
+    const auto bundle = desktop::linux::bundleOf(folder.at("Label 7/bin/veyrand"), {});
+    EXPECT_EQ(bundle.path, folder.at("Label 7"));
+    EXPECT_EQ(bundle.installedName, "Veyrand");
+    EXPECT_EQ(bundle.parts,
+        (std::vector<std::string> { "bin/veyrand", "share/veyrand", "share/doc/veyrand",
+            "share/icons/hicolor/48x48/apps/" VEYRAND_ID ".png" }));
+}
+
+TEST(Bundle, MakesRoomForItselfOnlyWhereAnotherCopyIsOrNothing)
+{
+    const test::ScratchFolder folder;
+    folder.write(folder.at("image/bin/veyrand"), "");
+    folder.write(folder.at("image/share/veyrand/data"), "");
+    const auto bundle = desktop::linux::bundleOf(folder.at("image/bin/veyrand"), {});
+    const auto mayReplace = [&](const char* name) { return bundle.mayReplace(folder.at(name)); };
+
+    EXPECT_TRUE(mayReplace("nothing"));
+    EXPECT_TRUE(mayReplace("image"));
+    folder.write(folder.at("image/share/veyrand/older"), "");
+    EXPECT_TRUE(mayReplace("image"));
+
+    folder.write(folder.at("file"), "");
+    EXPECT_FALSE(mayReplace("file"));
+    folder.write(folder.at("theirs/readme"), "");
+    EXPECT_FALSE(mayReplace("theirs"));
+    fs::create_directory_symlink(folder.at("image"), folder.at("link"));
+    EXPECT_FALSE(mayReplace("link"));
+    fs::create_symlink("/no/such/place", folder.at("dangling"));
+    EXPECT_FALSE(mayReplace("dangling"));
+    folder.write(folder.at("image/diary.txt"), "");
+    EXPECT_FALSE(mayReplace("image"));
+    fs::remove(folder.at("image/diary.txt"));
+    folder.write(folder.at("image/share/theirs/file"), "");
+    EXPECT_FALSE(mayReplace("image"));
+}
+
+TEST(Bundle, AnAppImageMakesRoomForItselfOnlyWhereAnotherIsOrNothing)
+{
+    const test::ScratchFolder folder;
+    const AppImage appImage { .file = folder.at("V-x86_64"), .mountPoint = "/tmp/.mount_V" };
+    const auto bundle = desktop::linux::bundleOf("/tmp/.mount_V/usr/bin/veyrand", appImage);
+    EXPECT_EQ(bundle.installedName, "Veyrand.AppImage");
+    EXPECT_TRUE(bundle.parts.empty());
+    const auto mayReplace = [&](const char* name) { return bundle.mayReplace(folder.at(name)); };
+
+    EXPECT_TRUE(mayReplace("nothing"));
+    folder.write(folder.at("older"),
+        std::string("\x7f"
+                    "ELF\x02\x01\x01\0"
+                    "AI\x02...",
+            14));
+    EXPECT_TRUE(mayReplace("older"));
+    folder.write(folder.at("program"),
+        std::string("\x7f"
+                    "ELF\x02\x01\x01\0\0\0\0...",
+            14));
+    EXPECT_FALSE(mayReplace("program"));
+    folder.write(folder.at("text"), "AI");
+    EXPECT_FALSE(mayReplace("text"));
+    folder.write(folder.at("folder/bin/veyrand"), "");
+    EXPECT_FALSE(mayReplace("folder"));
+    fs::create_symlink(folder.at("older"), folder.at("link"));
+    EXPECT_FALSE(mayReplace("link"));
+}
+
 TEST(Bundle, IsNotWhatThePackageManagerHasFilled)
 {
     for (const char* program :
