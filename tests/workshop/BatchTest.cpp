@@ -128,6 +128,22 @@ TEST(BatchErrors, AreAnsweredAndTheNextLineGoesOn)
     EXPECT_EQ(documents[7]["sequence"], "0");
 }
 
+TEST(BatchHelp, IsAnAnswerLikeAnyOther)
+{
+    const Json one = ask("solve --help");
+    EXPECT_FALSE(one.contains("error"));
+    EXPECT_NE(one["help"].get<std::string>().find("--limit"), std::string::npos);
+    const Json all = ask("--help");
+    EXPECT_EQ(all["help"].size(), allCommands().size());
+    EXPECT_EQ(all["help"]["solve"], "A shortest way from one line to another");
+}
+
+TEST(BatchErrors, ACommandThatIsNoneIsNamed)
+{
+    EXPECT_EQ(ask("nonsense YR")["error"], "no such command: nonsense");
+    EXPECT_EQ(ask("")["error"], "no command");
+}
+
 TEST(BatchErrors, AnOptionOfOneLineIsForgottenByTheNext)
 {
     std::istringstream in("tree YR --children 1\ntree YR\n");

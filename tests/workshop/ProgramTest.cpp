@@ -58,6 +58,18 @@ TEST(Workshop, BadArgumentsEndWithStatusTwoAndAReason)
     }
 }
 
+TEST(Workshop, ACommandThatIsNoneIsNamed)
+{
+    for (const char* arguments : { "nonsense", "nonsense YR --bogus", "--json nonsense" }) {
+        EXPECT_EQ(run(arguments).output, "veyrand-workshop: no such command: nonsense\n");
+    }
+    EXPECT_EQ(run("--bogus").output, "veyrand-workshop: no such command: --bogus\n");
+    EXPECT_EQ(run("").output, "veyrand-workshop: no command; --help lists them\n");
+    EXPECT_NE(run("solve YR YRG nonsense").output.find("nonsense"), std::string::npos);
+    EXPECT_EQ(run("solve YR YRG nonsense").status, 2);
+    EXPECT_EQ(run("solve YR YRG --bogus").status, 2);
+}
+
 TEST(Workshop, EveryCommandHasHelp)
 {
     for (const CommandEntry& command : allCommands()) {

@@ -21,10 +21,22 @@ std::vector<std::string> wordsOf(const std::string& line)
     return words;
 }
 
+Json helpOnAll()
+{
+    Json commands = Json::object();
+    for (const CommandEntry& command : allCommands()) {
+        commands[command.name] = command.help;
+    }
+    return { { "help", std::move(commands) } };
+}
+
 Json answer(std::vector<std::string> words)
 {
     const std::vector<CommandEntry>& commands = allCommands();
     const std::string name = words.empty() ? std::string() : words.front();
+    if (name == "--help" || name == "-h") {
+        return helpOnAll();
+    }
     const auto found = std::find_if(commands.begin(), commands.end(),
         [&](const CommandEntry& command) { return command.name == name; });
     if (found == commands.end()) {
@@ -35,7 +47,11 @@ Json answer(std::vector<std::string> words)
     command->declare(arguments);
     words.erase(words.begin());
     std::reverse(words.begin(), words.end()); // the parser takes them from the end
-    arguments.parse(words);
+    try {
+        arguments.parse(words);
+    } catch (const CLI::CallForHelp&) {
+        return { { "help", arguments.help() } };
+    }
     return command->run();
 }
 

@@ -2,6 +2,7 @@
 #include "Command.h"
 #include "HumanText.h"
 
+#include <algorithm>
 #include <iostream>
 #include <map>
 
@@ -27,6 +28,13 @@ void answer(Command& command, bool json)
     } else {
         printForPeople(document, std::cout);
     }
+}
+
+std::string withoutCommand(const std::vector<std::string>& words)
+{
+    const auto word = std::find_if(
+        words.begin(), words.end(), [](const std::string& each) { return each != "--json"; });
+    return word == words.end() ? "no command; --help lists them" : "no such command: " + *word;
 }
 
 int run(int argc, char** argv)
@@ -60,7 +68,10 @@ int run(int argc, char** argv)
     } catch (const CLI::Success& help) {
         return app.exit(help);
     } catch (const CLI::ParseError& error) {
-        return complain(error.what(), kBadArguments);
+        // The parser calls a command that is none the lack of one.
+        const bool hasCommand = !app.get_subcommands().empty();
+        return complain(
+            hasCommand ? error.what() : withoutCommand({ argv + 1, argv + argc }), kBadArguments);
     } catch (const UsageError& error) {
         return complain(error.what(), kBadArguments);
     }
