@@ -18,7 +18,7 @@ bool isInCatalogue(const Puzzle& puzzle, const Catalogue& catalogue)
     if (puzzle.mode == Mode::Endless) {
         return std::find(catalogue.begin(), catalogue.end(), entry) != catalogue.end();
     }
-    const int index = progress::catalogueIndex(puzzle.place);
+    const std::int64_t index = progress::catalogueIndex(puzzle.place);
     return index >= 1 && static_cast<std::size_t>(index) < catalogue.size()
         && catalogue[static_cast<std::size_t>(index)] == entry;
 }

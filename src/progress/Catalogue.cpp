@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <limits>
 
 namespace veyrand::progress {
 
@@ -39,6 +40,14 @@ std::optional<int> wholeNumber(std::string_view text)
     const char* const end = text.data() + text.size();
     const auto [stop, fault] = std::from_chars(text.data(), end, number);
     return fault == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
+// Moves as lines of a solution. A number that has no next one is as absurd as a greater one.
+std::optional<int> parOf(std::string_view moves)
+{
+    const std::optional<int> number = wholeNumber(moves);
+    return number && *number < std::numeric_limits<int>::max() ? std::optional(*number + 1)
+                                                               : std::nullopt;
 }
 
 std::string lineFault(const std::string& line)
@@ -115,11 +124,11 @@ ParsedCatalogue parseCatalogueText(std::string_view text)
     }
     ParsedCatalogue result;
     for (std::size_t i = 0; i < lines.size(); i += kLinesPerPuzzle) {
-        const std::optional<int> moves = wholeNumber(lines[i + 2]);
-        if (!moves) {
+        const std::optional<int> par = parOf(lines[i + 2]);
+        if (!par) {
             return { {}, atLine(i + 2, "the number of moves is no whole number") };
         }
-        result.entries.push_back({ std::string(lines[i]), std::string(lines[i + 1]), *moves + 1 });
+        result.entries.push_back({ std::string(lines[i]), std::string(lines[i + 1]), *par });
     }
     return result;
 }
@@ -141,6 +150,11 @@ std::optional<std::string> catalogueFault(const Catalogue& catalogue, CatalogueK
             return fault;
         }
     }
+    return insufficiency(catalogue, kind);
+}
+
+std::optional<std::string> insufficiency(const Catalogue& catalogue, CatalogueKind kind)
+{
     const std::size_t needed = kind == CatalogueKind::Classic ? kClassicEntries : kEndlessEntries;
     if (catalogue.size() < needed) {
         return atLine(catalogue.size() * kLinesPerPuzzle - 1,

@@ -50,8 +50,12 @@ inline constexpr int kGreatestPar = 12;
 enum class CatalogueKind { Classic, Endless };
 
 // What would let the game fall out of range, or draw for ever, with these entries; nothing when all
-// is well. Looks for too few puzzles, a par the game cannot ask for, an Endless par that no puzzle
-// has, a line of foreign letters and one too long for the board.
+// is well: too few puzzles, or an Endless par that none has.
+[[nodiscard]] std::optional<std::string> insufficiency(
+    const Catalogue& catalogue, CatalogueKind kind);
+
+// The same, and what the game could not show: a par it cannot ask for, a line of foreign letters,
+// one too long for the board.
 [[nodiscard]] std::optional<std::string> catalogueFault(
     const Catalogue& catalogue, CatalogueKind kind);
 

@@ -26,19 +26,24 @@ CurrentGame::CurrentGame(const platform::Preferences& preferences, platform::Ran
     const platform::Resources& resources)
     : m_preferences(preferences)
     , m_random(random)
-    , m_proofs(loadCatalogue(resources, "Theorems"))
-    , m_endlessProofs(loadCatalogue(resources, "EndlessTheorems"))
+    , m_proofs(loadCatalogue(resources, "Theorems", CatalogueKind::Classic))
+    , m_endlessProofs(loadCatalogue(resources, "EndlessTheorems", CatalogueKind::Endless))
     , m_rules(std::make_shared<const engine::Rules>(advancedRules()))
 {
 }
 
-Catalogue CurrentGame::loadCatalogue(const platform::Resources& resources, const std::string& name)
+Catalogue CurrentGame::loadCatalogue(
+    const platform::Resources& resources, const std::string& name, CatalogueKind kind)
 {
     const std::optional<std::string> bytes = resources.dataNamed(name, "txt");
     ParsedCatalogue parsed
         = bytes ? parseCatalogue(*bytes) : ParsedCatalogue { {}, "cannot be read" };
+    if (parsed.error.empty()) {
+        parsed.error = insufficiency(parsed.entries, kind).value_or(std::string());
+    }
     if (!parsed.error.empty()) {
         m_catalogueErrors += name + ".txt: " + parsed.error + "\n";
+        return {};
     }
     return std::move(parsed.entries);
 }
@@ -80,7 +85,7 @@ void CurrentGame::loadPlayer(const std::string& name, Mode mode)
 void CurrentGame::generateProof()
 {
     // A position before 1-1 makes an index beyond every catalogue.
-    const int index = catalogueIndex({ m_level, m_stage });
+    const std::int64_t index = catalogueIndex({ m_level, m_stage });
     const CatalogueEntry& puzzle = m_proofs.at(static_cast<std::size_t>(index));
     setProof(puzzle.root, puzzle.goal, puzzle.par);
 }

@@ -110,7 +110,7 @@ public:
 
 private:
     [[nodiscard]] Catalogue loadCatalogue(
-        const platform::Resources& resources, const std::string& name);
+        const platform::Resources& resources, const std::string& name, CatalogueKind kind);
     void setProof(const std::string& root, const std::string& goal, int par);
 
     const platform::Preferences& m_preferences;

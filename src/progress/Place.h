@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <limits>
+
 namespace veyrand::progress {
 
 inline constexpr int kLastLevel = 11;
@@ -16,18 +19,25 @@ struct Place {
 };
 
 // Where the puzzle of a place stands in the catalogue: 1 for 1-1, 110 for 11-10. Entry 0 is
-// nobody's.
-[[nodiscard]] inline int catalogueIndex(Place position)
+// nobody's. Any numbers may be asked about; those of no place of the game lead to no entry, or to
+// another's.
+[[nodiscard]] inline std::int64_t catalogueIndex(Place position)
 {
-    return position.stage - kLastStage + position.level * kLastStage;
+    return std::int64_t { position.level } * kLastStage + position.stage - kLastStage;
 }
 
-// The place after this one; the last one follows itself.
+// The place after this one; the last one follows itself, and everything beyond it.
 [[nodiscard]] inline Place nextPlace(Place position)
 {
-    const Place next = position.stage == kLastStage ? Place { position.level + 1, 1 }
-                                                    : Place { position.level, position.stage + 1 };
-    return next.level > kLastLevel ? Place { kLastLevel, kLastStage } : next;
+    constexpr Place kLast { kLastLevel, kLastStage };
+    if (position.level > kLastLevel || position == kLast) {
+        return kLast;
+    }
+    if (position.stage == kLastStage) {
+        return { position.level + 1, 1 };
+    }
+    const bool hasNext = position.stage < std::numeric_limits<int>::max();
+    return { position.level, position.stage + (hasNext ? 1 : 0) };
 }
 
 } // namespace veyrand::progress

@@ -67,6 +67,7 @@ TEST(CatalogueText, SaysWhatIsWrongWithIt)
         { "YR\nYRG\n 1", "line 3: the number of moves is no whole number" },
         { "YR\nYRG\n1.5", "line 3: the number of moves is no whole number" },
         { "YR\nYRG\n99999999999", "line 3: the number of moves is no whole number" },
+        { "YR\nYRG\n2147483647", "line 3: the number of moves is no whole number" },
     };
     for (const Case& broken : cases) {
         const ParsedCatalogue parsed = parseCatalogueText(broken.text);

@@ -146,6 +146,16 @@ TEST_F(CurrentGameTest, HasNoClassicPuzzleForAPlayerWithoutARecord)
     EXPECT_EQ(game.level(), 0);
 }
 
+// 2^32 + 1 must not be taken for 1.
+TEST_F(CurrentGameTest, NumbersThatAreTooLargeStayAbsurd)
+{
+    const std::int64_t large = (std::int64_t { 1 } << 32) + 1;
+    EXPECT_THROW(playFrom(large, 1), std::out_of_range);
+    EXPECT_THROW(playFrom(1, large), std::out_of_range);
+    EXPECT_THROW(playFrom(-large, -large), std::out_of_range);
+    EXPECT_LT(game.level(), 0);
+}
+
 TEST_F(CurrentGameTest, HasNoClassicPuzzleBeyondTheCatalogue)
 {
     EXPECT_THROW(playFrom(12, 1), std::out_of_range);
@@ -301,6 +311,26 @@ TEST(CurrentGameWithoutCatalogues, SaysSoAndFailsOnlyWhenPlayed)
     EXPECT_THAT(game.catalogueErrors(), testing::HasSubstr("Theorems.txt: cannot be read\n"));
     EXPECT_THAT(game.catalogueErrors(), testing::HasSubstr("EndlessTheorems.txt: "));
     EXPECT_THROW(game.newPlayer("Ada"), std::out_of_range);
+    EXPECT_THROW(game.generateEndlessProofForPar(5), std::out_of_range);
+}
+
+// A short catalogue would end the game at its end, and a lopsided one draw for ever.
+TEST(CurrentGameWithTooLittle, SaysSoAndPlaysNothingOfIt)
+{
+    const platform::MemoryPreferences preferences;
+    platform::SeededRandom random(1);
+    test::MemoryResources resources;
+    std::string onePar = "YR\nYRG\n1";
+    for (std::size_t i = 1; i < kEndlessEntries; ++i) {
+        onePar += "\nYR\nYRG\n1";
+    }
+    resources.add("Theorems", "txt", catalogueBytes("YR\nYRG\n1\nYR\nYRG\n1"));
+    resources.add("EndlessTheorems", "txt", catalogueBytes(onePar));
+    CurrentGame game(preferences, random, resources);
+    EXPECT_THAT(game.catalogueErrors(),
+        testing::HasSubstr("Theorems.txt: line 6: ends after 2 puzzles; the game needs 111\n"));
+    EXPECT_THAT(game.catalogueErrors(),
+        testing::HasSubstr("EndlessTheorems.txt: line 6504: no puzzle of 2 moves among the first"));
     EXPECT_THROW(game.generateEndlessProofForPar(5), std::out_of_range);
 }
 
