@@ -77,6 +77,19 @@ TEST_F(ReportsTest, TheTopIsTheFirstScoreOtherThanZero)
     EXPECT_EQ(reportOn({ zero, zero, three, zero, one, three }).size(), 4U);
 }
 
+TEST_F(ReportsTest, ATopBelowZeroIsATopToo)
+{
+    const Texts doubled = { "YR", "YRR", "YRRRR", "YRRRRRRRR" };
+    const Texts minusOne = doubled; // one move three times, nine chips
+    Texts minusThree = doubled; // three such moves, twelve chips
+    minusThree.insert(minusThree.end(),
+        { "YRRRRRRRRRRRRRRRR", "YRRRRRRRRRRRRRG", "YRRRRRRRRRRGG", "YRRRRRRRGGG", "YRRRRGGGG",
+            "YRRRRGGGBG", "YRRRRGGBGBG", "YRRRRGBGBGBG" });
+    const Texts three = { "YRRRRR", "YRRG" };
+    const Texts one = { "YRRRRR" };
+    EXPECT_EQ(reportOn({ minusOne, three, one, minusThree, three }).size(), 3U);
+}
+
 TEST_F(ReportsTest, AScoreFurtherBelowTheTopDoesNotEndIt)
 {
     const Texts three = { "YRRRRR", "YRRG" };

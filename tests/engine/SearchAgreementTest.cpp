@@ -169,6 +169,20 @@ TEST(SolutionPaths, AreJoinedByMovesFromEndToEnd)
     }
 }
 
+// From here ways of more than thirteen lines turn up long before enough children were examined.
+TEST(SolutionSearch, EndsWhereWaysOfMoreThanThirteenLinesAreFollowed)
+{
+    const auto countWith = [](unsigned path) {
+        Tree tree(line("YRGBG"), sevenMoves(), 0, 0);
+        tree.makeTreeOfDepth({ 15000, 12, path }, nullptr);
+        return tree.count();
+    };
+    const std::size_t count = SolutionSearch(sevenMoves()).treeFrom(line("YRGBG")).count();
+    EXPECT_EQ(count, countWith(13));
+    EXPECT_GT(count, countWith(12));
+    EXPECT_LT(count, countWith(14));
+}
+
 TEST(SolutionSearch, AnswersTheSameHoweverManyRootsCameBetween)
 {
     SolutionSearch search(sevenMoves());

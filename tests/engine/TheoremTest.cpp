@@ -47,6 +47,15 @@ INSTANTIATE_TEST_SUITE_P(Table, Matches,
         MatchCase { "", &kGreenToEnd, {} }, //
         MatchCase { "", &kDoubling, {} }));
 
+// A line of no chips is searched too, once: it has one place for a pattern to match.
+TEST(Matches, AnEmptyLineIsSearchedOnce)
+{
+    const Rule anything("R*", "G");
+    EXPECT_EQ(line("").matchesWithRule(anything), (Ranges { { 0, 0 } }));
+    EXPECT_EQ(line("").applyRule(anything, 0), line("G"));
+    EXPECT_EQ(line("Y").matchesWithRule(anything), (Ranges { { 0, 0 } }));
+}
+
 struct RewriteCase {
     const char* text;
     const Rule* rule;
