@@ -61,6 +61,9 @@ int Analysis::findTreeCountFromTheorem(
 int Analysis::ruleIndexFromTheorem(const Theorem& from, const Theorem& to) const
 {
     int found = kNoRule;
+    if (!from.hasText() || !to.hasText()) {
+        return found; // no move makes a line without a text, which is not the one of no chips
+    }
     for (std::size_t rule = 0; rule < m_rules->size(); ++rule) {
         if (leadsTo(rule, from, to)) {
             found = static_cast<int>(rule);

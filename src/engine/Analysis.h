@@ -29,6 +29,9 @@ inline constexpr int kNoRule = -1;
 // joins two lines, and the designers' questions about one tree. Rule sequences are strings of
 // digits, one a move: the index of the rule used.
 //
+// An analysis is for one thread at a time, and so are its copies together: they share what their
+// searches remember. Each thread makes its own; the rules may be shared.
+//
 // "Nothing" (nullopt) is not the same as an empty list: it says that no node qualified at all.
 class Analysis {
 public:

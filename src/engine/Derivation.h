@@ -19,12 +19,14 @@ template <class Line> struct Derivation {
     unsigned examined = 0; // children looked at, kept or dropped
     unsigned result = kGoalNotFound; // the index of the line whose child was the goal
 
-    // Makes sure that so many more lines can be written behind the last one.
+    // Makes sure that so many more lines can be written behind the last one. There is room for a
+    // parent wherever there is for a line, also after memory has run out in between.
     void makeRoomFor(std::size_t more)
     {
         if (lines.size() - count < more) {
-            lines.resize(2 * lines.size() + more);
-            parents.resize(lines.size());
+            const std::size_t room = 2 * lines.size() + more;
+            parents.resize(room);
+            lines.resize(room);
         }
     }
 

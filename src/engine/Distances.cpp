@@ -1,15 +1,29 @@
 #include "engine/Distances.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 
 namespace veyrand::engine {
 
+namespace {
+
+unsigned possible(unsigned longest)
+{
+    if (longest > Distances::kMostChips) {
+        throw std::invalid_argument("distances are known for lines of up to "
+            + std::to_string(Distances::kMostChips) + " chips only");
+    }
+    return longest;
+}
+
+} // namespace
+
 Distances::Distances(const PackedMoves& moves, unsigned longest)
     : m_moves(moves)
-    , m_longest(longest)
+    , m_longest(possible(longest))
     , m_addsNoYellow(moves.addNoYellow())
-    , m_oneYellow(m_addsNoYellow ? longest : 0)
+    , m_oneYellow(m_addsNoYellow ? m_longest : 0)
 {
 }
 

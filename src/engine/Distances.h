@@ -17,7 +17,10 @@ namespace veyrand::engine {
 // roots and keeps its memory between them.
 class Distances {
 public:
-    // The limit is in chips, at most PackedLine::kMostChips.
+    // Beyond this no computer has the memory for all lines.
+    static constexpr unsigned kMostChips = 16;
+
+    // The limit is in chips. Throws std::invalid_argument above kMostChips.
     Distances(const PackedMoves& moves, unsigned longest);
 
     // Calls visit(distance, lines) with all lines of each distance, nearest first. Distance 0 is

@@ -58,11 +58,11 @@ std::optional<HintMatrix> HintHelper::nextTheoremAsMatrix() const
 
 unsigned HintHelper::lastGoodRow() const
 {
-    const auto lines = static_cast<unsigned>(m_proof->lines().size());
+    const auto lines = static_cast<unsigned>(m_proof->lines().size()); // none on a cleared board
     if (nextTheorem()) {
         return lines - 1;
     }
-    for (unsigned row = lines - 1; row-- > 0;) {
+    for (unsigned row = std::max(lines, 1U) - 1; row-- > 0;) {
         if (solutionFromRow(*m_proof, row)) {
             return row;
         }

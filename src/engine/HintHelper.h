@@ -16,7 +16,7 @@ using HintMatrix = std::map<char, unsigned>;
 
 // Works out what the player should do next: the line to make, or, when the last lines lead nowhere,
 // the row to go back to. The controller makes one for a hint and drops it when the proof changes;
-// it answers for the lines that stood when it was made.
+// it answers for the lines that stood when it was made. It is for its proof's thread.
 class HintHelper {
 public:
     explicit HintHelper(std::shared_ptr<const Proof> proof);

@@ -13,8 +13,9 @@ constexpr unsigned kFewestBits = 15;
 } // namespace
 
 PackedLineSet::PackedLineSet()
+    : m_table(std::size_t { 1 } << kFewestBits, 0)
+    , m_shift(kWordBits - kFewestBits)
 {
-    resize(kFewestBits);
 }
 
 void PackedLineSet::clear()
@@ -22,21 +23,17 @@ void PackedLineSet::clear()
     std::fill(m_table.begin(), m_table.end(), 0);
 }
 
+// Where there is no memory for more, the set stays as it was.
 void PackedLineSet::grow()
 {
-    const std::vector<std::uint64_t> old = std::move(m_table);
-    resize(kWordBits - m_shift + 1);
-    for (const std::uint64_t word : old) {
+    std::vector<std::uint64_t> table(2 * m_table.size(), 0);
+    m_table.swap(table);
+    --m_shift;
+    for (const std::uint64_t word : table) {
         if (word != 0) {
             insert(PackedLine(word));
         }
     }
-}
-
-void PackedLineSet::resize(unsigned bits)
-{
-    m_table.assign(std::size_t { 1 } << bits, 0);
-    m_shift = kWordBits - bits;
 }
 
 } // namespace veyrand::engine

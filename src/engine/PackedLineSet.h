@@ -56,10 +56,9 @@ private:
         return static_cast<std::size_t>(line.word() * kGoldenRatio >> m_shift);
     }
     void grow();
-    void resize(unsigned bits);
 
     std::vector<std::uint64_t> m_table;
-    unsigned m_shift = 0;
+    unsigned m_shift; // so many of the hash's bits are too many
 };
 
 } // namespace veyrand::engine

@@ -13,7 +13,8 @@ namespace veyrand::engine {
 
 // One puzzle in play: where it starts, where it must lead, the moves allowed and the lines derived
 // so far, the root first. The current game makes one a puzzle. It knows nothing of the board, its
-// limits or which moves are open to the player.
+// limits or which moves are open to the player. For one thread at a time, its copies together with
+// it: asking for a solution changes what their common analysis remembers.
 class Proof {
 public:
     Proof(Theorem root, Theorem goal, SharedRules rules);

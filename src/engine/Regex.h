@@ -10,8 +10,8 @@ namespace veyrand::engine {
 // The few regular-expression operations the game needs, with the pattern syntax and the replacement
 // rules of ICU. Each byte of a text is one character, so that columns and bytes are the same thing.
 //
-// Compiled patterns are kept from call to call. A pattern that does not compile (the empty one
-// included) matches nowhere.
+// Compiled patterns are kept from call to call, by each thread for itself. A pattern that does not
+// compile (the empty one included) matches nowhere.
 
 [[nodiscard]] bool isRegexValid(std::string_view pattern);
 

@@ -15,7 +15,8 @@ inline constexpr TreeLimits kSolutionLimits { 15000, 12, 13 };
 // Finds ways from one line to another. The goal plays no part in the order in which a search meets
 // its lines, so one tree answers every goal of its root: the trees of the roots last asked about
 // are kept, enough of them for every row of a board, and a second hint on the same board costs next
-// to nothing. Every proof has one, through its analysis.
+// to nothing. Every proof has one, through its analysis. For one thread at a time: every question
+// changes what is kept.
 class SolutionSearch {
 public:
     explicit SolutionSearch(SharedRules rules);

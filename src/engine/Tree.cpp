@@ -23,13 +23,16 @@ constexpr unsigned kMostChildrenKeptInMind = 100000;
 Derivation<PackedLine> derivePacked(const PackedMoves& moves, PackedLine root,
     const TreeLimits& limits, const std::optional<PackedLine>& goal)
 {
-    thread_local PackedWorkspace workspace;
-    derive(moves, root, limits, goal ? &*goal : nullptr, workspace.seen, workspace.kept);
-    Derivation<PackedLine> derivation = workspace.kept.trimmed();
+    const auto deriveIn = [&](PackedWorkspace& workspace) {
+        derive(moves, root, limits, goal ? &*goal : nullptr, workspace.seen, workspace.kept);
+        return workspace.kept.trimmed();
+    };
     if (limits.children > kMostChildrenKeptInMind) {
-        workspace = PackedWorkspace();
+        PackedWorkspace ownWorkspace;
+        return deriveIn(ownWorkspace);
     }
-    return derivation;
+    thread_local PackedWorkspace workspace;
+    return deriveIn(workspace);
 }
 
 Theorem theoremOf(PackedLine line)

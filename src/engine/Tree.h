@@ -20,7 +20,8 @@ namespace veyrand::engine {
 //
 // The search runs on packed lines where the rules and the root allow it, else on texts; the answers
 // are the same. It keeps lines only, and makes nodes of them when asked for. A node or path handed
-// out lives on after the tree.
+// out lives on after the tree. Making nodes changes what is kept, so a tree is for one thread at a
+// time, even where it is const; nodes that have been handed out are anybody's to read.
 class Tree {
 public:
     // Nothing is built unless both limits are positive.

@@ -111,6 +111,20 @@ TEST(RuleIndex, RulesWithoutAFastFormAreTriedByTheirPatterns)
     EXPECT_EQ(analysis.ruleIndexFromTheorem(line("YRR"), line("YG")), kNoRule);
 }
 
+TEST(RuleIndex, NoMoveMakesOrTakesALineWithoutAText)
+{
+    const auto packed = std::make_shared<const Rules>(Rules { { "GG", "" } });
+    const auto plain = std::make_shared<const Rules>(Rules { { "G+", "" }, { ".*", "G" } });
+    ASSERT_TRUE(PackedMoves::derive(*packed) && !PackedMoves::derive(*plain));
+    for (const SharedRules& rules : { packed, plain }) {
+        const Analysis analysis(nullptr, rules);
+        EXPECT_EQ(analysis.ruleIndexFromTheorem(line("GG"), line("")), 0);
+        EXPECT_EQ(analysis.ruleIndexFromTheorem(line("GG"), Theorem()), kNoRule);
+        EXPECT_EQ(analysis.ruleIndexFromTheorem(Theorem(), line("G")), kNoRule);
+        EXPECT_EQ(analysis.ruleIndexFromTheorem(Theorem(), Theorem()), kNoRule);
+    }
+}
+
 TEST(RuleIndex, CountsAMatchThatIsNotTheFirst)
 {
     EXPECT_EQ(analysisWithoutTree().ruleIndexFromTheorem(line("YRRRR"), line("YRG")), 2);
@@ -287,6 +301,22 @@ TEST(UniqueNodes, DropsTheRootsLineWhereItIsDerivedAgain)
     for (const std::string& text : textsOf(*unique)) {
         EXPECT_NE(text, "YGG");
     }
+}
+
+// The root's line stands twice among the shorter ways, and is counted twice.
+TEST(UniqueNodes, TellHowManyNodesAreShorterRepeatsIncluded)
+{
+    const Analysis analysis = analysisOf("YGG");
+    const auto n
+        = static_cast<unsigned>(analysis.findPathsWithTheorem(line("YGG"))->back().size() + 1);
+    std::size_t shorter = 0;
+    for (unsigned length = 1; length < n; ++length) {
+        shorter += analysis.nodesOfPathLength(length)->size();
+    }
+    RecordingLog log;
+    (void)analysis.uniqueNodesOfPathLength(n, log);
+    EXPECT_EQ(log.entries[1],
+        "Thinning list for: " + std::to_string(n) + " (" + std::to_string(shorter) + " to thin)");
 }
 
 TEST(UniqueNodes, OfALengthWithoutNodesLogsAllTheSame)

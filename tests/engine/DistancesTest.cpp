@@ -7,6 +7,7 @@
 #include <numeric>
 #include <random>
 #include <set>
+#include <stdexcept>
 
 namespace veyrand::engine {
 namespace {
@@ -63,6 +64,15 @@ TEST(Distances, RulesThatAddYellowsAreServedToo)
     Distances distances(*moves, 4);
     EXPECT_EQ(distances.countsFrom(packed("RR")), (Counts { 1, 2, 1 }));
     EXPECT_GT(distances.bytes(), 0U);
+}
+
+TEST(Distances, MoreChipsThanAnyMemoryHoldsAreRefused)
+{
+    const PackedMoves moves = *PackedMoves::derive(*sevenMoves());
+    EXPECT_NO_THROW(Distances(*PackedMoves::derive({ { "R", "YY" } }), Distances::kMostChips));
+    for (const unsigned longest : { 17U, 31U, 32U, 4000000000U }) {
+        EXPECT_THROW(Distances(moves, longest), std::invalid_argument) << longest;
+    }
 }
 
 TEST(OneYellowSet, HoldsEveryLineWithOneYellowAtMostApart)

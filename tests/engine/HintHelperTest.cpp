@@ -78,6 +78,15 @@ TEST(HintHelper, AnswersRowZeroWhereNoRowIsGood)
     EXPECT_EQ(helper.lastGoodRow(), 0U);
 }
 
+TEST(HintHelper, AClearedBoardHasNothingToGoBackTo)
+{
+    const auto proof = std::make_shared<Proof>(line("YR"), line("YRG"), sevenMoves());
+    proof->removeLine(0);
+    const HintHelper helper(proof);
+    EXPECT_EQ(helper.nextTheorem(), std::nullopt);
+    EXPECT_EQ(helper.lastGoodRow(), 0U);
+}
+
 TEST(HintHelper, ThirteenLinesLeaveNoRoomForAnother)
 {
     std::vector<std::string> lines(13, "YR");

@@ -3,6 +3,7 @@
 #include "EngineSupport.h"
 
 #include <gtest/gtest.h>
+#include <type_traits>
 
 namespace veyrand::engine {
 namespace {
@@ -36,10 +37,14 @@ TEST(TreeNode, GivesItsChildrenItselfAsParentAndItsRules)
     TreeNode node(nullptr, line("YR"), sevenMoves());
     node.makeChildren();
     ASSERT_EQ(node.children().size(), 2U);
-    EXPECT_EQ(node.children()[1].parent(), &node);
-    EXPECT_EQ(node.children()[1].rules(), sevenMoves());
+    EXPECT_EQ(node.children().back().parent(), &node);
+    EXPECT_EQ(node.children().back().rules(), sevenMoves());
     EXPECT_EQ(node.parent(), nullptr);
 }
+
+// A copy's children would point at the original.
+static_assert(!std::is_copy_constructible_v<TreeNode> && !std::is_copy_assignable_v<TreeNode>);
+static_assert(!std::is_move_constructible_v<TreeNode> && !std::is_move_assignable_v<TreeNode>);
 
 TEST(TreeNode, HasNoChildrenWhereNoRuleApplies)
 {

@@ -158,11 +158,10 @@ class DistancesCommand final : public Command {
 public:
     void declare(CLI::App& arguments) override
     {
-        constexpr unsigned kLongest = 16;
         arguments.add_option("ROOT", m_root, "Where to start")->required()->check(plainLine());
         arguments.add_option("--length", m_length, "Chips a line may have")
             ->capture_default_str()
-            ->check(CLI::Range(1U, kLongest));
+            ->check(CLI::Range(1U, engine::Distances::kMostChips));
     }
 
     Json run() override
