@@ -1,69 +1,13 @@
-#include "progress/PlayerKeys.h"
-#include "support/PlayedGame.h"
+#include "controller/HistoryFixture.h"
+#include "play/Decide.h"
 
 #include <gmock/gmock.h>
+#include <random>
 
 namespace veyrand::controller {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-namespace {
-
-app::VirtualGame::Options richPlayer()
-{
-    app::VirtualGame::Options options;
-    options.preferences.records[progress::playerRecordKey(progress::kDefaultPlayerName)]
-        = { { std::string(progress::kLevelKey), std::int64_t { 5 } },
-              { std::string(progress::kStageKey), std::int64_t { 1 } },
-              { std::string(progress::kScoreKey), std::int64_t { 1000 } },
-              { std::string(progress::kFirstHintClickKey), true } };
-    return options;
-}
-
-} // namespace
-
-class HistoryTest : public test::PlayedGame {
-protected:
-    HistoryTest()
-        : PlayedGame(richPlayer())
-    {
-    }
-
-    void undo() { game().key(QStringLiteral("Ctrl+Z")); }
-    void redo() { game().key(QStringLiteral("Ctrl+Shift+Z")); }
-    void hint()
-    {
-        click("button-lightbulboff");
-        settle();
-    }
-    [[nodiscard]] History& history() { return game().controller().history(); }
-
-    // Every row reads as its line, each but the first has its button, and there is no chip more.
-    void expectBoardShowsTheLines()
-    {
-        std::size_t chips = 0;
-        unsigned number = 0;
-        for (const std::string& line : lines()) {
-            EXPECT_EQ(row(number), line) << number;
-            EXPECT_EQ(table().contains(board::deleteButtonKey(number)), number > 0) << number;
-            chips += line.size();
-            ++number;
-        }
-        EXPECT_EQ(test::keysFrom(table(), "chip-").size(), chips);
-        EXPECT_EQ(test::keysFrom(table(), "delete-").size(), lines().size() - 1);
-        EXPECT_FALSE(table().contains("temporaryGreen"));
-    }
-
-    // The picture once everything has come to rest and the pointer has gone aside.
-    QImage atRest()
-    {
-        game().move({ .x = 1.59, .y = 0.02 });
-        settle();
-        settle();
-        return game().picture();
-    }
-};
 
 TEST_F(HistoryTest, UndoingAMoveTakesItsLineBackAsItsDeleteButtonWould)
 {
@@ -316,6 +260,33 @@ TEST_F(HistoryTest, AMoveShownAgainHasItsRowToItself)
     EXPECT_EQ(row(1), "YRR");
 }
 
+// Moves, removals and steps as they come, whether or not anything is being shown.
+TEST_F(HistoryTest, AnyMixOfStepsLeavesTheBoardThatTheLinesSay)
+{
+    std::mt19937 random(3);
+    const auto below = [&random](std::size_t count) { return random() % count; };
+    for (int round = 0; round < 30; ++round) {
+        play(below(2) == 0 ? "YGGR" : "YRRRG", "YBBBBB");
+        for (int step = 0; step < 40; ++step) {
+            const auto gestures = play::actions(game().controller().moves().position());
+            const std::size_t kind = below(10);
+            if (kind < 3) {
+                undo();
+            } else if (kind < 6) {
+                redo();
+            } else if (kind == 6 && lines().size() > 1 && table().contains("delete-1")) {
+                click("delete-1");
+            } else if (!gestures.empty()) {
+                make(gestures[below(gestures.size())]);
+            }
+            wait(0.1 * static_cast<double>(below(20)));
+        }
+        settle();
+        expectBoardShowsTheLines();
+        ASSERT_FALSE(HasFailure()) << "round " << round;
+    }
+}
+
 TEST_F(HistoryTest, HeldKeysDingTenTimesASecondAtMost)
 {
     play("YRR", "YB");
@@ -419,51 +390,6 @@ TEST_F(HistoryTest, CtrlYRedoesToo)
     settle();
     game().key(QStringLiteral("Ctrl+Y"));
     EXPECT_THAT(lines(), ElementsAre("YR", "YRR"));
-}
-
-TEST_F(HistoryTest, LeavesThePictureAsItWasPixelForPixel)
-{
-    struct Step {
-        const char* root;
-        std::vector<std::string> gesture; // a key to click, or two to drag between
-    };
-    const std::vector<Step> moves { { "YR", { "chip-1-0" } }, { "YRG", { "chip-0-0" } },
-        { "YRRRG", { "chip-1-0", "chip-3-0" } }, { "YGGR", { "chip-1-0", "chip-2-0" } },
-        { "YRGB", { "chip-0-0", "chip-2-0" } }, { "YGGR", { "chip-1-0" } },
-        { "YBRGBR", { "chip-1-0", "chip-4-0" } } };
-    for (const auto& [root, gesture] : moves) {
-        play(root, "YB");
-        const QImage before = atRest();
-        gesture.size() == 1 ? click(gesture[0]) : drag(gesture[0], gesture[1]);
-        const QImage after = atRest();
-        ASSERT_NE(before, after) << root;
-        undo();
-        EXPECT_EQ(atRest(), before) << root;
-        redo();
-        EXPECT_EQ(atRest(), after) << root;
-        click("delete-1");
-        EXPECT_EQ(atRest(), before) << root;
-        undo();
-        EXPECT_EQ(atRest(), after) << root;
-        redo();
-        wait(0.1);
-        undo();
-        EXPECT_EQ(atRest(), after) << root << ", the removal's redo cut short";
-    }
-}
-
-TEST_F(HistoryTest, LeavesThePictureOfAHintedLineAsItWas)
-{
-    play("YR", "YRRRRG");
-    hint();
-    hint();
-    const QImage after = atRest();
-    undo();
-    const QImage before = atRest();
-    redo();
-    EXPECT_EQ(atRest(), after);
-    undo();
-    EXPECT_EQ(atRest(), before);
 }
 
 } // namespace veyrand::controller
