@@ -6,6 +6,7 @@
 #include "app/Notices.h"
 #include "app/SystemInstallation.h"
 #include "controller/Game.h"
+#include "desktop/posix/UserJournal.h"
 #include "desktop/qt/DataFolder.h"
 #include "desktop/qt/FilePreferences.h"
 #include "desktop/qt/Logging.h"
@@ -47,7 +48,8 @@ public:
                      .quit = m_quit,
                      .overlay = m_overlay,
                      .window = m_windowModes,
-                     .installation = m_installation.installation() },
+                     .installation = m_installation.installation(),
+                     .journal = m_preferences.isHeldElsewhere() ? nullptr : m_journal.journal() },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -79,6 +81,9 @@ public:
         }
         m_preferences.setReporter(
             [this](const QString& message) { showTrouble(m_window, message); });
+        m_game.controller().kept().setReporter([this](const std::string& message) {
+            showTrouble(m_window, QString::fromStdString(message));
+        });
     }
 
     // The application's own loop has ended by now, and what is asked here still needs one to be
@@ -87,6 +92,9 @@ public:
     {
         m_window.hide();
         m_sounds.stopLoop();
+        if (const std::string words = m_game.controller().kept().lastWords(); !words.empty()) {
+            showLastTrouble(m_window, QString::fromStdString(words));
+        }
         QEventLoop lastQuestions;
         bool isDone = false;
         m_game.controller().applicationWillTerminate([&] {
@@ -120,6 +128,7 @@ private:
 
     desktop::qt::QtRunLoop m_runLoop;
     desktop::qt::FilePreferences m_preferences;
+    desktop::posix::UserJournal m_journal;
     desktop::qt::OpenAlSounds m_sounds;
     desktop::qt::SystemRandom m_random;
     desktop::qt::FileResources m_resources;

@@ -25,7 +25,11 @@ desktop::qt::GameMenu::Actions menuActions(
         .undo = [&controller] { controller.history().undo(); },
         .redo = [&controller] { controller.history().redo(); },
         .musicChanged = [&controller] { controller.musicMenuClick(); },
-        .settingsChanged = [&controller] { controller.answers().settingsChanged(); },
+        .settingsChanged =
+            [&controller] {
+                controller.answers().settingsChanged();
+                controller.kept().settingsChanged();
+            },
         .toggleFullScreen = [&controller] { controller.toggleFullscreen(); },
         .exitFullScreen = [&controller] { controller.exitFullscreen(); },
         .howToPlay = [&controller] { controller.showHowToPlay(); },

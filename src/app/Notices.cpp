@@ -33,6 +33,13 @@ void showTrouble(QWidget& window, const QString& message)
     box->open();
 }
 
+void showLastTrouble(QWidget& window, const QString& message)
+{
+    QMessageBox box(QMessageBox::Warning, window.windowTitle(), message, QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 void askAboutSecondCopy(QWidget& window, std::function<void()> quit)
 {
     QMessageBox* const box = boxOver(window, tr("Veyrand is already running."));

@@ -11,6 +11,9 @@ namespace veyrand::app {
 
 void showTrouble(QWidget& window, const QString& message);
 
+// The same once the window has gone: returns when it has been read.
+void showLastTrouble(QWidget& window, const QString& message);
+
 // Another Veyrand holds the preferences: the player may quit this one, or play without saving.
 void askAboutSecondCopy(QWidget& window, std::function<void()> quit);
 

@@ -57,7 +57,8 @@ VirtualGame::VirtualGame(const Options& options)
                                                     .quit = m_quit,
                                                     .overlay = m_overlay,
                                                     .window = m_window,
-                                                    .installation = m_installation.installation() },
+                                                    .installation = m_installation.installation(),
+                                                    .journal = options.journal },
           m_currentGame, m_gameData))
 {
     m_menu.connectActions(menuActions(controller(), [this] { ++m_timesAbout; }));
@@ -93,6 +94,7 @@ void VirtualGame::play(const progress::CurrentGame::Puzzle& puzzle)
     m_currentGame.loadPlayer(progress::currentPlayer(m_preferences), puzzle.mode);
     m_currentGame.placePuzzle(puzzle);
     controller().flow().layOutPuzzle();
+    controller().kept().begin();
 }
 
 void VirtualGame::move(Point place)

@@ -35,6 +35,7 @@ public:
         std::uint32_t seed = 1;
         platform::Preferences::Contents preferences {}; // over the registered defaults
         platform::Preferences* store = nullptr; // outlives the game; null for one in memory
+        platform::Journal* journal = nullptr; // outlives the game; null: nothing is kept
         QString dataFolder {};
     };
 

@@ -22,6 +22,7 @@ struct GamePorts {
     platform::OverlayWindow& overlay;
     platform::Window& window;
     const install::Installation& installation;
+    platform::Journal* journal = nullptr; // null: no puzzle outlasts the board
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -53,7 +54,8 @@ public:
             .quit = ports.quit,
             .overlay = ports.overlay,
             .window = ports.window,
-            .installation = ports.installation }
+            .installation = ports.installation,
+            .journal = ports.journal }
         , m_controller(m_context)
     {
     }

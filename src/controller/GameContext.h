@@ -4,6 +4,7 @@
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
 #include "install/Installation.h"
+#include "platform/Journal.h"
 #include "platform/Log.h"
 #include "platform/OverlayWindow.h"
 #include "platform/Preferences.h"
@@ -32,6 +33,7 @@ struct GameContext {
     platform::OverlayWindow& overlay;
     platform::Window& window;
     const install::Installation& installation;
+    platform::Journal* journal; // null: no puzzle outlasts the board
 };
 
 } // namespace veyrand::controller

@@ -13,6 +13,7 @@ GameController::GameController(GameContext& context)
     , m_hints(*this)
     , m_history(*this)
     , m_flow(*this)
+    , m_kept(*this)
     , m_lines(*this)
     , m_moves(*this)
     , m_titlePage(context)
@@ -29,6 +30,7 @@ GameController::GameController(GameContext& context)
 void GameController::awake(platform::Size viewSize)
 {
     updateContentViewFrame(viewSize);
+    m_kept.recoverAll();
     m_titlePage.createTitleAndStartButtons();
 }
 

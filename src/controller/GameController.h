@@ -6,6 +6,7 @@
 #include "controller/GameFlow.h"
 #include "controller/Hints.h"
 #include "controller/History.h"
+#include "controller/KeptGames.h"
 #include "controller/Messages.h"
 #include "controller/Moves.h"
 #include "controller/Pages.h"
@@ -37,6 +38,7 @@ public:
     [[nodiscard]] Hints& hints() { return m_hints; }
     [[nodiscard]] History& history() { return m_history; }
     [[nodiscard]] GameFlow& flow() { return m_flow; }
+    [[nodiscard]] KeptGames& kept() { return m_kept; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
     [[nodiscard]] Messages& messages() { return m_messages; }
     [[nodiscard]] Pages& pages() { return m_pages; }
@@ -85,6 +87,7 @@ private:
     Hints m_hints;
     History m_history;
     GameFlow m_flow;
+    KeptGames m_kept;
     ProofLines m_lines;
     Moves m_moves;
     TitlePage m_titlePage;

@@ -1,9 +1,11 @@
 #include "controller/GameFlow.h"
 
 #include "controller/GameController.h"
+#include "play/ActionText.h"
 #include "progress/PlayerRecord.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace veyrand::controller {
 
@@ -47,7 +49,16 @@ std::variant<play::Outcome, play::Refusal> GameFlow::apply(const play::Action& a
     if (!m_session) {
         return play::Refusal { play::Reason::Busy };
     }
-    return m_session->apply(action);
+#ifndef NDEBUG
+    if (play::parse(play::print(action)) != action) {
+        throw std::logic_error("an action is not what its text says: " + play::print(action));
+    }
+#endif
+    auto answer = m_session->apply(action);
+    if (std::holds_alternative<play::Outcome>(answer)) {
+        m_controller.kept().add(action);
+    }
+    return answer;
 }
 
 play::Puzzle GameFlow::puzzleInPlay() const
@@ -114,13 +125,15 @@ void GameFlow::startClassicGame()
     if (m_game.currentGame.level() == 1 && m_game.currentGame.stage() == 1) {
         m_controller.pages().show("howToPlayMessageWindow");
     } else {
-        m_controller.pages().showMessageForNewGame(Pages::Arrival::Resuming);
+        m_controller.pages().showMessageForNewGame(m_controller.kept().takeSolvedAtLaunch()
+                ? Pages::Arrival::Solving
+                : Pages::Arrival::Resuming);
     }
 }
 
 void GameFlow::startEndlessGame()
 {
-    layOutPuzzle();
+    layOutKeptOrNewPuzzle();
     startMusic();
 }
 
@@ -128,7 +141,7 @@ void GameFlow::loadClassicPuzzle()
 {
     repairPosition();
     m_game.currentGame.newPlayer(playerName());
-    layOutPuzzle();
+    layOutKeptOrNewPuzzle();
     startMusic();
 }
 
@@ -147,6 +160,40 @@ void GameFlow::repairPosition()
     const bool nothingSaved = level == 0 && stage == 0;
     setStageAndLevelAndScore(1, 1, nothingSaved ? 0 : m_game.currentGame.score());
     m_game.currentGame.loadPlayer(playerName(), CurrentGame::Mode::Classic);
+}
+
+void GameFlow::layOutKeptOrNewPuzzle()
+{
+    const auto mode
+        = m_game.currentGame.endlessGame() ? progress::Mode::Endless : progress::Mode::Classic;
+    if (auto kept = m_controller.kept().take(mode)) {
+        resume(*std::move(kept));
+    } else {
+        layOutPuzzle();
+        m_controller.kept().begin();
+    }
+}
+
+// The puzzle as it was left, without a sound: what it shows has been heard.
+void GameFlow::resume(play::Replay kept)
+{
+    CurrentGame& game = m_game.currentGame;
+    const play::Puzzle& puzzle = *kept.puzzle();
+    game.placePuzzle({ .root = puzzle.root,
+        .goal = puzzle.goal,
+        .par = puzzle.par,
+        .level = game.level(),
+        .stage = game.stage(),
+        .mode = puzzle.mode });
+    game.addToScore(kept.purse() - puzzle.saved);
+    layOutPuzzle();
+    m_session.emplace(std::move(kept), game.proof());
+    for (unsigned row = 1; row < m_session->lines().size(); ++row) {
+        m_game.board.lines.createChipsForTheorem(m_session->lines()[row].theorem(), row);
+        m_game.board.lines.createDeleteButton(row);
+    }
+    m_controller.hints().drawAsLeft();
+    m_controller.answers().puzzleLaidOut();
 }
 
 void GameFlow::layOutPuzzle()
@@ -184,10 +231,12 @@ void GameFlow::nextLevel()
         game.generateEndlessProofForPar(game.endlessPar());
         layOutPuzzle();
         saveEndlessScore();
+        m_controller.kept().begin();
     } else {
         game.nextLevel();
         layOutPuzzle();
         setStageAndLevelAndScore(game.stage(), game.level(), game.score());
+        m_controller.kept().begin();
         m_controller.pages().showMessageForNewGame(Pages::Arrival::Solving);
     }
 }
@@ -199,12 +248,14 @@ void GameFlow::finishClassicGame()
     m_controller.hints().resetHintMode();
     m_session.reset();
     setStageAndLevelAndScore(game.stage(), game.level(), game.score());
+    m_controller.kept().forget(progress::Mode::Classic);
     m_game.board.panel.drawCounters();
     m_controller.pages().show("classicGameFinished");
 }
 
 void GameFlow::returnToMenu()
 {
+    m_controller.kept().close();
     m_controller.messages().dismiss();
     m_controller.hints().resetHintMode();
     m_game.sounds.stopLoop();

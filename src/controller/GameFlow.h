@@ -60,6 +60,8 @@ public:
 private:
     [[nodiscard]] play::Puzzle puzzleInPlay() const;
     void loadClassicPuzzle();
+    void layOutKeptOrNewPuzzle();
+    void resume(play::Replay kept);
     void repairPosition();
     void finishClassicGame();
     void cleanUpProofForPar(int par);

@@ -97,8 +97,7 @@ void Hints::showPieces()
 {
     m_game.effects.play("Chimes");
     m_game.board.hints.clearProofGoodSoFar();
-    const engine::HintHelper helper(m_controller.proof());
-    m_game.board.hints.drawHintMatrix(helper.nextTheoremAsMatrix().value());
+    drawPieces();
 }
 
 void Hints::placePieces()
@@ -153,6 +152,22 @@ void Hints::resetHintMode()
 {
     clearHint();
     m_game.board.hints.clearProofGoodSoFar();
+}
+
+void Hints::drawAsLeft()
+{
+    const play::Session& session = *m_controller.flow().session();
+    if (session.isMarked()) {
+        m_game.board.hints.drawProofGoodSoFar();
+    } else if (session.hintStage() == play::HintStage::Pieces) {
+        drawPieces();
+    }
+}
+
+void Hints::drawPieces()
+{
+    const engine::HintHelper helper(m_controller.proof());
+    m_game.board.hints.drawHintMatrix(helper.nextTheoremAsMatrix().value());
 }
 
 void Hints::clearHint()

@@ -26,6 +26,8 @@ public:
 
     // Takes any hint on the current line off the board.
     void resetHintMode();
+    // What was left of a hint on the last line, on a board that has been laid out anew.
+    void drawAsLeft();
     // Takes away the hint's chips.
     void clearHint();
 
@@ -38,6 +40,7 @@ private:
     [[nodiscard]] play::HintStage stage() const;
     void show(play::Hint::Kind kind, const play::Outcome& outcome);
     void showPieces();
+    void drawPieces();
     void placePieces();
     void completeHint();
     void walkBack(const play::Outcome& outcome);

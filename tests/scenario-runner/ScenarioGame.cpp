@@ -1,6 +1,7 @@
 #include "ScenarioGame.h"
 
 #include "ScriptValues.h"
+#include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 
 #include <QDir>
@@ -9,6 +10,15 @@ namespace veyrand::scenario {
 
 using app::VirtualGame;
 using progress::CurrentGame;
+
+namespace {
+
+QString chipAt(unsigned row, unsigned column)
+{
+    return QString::fromStdString(board::generateKeyChipKey(column, row));
+}
+
+} // namespace
 
 ScenarioGame::ScenarioGame(QJSEngine& engine, Settings settings)
     : m_engine(engine)
@@ -19,6 +29,10 @@ ScenarioGame::ScenarioGame(QJSEngine& engine, Settings settings)
 
 VirtualGame& ScenarioGame::game()
 {
+    if (m_hasEnded) {
+        m_engine.throwError(
+            QStringLiteral("the game has ended; game.restart() starts it on what it saved"));
+    }
     if (!m_game) {
         start();
     }
@@ -42,8 +56,49 @@ void ScenarioGame::start(const QJSValue& options)
             progress::playerRecordKey(platform::stringForKey(named, progress::kPlayerNameKey)),
             toRecord(record));
     }
+    const bool journal = field(options, "journal", false).toBool();
+    end();
+    m_preferences = std::make_unique<platform::MemoryPreferences>();
+    m_journal = journal ? std::make_unique<platform::MemoryJournal>() : nullptr;
+    made.store = m_preferences.get();
+    made.journal = m_journal.get();
+    m_options = made;
+    restart();
+    m_options.preferences = {}; // they stand in the store, as far as nobody has changed them
+}
+
+void ScenarioGame::end()
+{
     m_game.reset();
-    m_game = std::make_unique<VirtualGame>(made);
+    m_hasEnded = true;
+}
+
+void ScenarioGame::quit()
+{
+    game().controller().context().quit.terminate();
+    const std::string trouble = game().controller().kept().lastWords();
+    end();
+    m_hasQuit = true;
+    if (!trouble.empty()) {
+        m_engine.throwError(QString::fromStdString(trouble));
+    }
+}
+
+void ScenarioGame::kill()
+{
+    static_cast<void>(game());
+    end();
+}
+
+void ScenarioGame::restart()
+{
+    if (!m_preferences) {
+        return start();
+    }
+    end();
+    m_hasEnded = false;
+    m_hasQuit = false;
+    m_game = std::make_unique<VirtualGame>(m_options);
     m_game->launch();
 }
 
@@ -307,6 +362,36 @@ bool ScenarioGame::blocked()
     return game().game().view().block().blockClick();
 }
 
+QJSValue ScenarioGame::actions()
+{
+    const auto& controller = game().controller();
+    QJSValue list = m_engine.newArray();
+    if (blocked() || controller.hasMessageWindow() || controller.dialogueState() != 0) {
+        return list;
+    }
+    quint32 count = 0;
+    for (const play::Gesture& gesture : play::actions(game().controller().moves().position())) {
+        QJSValue action = m_engine.newObject();
+        if (const auto* const click = std::get_if<play::Click>(&gesture)) {
+            action.setProperty(QStringLiteral("click"), chipAt(click->row, click->column));
+        } else if (const auto* const drag = std::get_if<play::Drag>(&gesture)) {
+            QJSValue ends = m_engine.newArray(2);
+            ends.setProperty(0, chipAt(drag->fromRow, drag->from));
+            ends.setProperty(1, chipAt(drag->toRow, drag->to));
+            action.setProperty(QStringLiteral("drag"), ends);
+        }
+        list.setProperty(count++, action);
+    }
+    return list;
+}
+
+QString ScenarioGame::hash()
+{
+    const play::Session* const session = game().controller().flow().session();
+    return QStringLiteral("%1").arg(
+        session != nullptr ? session->hash() : play::Replay().hash(), 16, 16, QLatin1Char('0'));
+}
+
 QJSValue ScenarioGame::sounds()
 {
     return toScript(m_engine, game().sounds().takePlayed());
@@ -363,7 +448,7 @@ QJSValue ScenarioGame::overlay()
 
 bool ScenarioGame::terminated()
 {
-    return game().quit().terminated();
+    return m_hasQuit || game().quit().terminated();
 }
 
 } // namespace veyrand::scenario

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/VirtualGame.h"
+#include "platform/fakes/MemoryJournal.h"
 
 #include <QJSEngine>
 #include <QJSValue>
@@ -27,6 +28,9 @@ public:
     Q_INVOKABLE void start(const QJSValue& options = {});
     Q_INVOKABLE void play(const QJSValue& puzzle);
     Q_INVOKABLE void show(const QString& page);
+    Q_INVOKABLE void quit();
+    Q_INVOKABLE void kill();
+    Q_INVOKABLE void restart();
     Q_INVOKABLE void wait(double seconds);
 
     Q_INVOKABLE void move(const QJSValue& target);
@@ -63,6 +67,8 @@ public:
     Q_INVOKABLE int dialogueState();
     Q_INVOKABLE QString page();
     Q_INVOKABLE bool blocked();
+    Q_INVOKABLE QJSValue actions();
+    Q_INVOKABLE QString hash();
     Q_INVOKABLE QJSValue sounds();
     Q_INVOKABLE QJSValue music();
     Q_INVOKABLE QJSValue preference(const QString& key);
@@ -74,10 +80,17 @@ private:
     app::VirtualGame& game(); // started with the defaults when no script has
     std::optional<platform::Point> place(const QJSValue& target);
     [[nodiscard]] std::string recordKey();
+    void end();
 
     QJSEngine& m_engine;
     Settings m_settings;
+    // What outlasts the game.
+    std::unique_ptr<platform::MemoryPreferences> m_preferences;
+    std::unique_ptr<platform::MemoryJournal> m_journal;
+    app::VirtualGame::Options m_options;
     std::unique_ptr<app::VirtualGame> m_game;
+    bool m_hasEnded = false;
+    bool m_hasQuit = false;
 };
 
 } // namespace veyrand::scenario

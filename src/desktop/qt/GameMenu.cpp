@@ -100,6 +100,8 @@ void GameMenu::buildOptionsMenu()
     addSetting(menu, tr("&Remember a Press"), &progress::Settings::rememberPress);
     addSetting(menu, tr("F&orgiving Clicks"), &progress::Settings::forgivingClicks);
     menu.addSeparator();
+    addSetting(menu, tr("&Keep Unfinished Puzzles"), &progress::Settings::keepUnfinishedPuzzles);
+    menu.addSeparator();
     m_fullScreen = addItem(menu, tr("&Full Screen"), shortcut("F11"), &Actions::toggleFullScreen);
     m_fullScreen->setCheckable(true);
     // In no menu, but what everybody presses to get out.

@@ -1,0 +1,302 @@
+#include "controller/KeptGames.h"
+
+#include "controller/GameController.h"
+#include "progress/PlayerRecord.h"
+#include "progress/Settings.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace veyrand::controller {
+
+using play::Recovery;
+using play::Replay;
+using progress::Mode;
+
+namespace {
+
+// A journal that has grown to this is begun anew with a shorter list.
+constexpr std::size_t kMostLines = 1000;
+
+// What comes to this state, a line each.
+std::vector<std::string> journalOf(
+    const Replay& replay, std::string_view player, play::JournalWriter& writer)
+{
+    std::vector<std::string> lines { writer.head(player) };
+    Replay again;
+    for (const play::Action& action : replay.compact()) {
+        if (const std::string fault = again.apply(action); !fault.empty()) {
+            throw std::logic_error(fault);
+        }
+        lines.push_back(writer.line({ action, again.lastLine() }));
+    }
+    return lines;
+}
+
+} // namespace
+
+KeptGames::KeptGames(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+{
+}
+
+bool KeptGames::isWanted() const
+{
+    return m_game.journal != nullptr
+        && progress::readSettings(m_game.preferences).keepUnfinishedPuzzles;
+}
+
+std::string KeptGames::nameOf(Mode mode) const
+{
+    return play::journalName(progress::currentPlayer(m_game.preferences), mode);
+}
+
+play::Standing KeptGames::standingOf(Mode mode) const
+{
+    const auto record = progress::readPlayerRecord(
+        m_game.preferences, progress::currentPlayer(m_game.preferences));
+    return { .mode = mode,
+        .place = { record.level, record.stage },
+        .score = mode == Mode::Endless ? record.endlessScore : record.score,
+        .endlessPar = record.endlessPar };
+}
+
+void KeptGames::recoverAll()
+{
+    if (m_game.journal == nullptr) {
+        return;
+    }
+    m_isOn = isWanted();
+    for (const Mode mode : { Mode::Classic, Mode::Endless }) {
+        if (m_isOn) {
+            recover(mode);
+        } else {
+            m_game.journal->remove(nameOf(mode));
+        }
+    }
+}
+
+void KeptGames::recover(Mode mode)
+{
+    const platform::Journal::Text text = m_game.journal->read(nameOf(mode));
+    if (text.contents) {
+        recoverFrom(mode, *text.contents);
+    } else if (!text.fault.empty()) {
+        setAside(mode, "damaged", text.fault);
+    }
+}
+
+void KeptGames::recoverFrom(Mode mode, const std::string& contents)
+{
+    using State = play::JournalText::State;
+    const play::JournalText text
+        = play::readJournal(contents, progress::currentPlayer(m_game.preferences));
+    if (text.state == State::Newer) {
+        return setAside(mode, "newer", "a later version of the game has written it");
+    }
+    if (text.state == State::Foreign) {
+        m_game.log.write("The journal " + nameOf(mode) + " is of another player");
+        m_game.journal->keepAside(nameOf(mode), "aside");
+        return;
+    }
+    Recovery recovery
+        = play::recover(standingOf(mode), m_game.currentGame.catalogueOf(mode), text.entries);
+    std::string damage;
+    if (!recovery.fault.empty()) {
+        damage = "line " + std::to_string(recovery.replayed + 2) + ": " + recovery.fault;
+    } else if (text.state == State::Damaged) {
+        damage = "line " + std::to_string(text.damagedLine) + " is damaged";
+    }
+    if (!damage.empty()) {
+        setAside(mode, "damaged", damage);
+    }
+    found(mode, std::move(recovery), text,
+        damage.empty() && !contents.empty() && contents.back() == '\n');
+}
+
+void KeptGames::found(Mode mode, Recovery recovery, const play::JournalText& text, bool isWhole)
+{
+    switch (recovery.found) {
+    case Recovery::Found::InPlay: {
+        File& file = fileOf(mode);
+        file.kept = std::move(recovery.replay);
+        if (isWhole) {
+            file.writer = play::JournalWriter(text.checks.back());
+            file.lines = text.checks.size();
+            file.mayAppend = true;
+        } else {
+            write(mode, *file.kept);
+        }
+        return;
+    }
+    case Recovery::Found::Solved:
+        m_solvedAtLaunch = m_solvedAtLaunch || mode == Mode::Classic;
+        [[fallthrough]];
+    case Recovery::Found::Left:
+        save(recovery.standing);
+        break;
+    case Recovery::Found::Misfit:
+        m_game.log.write("The journal " + nameOf(mode)
+            + " is not of the puzzle at which the record stands, and is kept aside");
+        m_game.journal->keepAside(nameOf(mode), "aside");
+        return;
+    case Recovery::Found::Nothing:
+    case Recovery::Found::AlreadySaved:
+        break;
+    }
+    m_game.journal->remove(nameOf(mode));
+}
+
+void KeptGames::save(const play::Standing& standing)
+{
+    progress::PlayerRecordChange change;
+    if (standing.mode == Mode::Endless) {
+        change.endlessScore = standing.score;
+        change.endlessPar = standing.endlessPar;
+    } else {
+        change.level = standing.place.level;
+        change.stage = standing.place.stage;
+        change.score = standing.score;
+    }
+    progress::updatePlayerRecord(
+        m_game.preferences, progress::currentPlayer(m_game.preferences), change);
+}
+
+void KeptGames::setAside(Mode mode, std::string_view reason, const std::string& why)
+{
+    const std::string name = nameOf(mode);
+    const auto kept = m_game.journal->keepAside(name, reason);
+    report("The unfinished puzzle in " + name + " cannot be read to its end: " + why + ". "
+        + (kept ? "It is kept as " + *kept + '.' : "It cannot be set aside either."));
+}
+
+const Replay* KeptGames::inPlay() const
+{
+    const play::Session* const session = m_controller.flow().session();
+    return session != nullptr ? &session->settled() : nullptr;
+}
+
+void KeptGames::begin()
+{
+    const Mode mode = inPlay()->puzzle()->mode;
+    fileOf(mode) = File();
+    if (m_isOn) {
+        write(mode, *inPlay());
+    }
+}
+
+void KeptGames::add(const play::Action& action)
+{
+    const Replay& replay = *inPlay();
+    const Mode mode = replay.puzzle()->mode;
+    File& file = fileOf(mode);
+    if (!m_isOn || !file.mayAppend) {
+        return; // what came before is missing, and nothing can be found again without it
+    }
+    if (file.lines >= kMostLines && !replay.isOver()) {
+        return write(mode, replay);
+    }
+    ++file.lines;
+    failed(mode,
+        m_game.journal->append(nameOf(mode), file.writer.line({ action, replay.lastLine() })));
+}
+
+void KeptGames::write(Mode mode, const Replay& replay)
+{
+    File& file = fileOf(mode);
+    const auto lines = journalOf(replay, progress::currentPlayer(m_game.preferences), file.writer);
+    file.lines = lines.size();
+    file.mayAppend = true;
+    failed(mode, m_game.journal->begin(nameOf(mode), lines));
+}
+
+// Told once, until a write succeeds.
+void KeptGames::failed(Mode mode, const std::string& fault)
+{
+    if (!fault.empty()) {
+        fileOf(mode).mayAppend = false;
+        if (m_fault.empty()) {
+            report("The unfinished puzzle cannot be kept: " + fault + '.');
+        }
+    }
+    m_fault = fault;
+}
+
+void KeptGames::close()
+{
+    const Replay* const replay = inPlay();
+    if (m_isOn && replay != nullptr && !replay->isOver()) {
+        fileOf(replay->puzzle()->mode).kept = *replay;
+    }
+}
+
+void KeptGames::forget(Mode mode)
+{
+    fileOf(mode) = File();
+    m_solvedAtLaunch = m_solvedAtLaunch && mode != Mode::Classic;
+    if (m_game.journal != nullptr) {
+        m_game.journal->remove(nameOf(mode));
+    }
+}
+
+std::optional<Replay> KeptGames::take(Mode mode)
+{
+    auto kept = std::exchange(fileOf(mode).kept, std::nullopt);
+    const play::Standing record = standingOf(mode);
+    // Whoever changes the record behind the title page has another puzzle before him.
+    const bool fits = kept && record.score == kept->puzzle()->saved
+        && (mode == Mode::Endless || record.place == kept->puzzle()->place);
+    return fits ? std::move(kept) : std::nullopt;
+}
+
+bool KeptGames::takeSolvedAtLaunch()
+{
+    return std::exchange(m_solvedAtLaunch, false);
+}
+
+void KeptGames::settingsChanged()
+{
+    if (isWanted() == m_isOn) {
+        return;
+    }
+    m_isOn = !m_isOn;
+    const Replay* const replay = inPlay();
+    if (!m_isOn) {
+        forget(Mode::Classic);
+        forget(Mode::Endless);
+    } else if (replay != nullptr && !replay->isOver()) {
+        write(replay->puzzle()->mode, *replay);
+    }
+}
+
+void KeptGames::report(const std::string& message)
+{
+    m_game.log.write(message);
+    if (m_report) {
+        m_report(message);
+    } else {
+        m_unreported.push_back(message);
+    }
+}
+
+void KeptGames::setReporter(std::function<void(const std::string&)> report)
+{
+    m_report = std::move(report);
+    for (const std::string& message : std::exchange(m_unreported, {})) {
+        m_report(message);
+    }
+}
+
+std::string KeptGames::lastWords()
+{
+    if (!m_isOn) {
+        return {};
+    }
+    const std::string late = m_game.journal->drain();
+    const std::string& fault = late.empty() ? m_fault : late;
+    return fault.empty() ? std::string()
+                         : "The unfinished puzzle could not be kept: " + fault + '.';
+}
+
+} // namespace veyrand::controller

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "controller/GameContext.h"
+#include "play/JournalText.h"
+#include "play/Recovery.h"
+#include "play/Replay.h"
+
+#include <array>
+#include <functional>
+
+namespace veyrand::controller {
+
+class GameController;
+
+// Keeps the puzzle in play of each mode: writes down every action before it is shown, so that the
+// puzzle is found again as it was left: after a visit to the title page, and after the end of the
+// game, whatever ended it. Without a journal, or where the player has switched it off, nothing
+// outlasts the board.
+class KeptGames {
+public:
+    using Mode = progress::Mode;
+
+    explicit KeptGames(GameController& controller);
+
+    // Before anything is shown: looks what the last game left, and brings the record up to it.
+    void recoverAll();
+
+    // The puzzle on the board is a new one, and the record has been saved.
+    void begin();
+    // The puzzle in play has taken this, and it is about to be shown.
+    void add(const play::Action& action);
+    // The board is left for the title page.
+    void close();
+    // Nothing is to be found again of this mode.
+    void forget(Mode mode);
+
+    // What was kept of the mode, and not again; the record has been loaded.
+    [[nodiscard]] std::optional<play::Replay> take(Mode mode);
+    // How the next Classic puzzle is to be greeted: whether the last game ended between two.
+    [[nodiscard]] bool takeSolvedAtLaunch();
+
+    void settingsChanged();
+
+    // Where whatever goes wrong is told, in words for the player; what went wrong before is told
+    // now.
+    void setReporter(std::function<void(const std::string&)> report);
+    // Waits until everything is on the disk. What cannot be found again after all, in words; empty
+    // when all can.
+    [[nodiscard]] std::string lastWords();
+
+private:
+    // What is known of one mode's journal.
+    struct File {
+        std::optional<play::Replay> kept; // while another puzzle, or none, is on the board
+        play::JournalWriter writer {};
+        std::size_t lines = 0;
+        bool mayAppend = false;
+    };
+
+    [[nodiscard]] bool isWanted() const;
+    [[nodiscard]] const play::Replay* inPlay() const; // null when there is none
+    [[nodiscard]] File& fileOf(Mode mode) { return m_files.at(mode == Mode::Endless ? 1 : 0); }
+    [[nodiscard]] std::string nameOf(Mode mode) const;
+    [[nodiscard]] play::Standing standingOf(Mode mode) const;
+    void recover(Mode mode);
+    void recoverFrom(Mode mode, const std::string& contents);
+    void found(Mode mode, play::Recovery recovery, const play::JournalText& text, bool isWhole);
+    void save(const play::Standing& standing);
+    void setAside(Mode mode, std::string_view reason, const std::string& why);
+
+    void write(Mode mode, const play::Replay& replay);
+    void failed(Mode mode, const std::string& fault);
+    void report(const std::string& message);
+
+    GameController& m_controller;
+    GameContext& m_game;
+    std::array<File, 2> m_files;
+    bool m_isOn = false;
+    bool m_solvedAtLaunch = false;
+    std::string m_fault; // of the last write, until one succeeds
+    std::function<void(const std::string&)> m_report;
+    std::vector<std::string> m_unreported;
+};
+
+} // namespace veyrand::controller

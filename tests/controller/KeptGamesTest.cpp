@@ -1,0 +1,253 @@
+#include "app/VirtualGame.h"
+#include "platform/fakes/MemoryJournal.h"
+#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
+#include "support/Places.h"
+#include "support/QtEnvironment.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace veyrand::controller {
+
+using progress::Mode;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+namespace {
+
+const std::string kFile = "New-classic.txt";
+
+// One player at 2-4 (YRRRR to YR), and what outlasts his games: preferences and a journal.
+class KeptGamesTest : public ::testing::Test {
+protected:
+    KeptGamesTest()
+    {
+        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+            { .level = 2, .stage = 4, .score = 310, .firstHintClick = true });
+        launch();
+    }
+
+    // As after a kill.
+    void launch()
+    {
+        m_game.reset();
+        m_told.clear();
+        m_game = std::make_unique<app::VirtualGame>(
+            app::VirtualGame::Options { .store = &m_preferences,
+                .journal = &m_journal,
+                .dataFolder = QString::fromStdString(test::dataFolder()) });
+        m_game->launch();
+        kept().setReporter([this](const std::string& message) { m_told.push_back(message); });
+    }
+    void goOn() { m_game->controller().flow().startClassicGame(); }
+    // Doubles what follows the yellow of the last line.
+    void playOneMove()
+    {
+        const auto row = m_game->controller().lineCount() - 1;
+        m_game->controller().moves().mouseClick(row, 0);
+        m_game->wait(3.0);
+    }
+    void mergeReds()
+    {
+        const auto row = m_game->controller().lineCount() - 1;
+        m_game->controller().moves().mouseDrag(row, 1, row, 3);
+        m_game->wait(3.0);
+    }
+
+    [[nodiscard]] KeptGames& kept() { return m_game->controller().kept(); }
+    [[nodiscard]] std::vector<std::string> lines()
+    {
+        std::vector<std::string> lines;
+        for (const engine::Theorem& line : m_game->controller().proof()->lines()) {
+            lines.push_back(line.theorem());
+        }
+        return lines;
+    }
+    [[nodiscard]] std::string text(const std::string& name = kFile)
+    {
+        return m_journal.read(name).contents.value_or("(none)");
+    }
+    [[nodiscard]] std::vector<std::string> names() const
+    {
+        std::vector<std::string> names;
+        for (const auto& [name, contents] : m_journal.texts()) {
+            names.push_back(name);
+        }
+        return names;
+    }
+
+    platform::MemoryPreferences m_preferences;
+    platform::MemoryJournal m_journal;
+    std::unique_ptr<app::VirtualGame> m_game;
+    std::vector<std::string> m_told;
+};
+
+} // namespace
+
+TEST_F(KeptGamesTest, WritesEachActionBeforeItIsShown)
+{
+    goOn();
+    EXPECT_THAT(text(), HasSubstr("puzzle 2-4 YRRRR YR 4 310 0"));
+    m_game->controller().moves().mouseDrag(0, 1, 0, 3);
+    EXPECT_THAT(text(), HasSubstr("move 2 0 = YGR #"));
+    m_game->controller().deleteClick(1);
+    EXPECT_THAT(text(), HasSubstr("remove 1 = YRRRR #"));
+    EXPECT_THAT(m_told, IsEmpty());
+}
+
+TEST_F(KeptGamesTest, GoesOnWithTheSameFile)
+{
+    goOn();
+    mergeReds();
+    const std::string before = text();
+    launch();
+    goOn();
+    EXPECT_EQ(text(), before);
+    playOneMove();
+    EXPECT_EQ(text().substr(0, before.size()), before);
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR", "YGRGR"));
+    EXPECT_THAT(names(), ElementsAre(kFile));
+    EXPECT_THAT(m_told, IsEmpty());
+}
+
+TEST_F(KeptGamesTest, ADamagedLineTakesWhatFollowsAndIsSaid)
+{
+    goOn();
+    mergeReds();
+    playOneMove();
+    std::string damaged = text();
+    damaged[damaged.find("move 1 0")] = 'M';
+    m_journal.write(kFile, damaged);
+    launch();
+    EXPECT_THAT(m_told,
+        ElementsAre("The unfinished puzzle in New-classic.txt cannot be read to its end: line 4 is "
+                    "damaged. It is kept as New-classic.txt.damaged-1."));
+    EXPECT_EQ(text(kFile + ".damaged-1"), damaged);
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR"));
+    playOneMove();
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR", "YGRGR"));
+    EXPECT_THAT(m_told, IsEmpty()) << "it has been told";
+}
+
+// Whatever stands in the file, the game starts, and loses no more than it must.
+TEST_F(KeptGamesTest, AnyByteMayBeWrong)
+{
+    goOn();
+    mergeReds();
+    playOneMove();
+    const std::string whole = text();
+    for (std::size_t at = 0; at < whole.size(); at += 5) {
+        m_journal.write(kFile, whole);
+        std::string damaged = whole;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x15);
+        m_journal.write(kFile, damaged);
+        launch();
+        const auto line
+            = std::count(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+        ASSERT_EQ(m_told.size(), 1U) << at;
+        goOn();
+        ASSERT_EQ(lines().size(), line < 3 ? 1U : 2U) << at;
+    }
+}
+
+TEST_F(KeptGamesTest, ALineThatWasNeverEndedIsWrittenAnew)
+{
+    goOn();
+    mergeReds();
+    m_journal.write(kFile, text() + "move 1 0 = YGR");
+    launch();
+    EXPECT_THAT(m_told, IsEmpty());
+    goOn();
+    playOneMove();
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR", "YGRGR"));
+    EXPECT_THAT(names(), ElementsAre(kFile));
+}
+
+TEST_F(KeptGamesTest, WhatDoesNotFitTheRecordIsKeptAside)
+{
+    goOn();
+    mergeReds();
+    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName, { .score = 400 });
+    launch();
+    EXPECT_THAT(m_told, IsEmpty());
+    EXPECT_THAT(names(), ElementsAre(kFile + ".aside-1"));
+    EXPECT_THAT(m_game->log().lines(), ::testing::Contains(HasSubstr("New-classic.txt")));
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR"));
+}
+
+TEST_F(KeptGamesTest, ALaterFormatIsLeftToALaterVersion)
+{
+    m_journal.write(kFile, "veyrand-actions 2 New\n");
+    launch();
+    EXPECT_THAT(names(), ElementsAre(kFile + ".newer-1"));
+    ASSERT_EQ(m_told.size(), 1U);
+    EXPECT_THAT(m_told.front(), HasSubstr("a later version of the game has written it"));
+}
+
+TEST_F(KeptGamesTest, AFailedWriteIsToldOnceAndAgainAtTheEnd)
+{
+    goOn();
+    m_journal.failWith("No space left on device");
+    mergeReds();
+    playOneMove();
+    EXPECT_THAT(
+        m_told, ElementsAre("The unfinished puzzle cannot be kept: No space left on device."));
+    EXPECT_EQ(
+        kept().lastWords(), "The unfinished puzzle could not be kept: No space left on device.");
+    m_journal.failWith("");
+    playOneMove();
+    EXPECT_THAT(text(), ::testing::Not(HasSubstr("move"))) << "a line is missing before it";
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR"));
+    mergeReds();
+    EXPECT_EQ(kept().lastWords(), "");
+}
+
+TEST_F(KeptGamesTest, ALongJournalIsBegunAnew)
+{
+    goOn();
+    for (int i = 0; i < 600; ++i) { // which a mouse would take too long for
+        for (const play::Action& action :
+            { play::Action(play::Move { 1, 0 }), play::Action(play::Remove { 1 }) }) {
+            ASSERT_TRUE(
+                std::holds_alternative<play::Outcome>(m_game->controller().flow().apply(action)));
+        }
+    }
+    mergeReds();
+    const auto count
+        = [](const std::string& lines) { return std::count(lines.begin(), lines.end(), '\n'); };
+    EXPECT_LE(count(text()), 1000);
+    const std::uint64_t hash = m_game->controller().flow().session()->hash();
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR"));
+    EXPECT_EQ(m_game->controller().flow().session()->hash(), hash);
+}
+
+TEST_F(KeptGamesTest, EachPlayerHasHisOwn)
+{
+    goOn();
+    mergeReds();
+    m_preferences.setValue(progress::kPlayerNameKey, std::string("Zoë"));
+    progress::updatePlayerRecord(m_preferences, "Zoë", { .level = 2, .stage = 4, .score = 310 });
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR"));
+    m_preferences.setValue(progress::kPlayerNameKey, std::string("New"));
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR"));
+}
+
+} // namespace veyrand::controller
