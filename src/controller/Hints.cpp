@@ -166,8 +166,10 @@ void Hints::drawAsLeft()
 
 void Hints::drawPieces()
 {
-    const engine::HintHelper helper(m_controller.proof());
-    m_game.board.hints.drawHintMatrix(helper.nextTheoremAsMatrix().value());
+    // A kept game may say so where there are none.
+    if (const auto matrix = engine::HintHelper(m_controller.proof()).nextTheoremAsMatrix()) {
+        m_game.board.hints.drawHintMatrix(*matrix);
+    }
 }
 
 void Hints::clearHint()

@@ -265,7 +265,7 @@ std::variant<Action, Refusal> decide(const Position& position, const Gesture& ge
     if (const auto* const drag = std::get_if<Drag>(&gesture)) {
         return decideDrag(position, *drag);
     }
-    const Remove& remove = std::get<Remove>(gesture);
+    const auto& remove = std::get<Remove>(gesture);
     if (remove.row == 0 || remove.row >= position.lines.size()) {
         return Refusal { Reason::NoSuchRow };
     }

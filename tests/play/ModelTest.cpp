@@ -227,20 +227,19 @@ bool granted(Session& session, const Action& action)
     return std::holds_alternative<Outcome>(session.apply(action));
 }
 
-unsigned long stepsWanted()
+unsigned long wanted(const char* name, unsigned long usual)
 {
-    constexpr unsigned long kUsual = 10'000;
-    const char* const wanted = std::getenv("VEYRAND_MODEL_STEPS");
-    return wanted == nullptr ? kUsual : std::strtoul(wanted, nullptr, 10);
+    const char* const value = std::getenv(name);
+    return value == nullptr ? usual : std::strtoul(value, nullptr, 10);
 }
 
 } // namespace
 
-// VEYRAND_MODEL_STEPS asks for more than the usual few.
+// VEYRAND_MODEL_STEPS asks for more than the usual few, VEYRAND_MODEL_SEED for others.
 TEST(ASession, NeverDiffersFromThePlainestGame)
 {
-    Player player(20260);
-    const unsigned long steps = stepsWanted();
+    Player player(static_cast<unsigned>(wanted("VEYRAND_MODEL_SEED", 20260)));
+    const unsigned long steps = wanted("VEYRAND_MODEL_STEPS", 10'000);
     for (unsigned long step = 0; step < steps; ++step) {
         player.step();
         ASSERT_EQ(player.difference(), "")
