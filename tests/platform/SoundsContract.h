@@ -10,7 +10,7 @@ namespace veyrand::platform {
 // "Loop" and "Other", and offers
 //
 //     Sounds& sounds();
-//     bool isHeard(); // lets pass what an effect takes; whether anything was heard meanwhile
+//     bool isHeard(); // lets pass what an effect or a fade takes; whether anything was heard then
 template <class Harness> class SoundsContract : public ::testing::Test {
 protected:
     Sounds& sounds() { return m_harness.sounds(); }
@@ -100,9 +100,41 @@ TYPED_TEST_P(SoundsContract, OneLoopTakesThePlaceOfAnother)
     EXPECT_FALSE(this->isHeard());
 }
 
+TYPED_TEST_P(SoundsContract, EachKindIsSilencedByItsOwnVolume)
+{
+    this->sounds().setVolume(SoundKind::Effects, 0);
+    this->sounds().play("Effect");
+    EXPECT_FALSE(this->isHeard());
+    this->sounds().startLoop("Loop", 1.0);
+    EXPECT_TRUE(this->isHeard());
+
+    this->sounds().setVolume(SoundKind::Music, 0);
+    this->isHeard(); // it may take a moment to fade
+    EXPECT_FALSE(this->isHeard());
+    this->sounds().setVolume(SoundKind::Effects, 50);
+    this->sounds().play("Effect");
+    EXPECT_TRUE(this->isHeard());
+    EXPECT_FALSE(this->isHeard());
+    this->sounds().setVolume(SoundKind::Music, 50);
+    EXPECT_TRUE(this->isHeard());
+}
+
+TYPED_TEST_P(SoundsContract, TheVolumeOfMusicAndThatOfTheLoopBothCount)
+{
+    this->sounds().setVolume(SoundKind::Music, 0);
+    this->sounds().startLoop("Loop", 1.0);
+    EXPECT_FALSE(this->isHeard());
+    this->sounds().setLoopVolume(0.0);
+    this->sounds().setVolume(SoundKind::Music, 100);
+    EXPECT_FALSE(this->isHeard());
+    this->sounds().setLoopVolume(1.0);
+    EXPECT_TRUE(this->isHeard());
+}
+
 REGISTER_TYPED_TEST_SUITE_P(SoundsContract, NothingIsHeardBeforeAnythingIsPlayed,
     AnEffectIsHeardOnceForEachTimeItIsPlayed, ALoopGoesOn, ALoopIsMutedAndHeardAgain,
     MutingTheLoopLeavesEffectsAlone, ALoopMayStartMuted, TheVolumeOfNoLoopIsNothing,
-    AStoppedLoopIsGone, OneLoopTakesThePlaceOfAnother);
+    AStoppedLoopIsGone, OneLoopTakesThePlaceOfAnother, EachKindIsSilencedByItsOwnVolume,
+    TheVolumeOfMusicAndThatOfTheLoopBothCount);
 
 } // namespace veyrand::platform

@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <vector>
 
+using SNDFILE = struct sf_private_tag;
+struct SF_INFO;
+
 namespace veyrand::desktop::qt {
 
 // A decoded sound: interleaved 16-bit samples.
@@ -19,12 +22,12 @@ struct SoundSamples {
     }
 };
 
-// Decodes a sound file. On failure the samples are empty and the reason is in error.
-SoundSamples readSoundFile(const QString& file, QString& error);
+// Opens a file of one or two channels that can be played; null with the reason in error otherwise.
+// Samples read from it are cut where they overshoot.
+SNDFILE* openSoundFile(const QString& file, SF_INFO& info, QString& error);
 
-// A loop is kept with a second of itself before its start and after its end, because the lossy
-// format leaves a step at the seam. Cuts those guards off and cross-fades the last frames into what
-// came before the start, so that the end runs into the beginning without a click.
-SoundSamples withoutLoopGuards(SoundSamples sound);
+// Decodes a whole file. On failure the samples are empty and the reason is in error; so it is of
+// one that lasts longer than half a minute, whatever its header says, since all of it is kept.
+SoundSamples readSoundFile(const QString& file, QString& error);
 
 } // namespace veyrand::desktop::qt

@@ -25,29 +25,43 @@ template <class Function> void SoundLoader::tell(Function&& function)
 
 void SoundLoader::run()
 {
-    const std::shared_ptr<OpenAlDevice> device = m_opener();
-    tell([this, device] { m_listener.opened(device); });
-    if (device) {
-        // The smallest first: the effects can be heard while the music is still being decoded.
-        const QFileInfoList files
-            = QDir(m_folder).entryInfoList({ QStringLiteral("*.wav"), QStringLiteral("*.ogg") },
-                QDir::Files, QDir::Size | QDir::Reversed);
+    if (open()) {
+        // The smallest first: they are wanted first.
+        const QFileInfoList files = QDir(m_folder).entryInfoList(
+            { QStringLiteral("*.wav") }, QDir::Files, QDir::Size | QDir::Reversed);
         for (const QFileInfo& file : files) {
             if (m_stopped) {
                 return;
             }
-            QString error;
-            SoundSamples decoded = readSoundFile(file.filePath(), error);
-            // Only what loops is kept in the lossy format, which needs guards at both ends.
-            const auto sound = std::make_shared<const SoundSamples>(
-                file.suffix() == QLatin1String("ogg") ? withoutLoopGuards(std::move(decoded))
-                                                      : std::move(decoded));
-            tell([this, name = file.completeBaseName(), sound, error] {
-                m_listener.decoded(name, *sound, error);
-            });
+            decode(file.filePath(), file.completeBaseName());
         }
     }
     tell([this] { m_listener.finished(); });
+}
+
+bool SoundLoader::open()
+{
+    std::shared_ptr<OpenAlDevice> device;
+    QString error;
+    try {
+        device = m_opener();
+    } catch (const std::exception& exception) {
+        error = QString::fromLocal8Bit(exception.what());
+    }
+    tell([this, device, error] { m_listener.opened(device, error); });
+    return device != nullptr;
+}
+
+void SoundLoader::decode(const QString& file, const QString& name)
+{
+    auto sound = std::make_shared<SoundSamples>();
+    QString error;
+    try {
+        *sound = readSoundFile(file, error);
+    } catch (const std::exception& exception) { // there is no memory for it
+        error = QString::fromLocal8Bit(exception.what());
+    }
+    tell([this, name, sound, error] { m_listener.decoded(name, *sound, error); });
 }
 
 } // namespace veyrand::desktop::qt

@@ -10,15 +10,16 @@
 
 namespace veyrand::desktop::qt {
 
-// Opens the sound device and decodes every sound of a folder, on a thread of its own: a sound
-// server takes its time to answer, and the music takes longer to decode than the first frame may
-// take to appear. What it has found it tells in the thread that it was made in, from the event
-// loop.
+// Opens the sound device and decodes every effect of a folder, on a thread of its own: a sound
+// server takes its time to answer, and the first frame waits for nobody. What it has found it tells
+// in the thread that it was made in, from the event loop; so it does what went wrong, exceptions
+// included.
 class SoundLoader {
 public:
     struct Listener {
-        // Comes first. Null without a device; then nothing else comes but the end.
-        std::function<void(const std::shared_ptr<OpenAlDevice>&)> opened;
+        // Comes first. Null without a device, perhaps with a reason; then nothing else comes but
+        // the end.
+        std::function<void(const std::shared_ptr<OpenAlDevice>&, const QString& error)> opened;
         // A sound under the name of its file without the ending. Without samples it cannot be
         // played, and the error says why.
         std::function<void(const QString& name, const SoundSamples&, const QString& error)> decoded;
@@ -33,6 +34,8 @@ public:
 
 private:
     void run();
+    [[nodiscard]] bool open();
+    void decode(const QString& file, const QString& name);
     template <class Function> void tell(Function&& function);
 
     QString m_folder;

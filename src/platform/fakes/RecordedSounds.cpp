@@ -17,6 +17,12 @@ void RecordedSounds::setLoopVolume(double volume)
     }
 }
 
+int RecordedSounds::volume(SoundKind kind) const
+{
+    const auto found = m_volumes.find(kind);
+    return found != m_volumes.end() ? found->second : 100;
+}
+
 std::vector<std::string> RecordedSounds::takePlayed()
 {
     return std::exchange(m_played, {});

@@ -2,6 +2,7 @@
 
 #include "platform/Sounds.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,17 +21,21 @@ public:
     void startLoop(std::string_view name, double volume) override;
     void setLoopVolume(double volume) override;
     void stopLoop() override { m_loop.reset(); }
+    void setVolume(SoundKind kind, int percent) override { m_volumes[kind] = percent; }
 
     // The effects played since this was last asked.
     std::vector<std::string> takePlayed();
     [[nodiscard]] const std::optional<Loop>& loop() const { return m_loop; }
     // How often a loop was started, from its beginning each time.
     [[nodiscard]] int loopsStarted() const { return m_loopsStarted; }
+    // In percent, as it was set last.
+    [[nodiscard]] int volume(SoundKind kind) const;
 
 private:
     std::vector<std::string> m_played;
     std::optional<Loop> m_loop;
     int m_loopsStarted = 0;
+    std::map<SoundKind, int> m_volumes;
 };
 
 } // namespace veyrand::platform

@@ -1,70 +1,70 @@
 #include "desktop/qt/SoundFile.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+#include <sndfile.h>
 
 namespace veyrand::desktop::qt {
 
 namespace {
 
-constexpr int kRate = 1000;
-constexpr std::size_t kFrames = 2000;
-constexpr std::size_t kFade = 240;
-
-// A second of 1000s, two seconds of 3000s, and whatever comes after them.
-SoundSamples guarded(int channels)
+void writeSilence(const QString& file, int rate, int channels, int seconds)
 {
-    SoundSamples sound { {}, channels, kRate };
-    const auto append = [&](std::size_t frames, std::int16_t value) {
-        sound.samples.insert(
-            sound.samples.end(), frames * static_cast<std::size_t>(channels), value);
-    };
-    append(kRate, 1000);
-    append(kFrames, 3000);
-    append(kRate, -5000);
-    return sound;
+    SF_INFO info {};
+    info.samplerate = rate;
+    info.channels = channels;
+    info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+    SNDFILE* const handle = sf_open(QFile::encodeName(file).constData(), SFM_WRITE, &info);
+    ASSERT_NE(handle, nullptr);
+    const std::vector<std::int16_t> samples(
+        static_cast<std::size_t>(rate) * static_cast<std::size_t>(channels));
+    for (int second = 0; second < seconds; ++second) {
+        sf_writef_short(handle, samples.data(), rate);
+    }
+    sf_close(handle);
 }
+
+class SoundFile : public ::testing::Test {
+protected:
+    [[nodiscard]] QString file() const { return m_folder.filePath(QStringLiteral("Sound.wav")); }
+    // What is wrong with the file; empty when nothing is.
+    [[nodiscard]] std::string fault() const
+    {
+        QString error;
+        const bool isEmpty = readSoundFile(file(), error).samples.empty();
+        EXPECT_EQ(isEmpty, !error.isEmpty()) << error.toStdString();
+        return error.toStdString();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
 
 } // namespace
 
-TEST(LoopGuards, AreCutOffAtBothEnds)
+TEST_F(SoundFile, WhatIsNotThereHasAReasonAndNoSamples)
 {
-    for (const int channels : { 1, 2 }) {
-        const SoundSamples loop = withoutLoopGuards(guarded(channels));
-        EXPECT_EQ(loop.frames(), kFrames);
-        EXPECT_EQ(loop.channels, channels);
-        EXPECT_EQ(loop.rate, kRate);
-        for (std::size_t at = 0; at < (kFrames - kFade) * static_cast<std::size_t>(channels);
-             ++at) {
-            ASSERT_EQ(loop.samples[at], 3000) << at;
-        }
-    }
+    EXPECT_NE(fault(), "");
 }
 
-// So the last frame is the one that came before the first: no step is left where they meet.
-TEST(LoopGuards, TheEndFadesIntoWhatCameBeforeTheBeginning)
+TEST_F(SoundFile, AnEffectLastsHalfAMinuteAtMost)
 {
-    const SoundSamples loop = withoutLoopGuards(guarded(2));
-    EXPECT_EQ(loop.samples.back(), 1000);
-    EXPECT_EQ(loop.samples[loop.samples.size() - 2], 1000);
-    EXPECT_NEAR(loop.samples[2 * (kFrames - kFade / 2)], 2000, 10);
-    for (std::size_t frame = kFrames - kFade; frame < kFrames; ++frame) {
-        EXPECT_NEAR(loop.samples[2 * frame], loop.samples[2 * frame - 2], 9) << frame;
-    }
+    writeSilence(file(), 8000, 2, 30);
+    EXPECT_EQ(fault(), "");
+    writeSilence(file(), 8000, 2, 31);
+    EXPECT_EQ(fault(), "lasts longer than 30 seconds");
 }
 
-TEST(LoopGuards, WhatIsTooShortToHaveThemIsLeftAsItIs)
+TEST_F(SoundFile, WhatTheDeviceCannotPlayIsRefused)
 {
-    SoundSamples sound = guarded(1);
-    sound.samples.resize(2 * kRate + kFade);
-    EXPECT_EQ(withoutLoopGuards(sound).samples, sound.samples);
-    EXPECT_TRUE(withoutLoopGuards({}).samples.empty());
-}
-
-TEST(SoundFile, WhatIsNotThereHasAReasonAndNoSamples)
-{
-    QString error;
-    EXPECT_TRUE(readSoundFile(QStringLiteral("/missing.wav"), error).samples.empty());
-    EXPECT_FALSE(error.isEmpty());
+    writeSilence(file(), 48000, 3, 1);
+    EXPECT_EQ(fault(), "has 3 channels");
+    writeSilence(file(), 400, 1, 1);
+    EXPECT_EQ(fault(), "has 400 samples a second");
+    writeSilence(file(), 48000, 1, 0);
+    EXPECT_EQ(fault(), "is empty");
 }
 
 } // namespace veyrand::desktop::qt

@@ -47,11 +47,12 @@ inline void writeTone(const QString& file, double seconds, double hertz)
     sf_close(handle);
 }
 
-// The sounds of a folder on a device that the test listens to.
+// The sounds of a folder on a device that the test listens to. Time passes while it listens.
 class HeardSounds {
 public:
     explicit HeardSounds(const QString& folder)
-        : m_sounds(folder, [this] { return m_device = LoopbackDevice::open(); })
+        : m_sounds(
+            folder, [this] { return m_device = LoopbackDevice::open(); }, [this] { return now(); })
     {
     }
 
@@ -66,12 +67,30 @@ public:
     [[nodiscard]] desktop::qt::OpenAlSounds& sounds() { return m_sounds; }
     // The one opened last.
     [[nodiscard]] LoopbackDevice& device() { return *m_device; }
+
+    // In steps of a hundredth of a second, as the game's own timer makes them.
     Mix render(double seconds)
     {
-        return m_device->render(static_cast<int>(std::lround(seconds * LoopbackDevice::kRate)));
+        constexpr int kStep = LoopbackDevice::kRate / 100;
+        Mix mix;
+        auto left = static_cast<int>(std::lround(seconds * LoopbackDevice::kRate));
+        for (; left > 0; left -= kStep) {
+            const Mix piece = m_device->render(std::min(left, kStep));
+            mix.insert(mix.end(), piece.begin(), piece.end());
+            m_frames += static_cast<std::int64_t>(piece.size() / 2);
+            m_sounds.advance();
+        }
+        return mix;
+    }
+    // Long enough for any fade.
+    void settle() { render(2.0); }
+    [[nodiscard]] double now() const
+    {
+        return static_cast<double>(m_frames) / LoopbackDevice::kRate;
     }
 
 private:
+    std::int64_t m_frames = 0;
     std::shared_ptr<LoopbackDevice> m_device;
     desktop::qt::OpenAlSounds m_sounds;
 };

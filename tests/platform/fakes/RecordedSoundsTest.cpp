@@ -11,8 +11,11 @@ public:
     Sounds& sounds() { return m_sounds; }
     bool isHeard()
     {
-        const bool loops = m_sounds.loop() && m_sounds.loop()->volume > 0.0;
-        return !m_sounds.takePlayed().empty() || loops;
+        const bool loops = m_sounds.loop() && m_sounds.loop()->volume > 0.0
+            && m_sounds.volume(SoundKind::Music) > 0;
+        const bool effects
+            = !m_sounds.takePlayed().empty() && m_sounds.volume(SoundKind::Effects) > 0;
+        return effects || loops;
     }
 
 private:
