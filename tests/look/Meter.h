@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/qt/SoundFile.h"
+#include "look/Spectrum.h"
 
 namespace veyrand::look {
 
@@ -16,5 +17,21 @@ struct Meter {
 };
 
 Meter measured(const desktop::qt::SoundSamples& sound);
+
+// Loudness as ITU-R BS.1770 and EBU R 128 have it.
+struct Programme {
+    double integrated = 0.0; // LUFS
+    double range = 0.0; // LU
+};
+Programme programmeOf(const desktop::qt::SoundSamples& sound);
+// The loudness of a part, seconds from the start.
+double loudnessBetween(const desktop::qt::SoundSamples& sound, double from, double to);
+
+Channel channelOf(const desktop::qt::SoundSamples& sound, std::size_t channel);
+// The mean of its channels.
+Channel mixOf(const desktop::qt::SoundSamples& sound);
+
+// What the small speakers of a laptop leave of it: little below 300 Hz.
+desktop::qt::SoundSamples throughLaptop(const desktop::qt::SoundSamples& sound);
 
 } // namespace veyrand::look

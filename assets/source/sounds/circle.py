@@ -5,6 +5,7 @@ Sounds are (N, 2) with the loop's N frames; what would ring past the end rings i
 import math
 
 import numpy as np
+from scipy.ndimage import minimum_filter1d
 
 from .synthesis import RATE
 
@@ -65,8 +66,8 @@ class Circle:
                                  + sound[(whole + 1) % self.length, channel] * rest)
         return sound * (1 - share) + voice * share
 
-    def hall(self, sound, seed, reverberation):
-        """The answer of a large hall: noise, the treble of which dies sooner."""
+    def hall(self, seed, reverberation):
+        """The spectrum of a large hall's answer: noise, the treble of which dies sooner."""
         chance = np.random.default_rng(seed)
         length = int(7 * RATE)
         t = np.arange(length) / RATE
@@ -81,7 +82,20 @@ class Circle:
                 answer[:length, channel] += noise * decay * (1 if share > .5 else .6)
         answer = np.roll(answer, int(.022 * RATE), 0)
         answer = answer / np.sqrt((answer ** 2).sum(0))
-        return np.fft.irfft(np.fft.rfft(sound, axis=0) * np.fft.rfft(answer, axis=0), n=self.length, axis=0)
+        return np.fft.rfft(answer, axis=0)
+
+    def convolved(self, sound, hall):
+        """What a hall answers to a sound."""
+        return np.fft.irfft(np.fft.rfft(sound, axis=0) * hall, n=self.length, axis=0)
+
+    def kept_below(self, sound, level):
+        """The gain, frame by frame, that keeps a sound's peaks below a level (dB). It moves within 20 ms."""
+        width = int(.02 * RATE) | 1
+        needed = np.minimum(1, 10 ** (level / 20) / np.maximum(np.abs(sound).max(1), 1e-9))
+        needed = minimum_filter1d(needed, width, mode='wrap')
+        window = np.hanning(width + 2)[1:-1]
+        spread = np.concatenate([needed[-(width // 2):], needed, needed[:width // 2]])
+        return np.convolve(spread, window / window.sum(), 'valid')[:, None]
 
 
 def to_side(sound, side):

@@ -1,23 +1,26 @@
-"""The effects, one recipe each. Nothing in them is left to chance: each sounds the same at every hearing."""
+"""The effects, one recipe each. Nothing in them is left to chance: each sounds the same at every hearing.
+
+Their notes are A, B, C#, E and F#, which are at home in every bar of the music."""
 
 import io
 
 import numpy as np
 
-from .soundfont import DRUMS, play_notes
-from .synthesis import (RATE, finished, frames, high_pass, in_room, low_pass, place, silence, softened, struck, tap,
-                        write_wav)
+from .roll import cymbal_roll
+from .synthesis import finished, frames, in_room, low_pass, place, rounded, silence, softened, struck, tap, write_wav
 
-GLOCKENSPIEL, CELESTA = 9, 8                # programs of the sound font
-CRASH, SECOND_CRASH = 49, 57                # its drums
+# The modes of a free bar to its lowest, as of a glockenspiel.
+SECOND_MODE, THIRD_MODE, FOURTH_MODE = 2.756, 5.404, 8.933
+F4_SHARP, A4, E6, A6 = 369.99, 440.0, 1318.51, 1760.0
+CHIMES = (1318.51, 1479.98, 1760.0, 1975.53, 2217.46)       # E6, F#6, A6, B6, C#7
 
 
 def click():
     """A fingernail on wood. It plays whenever the pointer comes over something, so it is faint."""
     chance = np.random.default_rng(1)
     stage = silence(.16)
-    wood = struck(.09, [(1180, 1, .009), (1930, .55, .006), (3240, .28, .0035), (520, .5, .012)], chance, .0003)
-    wood += .35 * np.pad(tap(.01, 1500, 7000, .0012, chance), (0, len(wood) - frames(.01)))
+    wood = struck(.09, [(1900, 1, .009), (2900, .50, .006), (4100, .25, .0035), (760, .30, .011)], chance, .0003)
+    wood[:frames(.01)] += .35 * tap(.01, 1500, 7000, .0012, chance)
     place(stage, wood, 0)
     return in_room(stage, .12, .10)
 
@@ -26,130 +29,100 @@ def marble():
     """A stone dropped on the board: it bounces four times, each time sooner and softer."""
     chance = np.random.default_rng(4)
     stage = silence(.9)
-    for at, strength, pitch in ((0, 1, 1), (.082, .40, 1.012), (.141, .23, .994), (.182, .13, 1.02), (.210, .07, 1.0)):
-        glass = [(2310 * pitch, .62, .020), (3870 * pitch, .42, .015), (5480 * pitch, .22, .010), (7350 * pitch, .10, .007)]
-        wood = [(196, .70 * strength, .040), (402, .85, .032), (705, .55, .022), (1150, .35, .015)]
+    at, strength, gap = 0, 1, .082
+    for pitch in (1, 1.012, .994, 1.02, 1.0):
+        glass = [(2310 * pitch, .75, .024), (3870 * pitch, .52, .018), (5480 * pitch, .24, .012), (7350 * pitch, .10, .008)]
+        wood = [(220, .45 * strength, .035), (440, .72, .034), (740, .60, .028), (1175, .40, .020)]
         bounce = struck(.35, glass + wood, chance, .00025)
         bounce[:frames(.02)] += .5 * tap(.02, 900, 9000, .0016, chance)
         place(stage, bounce, at, strength, -.15 + .12 * at / .2)
-    return in_room(stage, .35, .16)
+        at, strength, gap = at + gap, strength * .50, gap * .70
+    return rounded(in_room(stage, .35, .14), -4)
 
 
 def no():
-    """A muted bar struck twice, the second time a third lower."""
+    """A muted bar struck twice, A and then F#: a refusal that small speakers play too."""
     chance = np.random.default_rng(6)
     stage = silence(1.0)
-    for at, pitch, strength in ((0, 164.8, 1), (.15, 130.8, 1.05)):
-        bar = struck(.5, [(pitch, 1, .085), (pitch * 2.0, .18, .05), (pitch * 3.93, .30, .030), (pitch * 9.1, .08, .012)],
+    for at, pitch, strength in ((0, A4, .9), (.15, F4_SHARP, 1)):
+        bar = struck(.6, [(pitch, 1, .075), (pitch * .5, .30, .070), (pitch * 3.93, .22, .028), (pitch * 9.1, .06, .010)],
                      chance, .0012)
-        bar[:frames(.03)] += .22 * tap(.03, 250, 1600, .005, chance)
+        bar[:frames(.03)] += .22 * tap(.03, 350, 2200, .005, chance)
         place(stage, bar, at, strength)
-    return in_room(low_pass(stage, 2600), .4, .14)
-
-
-ROLL = 3.0                                  # seconds until the goal flies up
-
-
-def cymbal_roll():
-    """Soft mallets on two cymbals, ever faster and brighter, and a stroke when the goal flies."""
-    chance = np.random.default_rng(8)
-    strokes, t = [], 0.0
-    while t < ROLL - .03:
-        share = t / ROLL
-        velocity = int(24 + 66 * share ** 1.5) + chance.integers(-4, 5)
-        strokes.append((t, (CRASH, SECOND_CRASH)[len(strokes) % 2], .6, max(6, min(100, velocity))))
-        t += .070 - .018 * share + (chance.random() - .5) * .010
-    cymbals = play_notes(strokes, 6.6, channel=DRUMS, gain=.5)
-
-    time = np.arange(len(cymbals)) / RATE
-    grown = np.clip(time / ROLL, 0, 1)[:, None]
-    # Dark at first, opening up as the roll grows.
-    roll = low_pass(cymbals, 1500, 2) * (1 - grown) ** 1.5 * 2
-    roll += low_pass(cymbals, 4200, 2) * (1 - abs(2 * grown - 1)) * .9
-    roll += cymbals * grown ** 1.6
-
-    # A crescendo of 25 dB, whatever single strokes do.
-    window = int(.16 * RATE)
-    power = np.convolve((roll ** 2).mean(1), np.ones(window) / window, 'same')
-    gain = 10 ** ((-25 + 25 * grown[:, 0] ** 1.25) / 20) / np.sqrt(power + 1e-14)
-    settled = int((ROLL - .1) * RATE)
-    gain[settled:] = gain[settled]
-    gain /= gain[settled]
-    roll = roll * np.minimum(gain, 200)[:, None]
-
-    stroke = play_notes([(0, CRASH, 3, 104), (0.012, SECOND_CRASH, 3, 84)], 3.4, channel=DRUMS, gain=.5)
-    start = int(ROLL * RATE)
-    length = min(len(stroke), len(roll) - start)
-    roll[start:start + length] += stroke[:length] * .7
-    roll[start:] *= np.exp(-np.maximum(time[start:] - ROLL - 1.6, 0) / .45)[:, None]
-    return softened(in_room(high_pass(roll, 140), 1.6, .20, brightness=8000), -14, 4000)
+    return in_room(low_pass(stage, 3600), .4, .14)
 
 
 def delete_ding():
     """A small bell, A6: a line is gone."""
     chance = np.random.default_rng(10)
     stage = silence(2.2)
-    a6 = 1760
-    bell = struck(2.0, [(a6, 1, .34), (a6 * 2.01, .22, .22), (a6 * 2.74, .45, .16), (a6 * 3.0, .10, .2), (a6 * 5.2, .22, .06),
-                        (a6 * 8.1, .08, .025), (a6 * .5, .12, .12)], chance, .0003, .0012)
-    bell[:frames(.02)] += .18 * tap(.02, 3000, 12000, .0015, chance)
+    bell = struck(2.15, [(A6, 1, .34), (A6 * 2, .26, .22), (A6 * 2.52, .34, .16), (A6 * 3, .16, .16), (A6 * 4.49, .12, .06),
+                         (A6 * 6.02, .06, .03), (A6 * .5, .14, .14)], chance, .0003, .0012)
+    bell[:frames(.02)] += .14 * tap(.02, 3000, 10000, .0015, chance)
     place(stage, bell, 0)
     return softened(in_room(stage, .7, .16), -8)
 
 
 def triangle():
-    """Eleven partials that belong to no scale, as a triangle's do not."""
+    """Steel: a few strong partials near A major's E, A and C#, in a dense shimmer of weak ones."""
     chance = np.random.default_rng(12)
-    stage = silence(2.6)
-    partials = [(1240, .10, .5), (2140, .24, .8), (3010, .32, .85), (3690, .42, .8), (4540, .75, .75), (5320, .62, .66),
-                (6410, .55, .55), (7790, .38, .42), (9230, .26, .30), (10950, .16, .22), (12800, .09, .14)]
+    stage = silence(3.7)
+    strong = [(1318.5 * .997, .10, .5), (2217.5 * 1.003, .20, .6), (2637 * .998, .30, .65), (3520 * 1.004, .42, .60),
+              (4435 * .997, .60, .55), (5274 * 1.003, .60, .50), (7040 * .998, .30, .42), (7902 * 1.004, .24, .35)]
+    dense = [(1800 * 1.107 ** i * (1 + .05 * (chance.random() - .5)), .085 + .05 * chance.random(), .16 + .12 * chance.random())
+             for i in range(19)]
+    dense = [mode for mode in dense if mode[0] < 12500]
     for side in (-.45, .45):
-        steel = [(pitch, strength, decay * .52) for pitch, strength, decay in partials]
-        place(stage, struck(2.5, steel, chance, .0003, .0025), 0, 1, side)
-    place(stage, .25 * tap(.02, 5000, 15000, .0015, chance), 0)
-    return softened(in_room(stage, .9, .14, brightness=9000), -18, 3500)
+        place(stage, struck(3.6, strong + dense, chance, .0003, .0022), 0, 1, side)
+    place(stage, .3 * tap(.02, 5000, 14000, .0015, chance), 0)
+    return softened(in_room(stage, .9, .14, brightness=9000), -9, 5500)
 
 
 def glock_e2():
-    """A glockenspiel's E and, faintly, a celesta's: a message opens."""
-    note = 88
-    bar = play_notes([(0, note, 1.6, 92)], 2.6, program=GLOCKENSPIEL)
-    shade = play_notes([(0, note, 1.6, 60)], 2.6, program=CELESTA)
-    length = min(len(bar), len(shade))
-    return softened(in_room(bar[:length] + .35 * shade[:length], 1.3, .22, brightness=7000), -20, 3000)
+    """A glockenspiel's E, and softly the one below: a message opens."""
+    chance = np.random.default_rng(21)
+    stage = silence(4.6)
+    bar = struck(4.4, [(E6, 1, .52), (E6 * SECOND_MODE, .30, .22), (E6 * THIRD_MODE, .10, .07), (E6 * FOURTH_MODE, .03, .03)],
+                 chance, .0004, .0010)
+    bar[:frames(.02)] += .10 * tap(.02, 2500, 9000, .0012, chance)
+    place(stage, bar, 0)
+    place(stage, struck(4.4, [(E6 / 2, .16, .35), (E6, .10, .30)], chance, .0015), 0, 1, .2)
+    return softened(in_room(stage, 1.3, .14, brightness=7000), -5, 6000)
 
 
 def chimes():
-    """Twenty-two bars stroked from low to high, from left to right, and five that ring on."""
+    """Twenty-two bars stroked from low to high, from left to right, two to a note, and five that ring on."""
     chance = np.random.default_rng(14)
-    stage = silence(4.2)
-    bars, at, lowest = 22, 0, 1320
+    stage = silence(5.0)
+    bars, at = 22, 0
     for i in range(bars):
-        pitch = lowest * 2 ** (i * 2.15 / (bars - 1)) * (1 + (chance.random() - .5) * .012)
-        decay = .95 - .5 * i / bars
-        bar = struck(2.2, [(pitch, 1, decay), (pitch * 2.756, .30, decay * .45), (pitch * 5.404, .08, decay * .2)], chance,
-                     .0003, .0018)
+        octave, note = divmod(i // 2, len(CHIMES))
+        apart = (.0030 if i % 2 else -.0030) * (.6 + .4 * chance.random())
+        pitch = CHIMES[note] * 2 ** octave * (1 + apart)
+        decay = .50 - .26 * i / bars
+        bar = struck(3.4, [(pitch, 1, decay), (pitch * SECOND_MODE, .22, decay * .4), (pitch * THIRD_MODE, .05, decay * .2)],
+                     chance, .0005, .0012)
         strength = .42 + .5 * chance.random() * np.sin(np.pi * (i + 1) / (bars + 1)) + .12
-        place(stage, bar, at, strength * (1 - .25 * i / bars), -.7 + 1.4 * i / (bars - 1))
-        at += .030 + .014 * chance.random() + .020 * np.exp(-i / 4.)
+        place(stage, bar, at, strength * (1 - .45 * i / bars), -.7 + 1.4 * i / (bars - 1))
+        at += .030 + .014 * chance.random() + .020 * np.exp(-i / 4)
     for i in range(5):
-        pitch = lowest * 2 ** (chance.random() * 2.0)
-        bar = struck(1.6, [(pitch, 1, .6), (pitch * 2.756, .2, .25)], chance, .0003, .0018)
+        pitch = CHIMES[chance.integers(0, len(CHIMES))] * 2 ** chance.integers(0, 2)
+        bar = struck(2.6, [(pitch, 1, .45), (pitch * SECOND_MODE, .15, .2)], chance, .0005, .0012)
         place(stage, bar, at + .05 + .09 * i + .05 * chance.random(), .16, chance.random() * 1.4 - .7)
-    return softened(in_room(stage, 1.5, .20, brightness=9000), -8)
+    return softened(in_room(stage, 1.5, .20, brightness=8000), -8)
 
 
 # Name -> recipe, and its finish: peak in dB, seconds of fading at the end, and the levels at which it is
 # over and begins. The peaks keep the loudness where it belongs: a click is a hint, the roll a triumph.
 EFFECTS = {
-    'Click': (click, -15, .02, -50),
-    'Marble': (marble, -6, .05, -60),
-    'No': (no, -7, .06, -56),
-    'CymbalRoll': (cymbal_roll, -5, .5, -60, -48),
-    'DeleteDing': (delete_ding, -11, .2, -60),
-    'Triangle': (triangle, -12, .3, -58),
-    'GlockE2': (glock_e2, -11, .3, -60),
-    'Chimes': (chimes, -9, .4, -60),
+    'Click': (click, -14.5, .02, -50),
+    'Marble': (marble, -9, .05, -60),
+    'No': (no, -12, .06, -56),
+    'CymbalRoll': (cymbal_roll, -6, .5, -60, -48),
+    'DeleteDing': (delete_ding, -12, .2, -62),
+    'Triangle': (triangle, -10.5, .3, -64),
+    'GlockE2': (glock_e2, -12.5, .4, -64),
+    'Chimes': (chimes, -9, .4, -62),
 }
 
 

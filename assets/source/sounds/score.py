@@ -1,12 +1,16 @@
-"""Reads a score: text lines of chords and melody notes.
+"""Reads a score: text lines of sections, chords and melody notes.
 
+    section BAR NAME  HARP BASS  MARIMBA CELESTA CHOIR PAD  what accompanies from a bar on
     chord BAR BARS NAME  BASS | PAD VOICES | HARP NOTES     the harmony from a bar on
     mel PART BAR BEAT NOTE BEATS VELOCITY                   one note of a melody
 
-Bars and beats count from 1; notes are written A4, C#5; # at the start of a line begins a comment."""
+Bars and beats count from 1; notes are written A4, C#5; # at the start of a line begins a comment. The
+harp's and the bass's patterns are named in arrangement.py, the other four are velocities."""
 
 from collections import namedtuple
 
+Score = namedtuple('Score', 'sections chords melody')
+Section = namedtuple('Section', 'bar name harp bass marimba celesta choir pad')
 Chord = namedtuple('Chord', 'bar bars bass pad harp')
 Note = namedtuple('Note', 'part bar beat key beats velocity')
 
@@ -19,19 +23,22 @@ def key(name):
 
 
 def read(path):
-    """The chords and the melody notes, in the order of the file."""
-    chords, melody = [], []
+    """The score, its lines in the order of the file."""
+    score = Score([], [], [])
     with open(path) as file:
         for line in file:
             words = line.split()
             if not words or line.startswith('#'):
                 continue
-            if words[0] == 'chord':
+            if words[0] == 'section':
+                _, bar, name, harp, bass, *velocities = words
+                score.sections.append(Section(int(bar), name, harp, bass, *map(int, velocities)))
+            elif words[0] == 'chord':
                 head, pad, harp = line.split('|')
                 _, bar, bars, _, bass = head.split()
-                chords.append(Chord(int(bar), int(bars), key(bass), [key(name) for name in pad.split()],
-                                    [key(name) for name in harp.split()]))
+                score.chords.append(Chord(int(bar), int(bars), key(bass), [key(name) for name in pad.split()],
+                                          [key(name) for name in harp.split()]))
             else:
                 _, part, bar, beat, name, beats, velocity = words
-                melody.append(Note(part, int(bar), float(beat), key(name), float(beats), int(velocity)))
-    return chords, melody
+                score.melody.append(Note(part, int(bar), float(beat), key(name), float(beats), int(velocity)))
+    return score

@@ -25,16 +25,21 @@ def silence(seconds):
 def struck(seconds, modes, chance, attack=.0004, detune=0):
     """A body that is struck once: its modes as (Hz, strength, seconds to fall to 1/e), one channel.
 
-    With detune every mode has a twin beside it, as real metal has, and the two beat slowly."""
+    With detune every mode has a twin beside it, as real metal has: they begin together, so that the stroke is
+    the loudest moment, and then beat slowly. Every mode must
+    have time to fall by 48 dB, or its end would be heard."""
+    if max(decay for _, _, decay in modes) * 5.5 > seconds:
+        raise ValueError('a mode rings longer than %g seconds' % seconds)
     t = np.arange(frames(seconds)) / RATE
     body = np.zeros(len(t))
     for pitch, strength, decay in modes:
         if pitch > 17500:       # nobody hears it, and it would come back as something lower
             continue
-        body += strength * np.sin(2 * np.pi * pitch * t + chance.random() * .6) * np.exp(-t / decay)
+        phase = chance.random() * .6
+        body += strength * np.sin(2 * np.pi * pitch * t + phase) * np.exp(-t / decay)
         if detune:
             twin = pitch * (1 + detune * (chance.random() - .5))
-            body += .6 * strength * np.sin(2 * np.pi * twin * t + chance.random() * 6) * np.exp(-t / (decay * .9))
+            body += .6 * strength * np.sin(2 * np.pi * twin * t + phase) * np.exp(-t / (decay * .9))
     return body * np.minimum(1, t / attack)
 
 
@@ -64,10 +69,9 @@ def softened(sound, level, pitch=6000):
 
 def place(stage, sound, at, strength=1., side=0.):
     """Adds a sound to the stage at a time; a sound of one channel goes to a side, from -1 to 1."""
-    start = frames(at)
-    length = min(len(sound), len(stage) - start)
-    if length <= 0:
-        return
+    start, length = frames(at), len(sound)
+    if start + length > len(stage):
+        raise ValueError('a sound at %g s does not fit on its stage' % at)
     if sound.ndim == 1:
         stage[start:start + length, 0] += sound[:length] * strength * np.cos((side + 1) * np.pi / 4)
         stage[start:start + length, 1] += sound[:length] * strength * np.sin((side + 1) * np.pi / 4)
@@ -90,6 +94,12 @@ def in_room(sound, reverberation, strength, seed=5, brightness=6000, distance=.0
     return sound + answer * strength
 
 
+def rounded(sound, level):
+    """The sound with its peaks pressed together, most of all what stands above the level (dB, to the highest)."""
+    sound = sound / abs(sound).max()
+    return np.tanh(sound / decibels(level))
+
+
 def finished(sound, peak, fade=.06, quiet=-66, onset=-40):
     """As 16-bit samples: silence cut off at both ends, the end faded to nothing, the peak in dB below full
     scale. `quiet` and `onset` say, in dB below the peak, where the sound is over and where it begins."""
@@ -109,6 +119,16 @@ def dithered(sound, chance, strength):
     """Rounded to 16 bits, with the noise that hides the rounding."""
     noise = (chance.random(sound.shape) - chance.random(sound.shape)) * strength
     return np.clip(np.round(sound * 32767 + noise), -32768, 32767).astype(np.int16)
+
+
+def loudness(sound):
+    """The integrated loudness in LUFS, as ITU-R BS.1770 has it for 48 kHz."""
+    heard = lfilter([1.53512485958697, -2.69169618940638, 1.19839281085285], [1, -1.69065929318241, .73248077421585], sound, axis=0)
+    heard = lfilter([1, -2, 1], [1, -1.99004745483398, .99007225036621], heard, axis=0)
+    tenths = (heard ** 2).sum(1)[:len(heard) // 4800 * 4800].reshape(-1, 4800).mean(1)
+    blocks = np.convolve(tenths, np.ones(4) / 4, 'valid')
+    blocks = blocks[blocks > 10 ** ((-70 + .691) / 10)]
+    return -.691 + 10 * np.log10(blocks[blocks > blocks.mean() / 10].mean())
 
 
 def write_wav(file, samples):

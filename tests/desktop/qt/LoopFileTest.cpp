@@ -1,6 +1,7 @@
 #include "desktop/qt/LoopFile.h"
 
 #include "desktop/qt/SoundSupport.h"
+#include "support/Places.h"
 
 namespace veyrand::desktop::qt {
 
@@ -131,7 +132,8 @@ TEST_F(LoopFileTest, AFileThatWasCutShortIsNoticed)
 // Piece by piece, across the seam and after a jump, the lossy file gives the same samples.
 TEST(GameMusic, IsTheSameHoweverItIsRead)
 {
-    const QString file = QStringLiteral(VEYRAND_SOUNDS "/Along the Seabed.ogg");
+    const QString file
+        = QString::fromStdString(test::sourceFolder() + "/assets/sounds/Along the Seabed.ogg");
     QString error;
     const auto whole = LoopFile::open(file, LoopFile::Guards::OneSecond, error);
     const auto pieces = LoopFile::open(file, LoopFile::Guards::OneSecond, error);
