@@ -1,13 +1,12 @@
 #include "board/Choreography.h"
 
+#include "board/Times.h"
 #include "play/Decide.h"
 #include "progress/RuleSets.h"
 
 namespace veyrand::board {
 
 namespace {
-
-constexpr double kUsualBlock = 0.75;
 
 struct Duration {
     double ends;
@@ -18,14 +17,14 @@ Duration durationOf(unsigned rule)
 {
     switch (rule) {
     case progress::kThreeReds:
-        return { .ends = MoveAnimations::kMergeEnd, .block = MoveAnimations::kMergeEnd };
+        return { .ends = times::kMergeEnd, .block = times::kMergeBlock };
     case progress::kSplitGreens:
-        return { .ends = MoveAnimations::kMergeEnd, .block = kUsualBlock };
+        return { .ends = times::kMergeEnd, .block = times::kMoveBlock };
     case progress::kTwoGreens:
     case progress::kDropBetweenBlues:
-        return { .ends = MoveAnimations::kVanishEnd, .block = kUsualBlock };
+        return { .ends = times::kVanishEnd, .block = times::kMoveBlock };
     default:
-        return { .ends = MoveAnimations::kSlideEnd, .block = kUsualBlock };
+        return { .ends = times::kSlideEnd, .block = times::kMoveBlock };
     }
 }
 

@@ -1,5 +1,7 @@
 #include "board/GoalDrawing.h"
 
+#include "board/Times.h"
+
 namespace veyrand::board {
 
 void GoalDrawing::drawGoal(const std::string& goal)
@@ -16,7 +18,7 @@ void GoalDrawing::drawGoal(const std::string& goal)
 void GoalDrawing::goalMetAtRow(unsigned row)
 {
     sendGoalTo(row, 0.1F);
-    m_runLoop.performAfterDelay(1.0, [this] { goalMet2(); });
+    m_runLoop.performAfterDelay(times::kGoalGoes, [this] { goalMet2(); });
 }
 
 void GoalDrawing::sendGoalTo(unsigned row, float opacity)

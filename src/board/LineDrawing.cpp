@@ -1,5 +1,7 @@
 #include "board/LineDrawing.h"
 
+#include "board/Times.h"
+
 namespace veyrand::board {
 
 Chips LineDrawing::chipsForTheorem(const std::string& line, unsigned row)
@@ -53,14 +55,14 @@ void LineDrawing::setVisibile(bool visible, const Chips& chips)
     }
 }
 
-Chips LineDrawing::introduceNewTheorem(const std::string& line, unsigned row, float delay)
+Chips LineDrawing::introduceNewTheorem(const std::string& line, unsigned row)
 {
     Chips chips = createChipsForTheorem(line, row);
     // A change restarts a layer from the value last set, so sending the chips up and at once back
     // down shows as a slide from the line above.
     setRow(row - 1, chips);
     setRow(row, chips);
-    m_runLoop.performAfterDelay(static_cast<double>(delay), [this, row, begun = m_abandoned] {
+    m_runLoop.performAfterDelay(times::kDeleteButtonComes, [this, row, begun = m_abandoned] {
         if (begun == m_abandoned) {
             createDeleteButton(row);
         }
@@ -77,7 +79,8 @@ void LineDrawing::dropTheorem(const std::string& line, unsigned row)
             object.setHeight(0.0);
         });
         const std::weak_ptr<GameObject> dropped = m_gameData.gameObjects().objectForKey(key);
-        m_runLoop.performAfterDelay(1.0, [this, key, dropped] { dropTheorem2(key, dropped); });
+        m_runLoop.performAfterDelay(
+            times::kDroppedLineGoes, [this, key, dropped] { dropTheorem2(key, dropped); });
     }
 }
 

@@ -33,9 +33,8 @@ public:
     void setRow(unsigned row, const Chips& chips);
     void setVisibile(bool visible, const Chips& chips);
 
-    // Shows the line sliding down from the row above; its delete button follows after the delay
-    // (s).
-    Chips introduceNewTheorem(const std::string& line, unsigned row, float delay = 0.5F);
+    // Shows the line sliding down from the row above; its delete button follows.
+    Chips introduceNewTheorem(const std::string& line, unsigned row);
 
     // Shrinks the line's chips to nothing and takes them out of the table a second later.
     void dropTheorem(const std::string& line, unsigned row);

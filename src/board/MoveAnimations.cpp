@@ -1,5 +1,7 @@
 #include "board/MoveAnimations.h"
 
+#include "board/Times.h"
+
 namespace veyrand::board {
 
 namespace {
@@ -36,7 +38,7 @@ void MoveAnimations::abandonAll()
 
 void MoveAnimations::addGreenToEnd(const std::string& line, unsigned row)
 {
-    start(line, row, 0, 0, { { kSlideEnd, &MoveAnimations::addGreenToEnd2 } });
+    start(line, row, 0, 0, { { times::kSlideEnd, &MoveAnimations::addGreenToEnd2 } });
 }
 
 void MoveAnimations::addGreenToEnd2(const Move& move)
@@ -52,7 +54,7 @@ void MoveAnimations::addGreenToEnd2(const Move& move)
 
 void MoveAnimations::doubleAllAfterColumn(const std::string& line, unsigned row, unsigned column)
 {
-    start(line, row, column, 0, { { kSlideEnd, &MoveAnimations::doubleAllAfterColumn2 } });
+    start(line, row, column, 0, { { times::kSlideEnd, &MoveAnimations::doubleAllAfterColumn2 } });
 }
 
 void MoveAnimations::doubleAllAfterColumn2(const Move& move)
@@ -72,9 +74,9 @@ void MoveAnimations::doubleAllAfterColumn2(const Move& move)
 void MoveAnimations::threeRedsToOneGreen(const std::string& line, unsigned row, unsigned column)
 {
     start(line, row, column, 0,
-        { { kSlideEnd, &MoveAnimations::threeRedsToOneGreen2 },
-            { kMergeEnd, &MoveAnimations::threeRedsToOneGreen3 },
-            { kMergeEnd, &MoveAnimations::threeRedsToOneGreen4 } });
+        { { times::kSlideEnd, &MoveAnimations::threeRedsToOneGreen2 },
+            { times::kMergeEnd, &MoveAnimations::threeRedsToOneGreen3 },
+            { times::kMergeEnd, &MoveAnimations::threeRedsToOneGreen4 } });
 }
 
 void MoveAnimations::threeRedsToOneGreen2(const Move& move)
@@ -104,8 +106,8 @@ void MoveAnimations::threeRedsToOneGreen4(const Move& move)
 void MoveAnimations::twoGreensDisappear(const std::string& line, unsigned row, unsigned column)
 {
     start(line, row, column, 0,
-        { { kSlideEnd, &MoveAnimations::twoGreensDisappear2 },
-            { kVanishEnd, &MoveAnimations::twoGreensDisappear3 } });
+        { { times::kSlideEnd, &MoveAnimations::twoGreensDisappear2 },
+            { times::kVanishEnd, &MoveAnimations::twoGreensDisappear3 } });
 }
 
 void MoveAnimations::twoGreensDisappear2(const Move& move)
@@ -125,7 +127,7 @@ void MoveAnimations::twoGreensDisappear3(const Move& move)
 
 void MoveAnimations::flipFirstAndThird(const std::string& line, unsigned row, unsigned column)
 {
-    start(line, row, column, 0, { { kSlideEnd, &MoveAnimations::flipFirstAndThird2 } });
+    start(line, row, column, 0, { { times::kSlideEnd, &MoveAnimations::flipFirstAndThird2 } });
 }
 
 void MoveAnimations::flipFirstAndThird2(const Move& move)
@@ -150,8 +152,8 @@ void MoveAnimations::flipFirstAndThird2(const Move& move)
 void MoveAnimations::splitGreensWithBlue(const std::string& line, unsigned row, unsigned column)
 {
     start(line, row, column, 0,
-        { { kSlideEnd, &MoveAnimations::splitGreensWithBlue2 },
-            { kMergeEnd, &MoveAnimations::splitGreensWithBlue3 } });
+        { { times::kSlideEnd, &MoveAnimations::splitGreensWithBlue2 },
+            { times::kMergeEnd, &MoveAnimations::splitGreensWithBlue3 } });
 }
 
 void MoveAnimations::splitGreensWithBlue2(const Move& move)
@@ -173,8 +175,8 @@ void MoveAnimations::dropBetweenBlues(
     const std::string& line, unsigned row, unsigned column, unsigned endingColumn)
 {
     start(line, row, column, endingColumn,
-        { { kSlideEnd, &MoveAnimations::dropBetweenBlues2 },
-            { kVanishEnd, &MoveAnimations::dropBetweenBlues3 } });
+        { { times::kSlideEnd, &MoveAnimations::dropBetweenBlues2 },
+            { times::kVanishEnd, &MoveAnimations::dropBetweenBlues3 } });
 }
 
 void MoveAnimations::dropBetweenBlues2(const Move& move)

@@ -18,11 +18,6 @@ public:
     {
     }
 
-    // Seconds after the start at which the last phase of each animation has run.
-    static constexpr double kSlideEnd = 0.75;
-    static constexpr double kVanishEnd = 1.25;
-    static constexpr double kMergeEnd = 1.5;
-
     // A green slides out from under the last chip to the new end.
     void addGreenToEnd(const std::string& line, unsigned row);
     // The chips after the yellow one in the column are copied, and the copy slides out to the

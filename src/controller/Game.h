@@ -32,8 +32,10 @@ public:
     Game(const GamePorts& ports, progress::CurrentGame& currentGame, board::GameData& gameData)
         : m_script(readTutorialScript(ports.resources))
         , m_effects(ports.sounds, ports.menu)
-        , m_scene(ports.runLoop)
-        , m_board(gameData, currentGame, ports.runLoop)
+        , m_preferences(ports.preferences)
+        , m_pacedLoop(ports.runLoop, m_tempo)
+        , m_scene(ports.runLoop, m_tempo)
+        , m_board(gameData, currentGame, m_pacedLoop)
         , m_layers(m_scene, gameData, ports.textMetrics)
         , m_view({ .gameData = gameData,
               .layers = m_layers,
@@ -45,6 +47,8 @@ public:
             .layers = m_layers,
             .view = m_view,
             .runLoop = ports.runLoop,
+            .pacedLoop = m_pacedLoop,
+            .tempo = m_tempo,
             .preferences = ports.preferences,
             .sounds = ports.sounds,
             .effects = m_effects,
@@ -58,7 +62,11 @@ public:
             .journal = ports.journal }
         , m_controller(m_context)
     {
+        settingsChanged();
     }
+
+    // To be called when the player has chosen other settings.
+    void settingsChanged() { m_tempo.setSpeed(progress::readSettings(m_preferences).tempo); }
 
     [[nodiscard]] present::BoardLayers& layers() { return m_layers; }
     [[nodiscard]] input::GameView& view() { return m_view; }
@@ -69,6 +77,9 @@ public:
 private:
     TutorialScript m_script;
     platform::SoundEffects m_effects;
+    const platform::Preferences& m_preferences;
+    board::Tempo m_tempo;
+    board::PacedRunLoop m_pacedLoop;
     present::Scene m_scene;
     board::Board m_board;
     present::BoardLayers m_layers;

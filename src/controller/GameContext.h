@@ -1,6 +1,7 @@
 #pragma once
 
 #include "board/Board.h"
+#include "board/Tempo.h"
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
 #include "install/Installation.h"
@@ -23,6 +24,8 @@ struct GameContext {
     present::BoardLayers& layers;
     input::GameView& view;
     platform::RunLoop& runLoop;
+    platform::RunLoop& pacedLoop; // for whatever waits for the board
+    const board::Tempo& tempo;
     platform::Preferences& preferences;
     platform::Sounds& sounds;
     const platform::SoundEffects& effects;

@@ -1,5 +1,6 @@
 #include "controller/GameFlow.h"
 
+#include "board/Times.h"
 #include "controller/GameController.h"
 #include "play/ActionText.h"
 #include "progress/PlayerRecord.h"
@@ -10,6 +11,7 @@
 namespace veyrand::controller {
 
 using progress::CurrentGame;
+namespace times = board::times;
 
 namespace {
 
@@ -277,22 +279,20 @@ void GameFlow::harderButtonClick()
 
 void GameFlow::cleanUpProofForPar(int par)
 {
-    constexpr double kBlock = 3.0;
-    constexpr double kBoardEmpties = 0.01;
-    constexpr double kNextPuzzle = 2.5;
     m_controller.hints().clearHint();
     m_controller.hints().resetHintMode();
     m_game.effects.play("Marble");
     const int newPar = std::clamp(par, kEasiestPar, kHardestPar);
     static_cast<void>(apply(play::Leave { newPar }));
-    m_game.view.block().startBlockClick(kBlock);
-    performWithThisProof(kBoardEmpties, [this] { m_controller.lines().removeAllDeleteButtons(); });
-    performWithThisProof(kBoardEmpties, [this] { m_controller.lines().clearProof(); });
-    performWithThisProof(kBoardEmpties,
+    m_game.view.block().startBlockClick(m_game.tempo.delay(times::kLeavingBlock));
+    performWithThisProof(
+        times::kLeftBoardEmpties, [this] { m_controller.lines().removeAllDeleteButtons(); });
+    performWithThisProof(times::kLeftBoardEmpties, [this] { m_controller.lines().clearProof(); });
+    performWithThisProof(times::kLeftBoardEmpties,
         [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
     updateRecord({ .endlessPar = newPar });
     m_game.currentGame.setEndlessPar(newPar);
-    performWithThisProof(kNextPuzzle, [this] { nextLevel(); });
+    performWithThisProof(times::kLeftForNextPuzzle, [this] { nextLevel(); });
 }
 
 void GameFlow::regenerateBoard()
@@ -308,7 +308,7 @@ void GameFlow::regenerateBoard()
 
 void GameFlow::performWithThisProof(double delay, std::function<void()> call)
 {
-    m_game.runLoop.performAfterDelay(
+    m_game.pacedLoop.performAfterDelay(
         delay, [this, call = std::move(call), begun = std::weak_ptr(proof())] {
             if (proof() && proof() == begun.lock()) {
                 call();

@@ -1,17 +1,18 @@
 #include "controller/Hints.h"
 
+#include "board/Times.h"
 #include "controller/GameController.h"
 #include "engine/HintHelper.h"
 #include "progress/PlayerRecord.h"
 
 namespace veyrand::controller {
 
+namespace times = board::times;
+
 namespace {
 
 constexpr std::int64_t kPrice = play::kHintPrice;
 constexpr unsigned kMostHintChips = 12;
-constexpr double kPiecesFly = 0.75; // seconds until the pieces have become a line
-constexpr double kWalkBackStep = 0.5; // seconds a bad line
 
 } // namespace
 
@@ -107,8 +108,8 @@ void Hints::placePieces()
     m_game.board.hints.drawHint(helper.nextTheorem().value().theorem(),
         helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
     // Asked for before the block's own call, so that the line stands when the block ends.
-    m_controller.flow().performWithThisProof(kPiecesFly, [this] { completeHint(); });
-    m_game.view.block().blockAtLeast(kPiecesFly);
+    m_controller.flow().performWithThisProof(times::kPiecesFly, [this] { completeHint(); });
+    m_game.view.block().blockAtLeast(m_game.tempo.delay(times::kPiecesFly));
 }
 
 void Hints::completeHint()
@@ -136,8 +137,8 @@ void Hints::findLastGood()
 
 void Hints::walkBack(const play::Outcome& outcome)
 {
-    m_controller.flow().performWithThisProof(kWalkBackStep, [this] { findLastGood(); });
-    m_game.view.block().blockAtLeast(kWalkBackStep);
+    m_controller.flow().performWithThisProof(times::kWalkBackStep, [this] { findLastGood(); });
+    m_game.view.block().blockAtLeast(m_game.tempo.delay(times::kWalkBackStep));
     m_game.effects.play("Triangle");
     m_controller.lines().clearRows(outcome.row, outcome.gone, ProofLines::DeleteButtons::Remove);
 }

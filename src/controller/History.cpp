@@ -1,20 +1,12 @@
 #include "controller/History.h"
 
 #include "board/Choreography.h"
+#include "board/Times.h"
 #include "controller/GameController.h"
 
 namespace veyrand::controller {
 
-namespace {
-
-// In seconds: the blocks of a line that goes and of a move, the time between lines that come back,
-// and the least between two dings.
-constexpr double kLinesGo = 0.95;
-constexpr double kMove = 0.75;
-constexpr double kNextLine = 0.06;
-constexpr double kNextDing = 0.1;
-
-} // namespace
+namespace times = board::times;
 
 History::History(GameController& controller)
     : m_controller(controller)
@@ -132,11 +124,11 @@ void History::showGone(const play::Outcome& outcome)
 {
     m_firstRow = outcome.row;
     const double now = m_game.runLoop.now();
-    if (!m_lastDing || now - *m_lastDing >= kNextDing) {
+    if (!m_lastDing || now - *m_lastDing >= times::kNextDing) {
         m_lastDing = now;
         m_game.effects.play("DeleteDing");
     }
-    m_game.view.block().startBlockClick(kLinesGo);
+    m_game.view.block().startBlockClick(m_game.tempo.delay(times::kDeleteBlock));
     m_controller.lines().dropRows(outcome);
     if (m_controller.flow().session()->isMarked()) {
         m_game.board.hints.drawProofGoodSoFar();
@@ -160,12 +152,12 @@ void History::showRemovalUndone(const play::Outcome& outcome)
         if (row == outcome.row) {
             introduce();
         } else {
-            delay += kNextLine;
+            delay += times::kNextLineComesBack;
             m_controller.flow().performWithThisProof(delay, introduce);
         }
         ++row;
     }
-    m_game.view.block().startBlockClick(kLinesGo + delay);
+    m_game.view.block().startBlockClick(m_game.tempo.delay(times::kDeleteBlock + delay));
     m_delayUntil = m_game.view.block().delayUntil();
 }
 
@@ -173,7 +165,7 @@ void History::showMoveAgain(const play::Outcome& outcome)
 {
     m_firstRow = outcome.row;
     const std::string& lineBefore = m_controller.proof()->lines()[outcome.row - 1].theorem();
-    m_game.view.block().startBlockClick(kMove);
+    m_game.view.block().startBlockClick(m_game.tempo.delay(times::kChipBlock));
     m_game.board.lines.clearRow(outcome.row);
     m_controller.moves().show(
         board::choreographyOf(outcome.moves.front(), lineBefore), lineBefore, outcome.row);

@@ -1,5 +1,6 @@
 #include "controller/Messages.h"
 
+#include "board/Times.h"
 #include "controller/GameController.h"
 
 #include <utility>
@@ -7,10 +8,6 @@
 namespace veyrand::controller {
 
 namespace {
-
-// No press is answered for so long after a message opens, so that nobody clicks away what has just
-// appeared under a busy finger.
-constexpr double kReadingTime = 1.0;
 
 // These codes open one page of a longer explanation. They are left as they are for the next page to
 // change, where all others are cleared.
@@ -101,7 +98,8 @@ void Messages::restoreInput()
 
 void Messages::blockForReading()
 {
-    m_game.view.block().blockAtLeast(kReadingTime);
+    // Nobody shall click away what has just appeared under a busy finger, however fast they play.
+    m_game.view.block().blockAtLeast(board::times::kReading);
 }
 
 void Messages::playMessageWindowSound() const

@@ -99,14 +99,14 @@ void Moves::show(
 {
     board::perform(m_game.board.animations, choreography, lineBefore, row);
     settleAfter(choreography.ends, row);
-    m_game.view.block().increaseDelay(choreography.block);
+    m_game.view.block().increaseDelay(m_game.tempo.delay(choreography.block));
     m_game.effects.play("Marble");
 }
 
 // Whatever was shown, the row ends as the line reads.
 void Moves::settleAfter(double seconds, unsigned row)
 {
-    m_game.runLoop.performAfterDelay(
+    m_game.pacedLoop.performAfterDelay(
         seconds, [this, row, begun = m_abandoned, proof = std::weak_ptr(m_controller.proof())] {
             const auto inPlay = m_controller.proof();
             if (begun == m_abandoned && inPlay && inPlay == proof.lock()

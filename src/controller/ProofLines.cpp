@@ -1,21 +1,12 @@
 #include "controller/ProofLines.h"
 
+#include "board/Times.h"
 #include "controller/GameController.h"
 #include "play/Scoring.h"
 
 namespace veyrand::controller {
 
-namespace {
-
-// The celebration, in seconds from the solving move: chosen so that the goal flies over the full
-// board and the next puzzle arrives while input is still blocked.
-constexpr double kDeleteButtonsGo = 2.5;
-constexpr double kGoalFlies = 3.0;
-constexpr double kBoardEmpties = 4.5;
-constexpr double kNextPuzzle = 6.5;
-constexpr double kCelebrationBlock = 7.0;
-
-} // namespace
+namespace times = board::times;
 
 ProofLines::ProofLines(GameController& controller)
     : m_controller(controller)
@@ -28,15 +19,18 @@ bool ProofLines::checkProofComplete()
     if (!m_controller.proof()->checkSolved()) {
         return true;
     }
-    m_game.view.block().startBlockClick(kCelebrationBlock);
+    const board::Tempo& tempo = m_game.tempo;
+    m_game.view.block().startBlockClick(tempo.delay(tempo.celebration(times::kCelebrationBlock)));
     m_game.effects.play("CymbalRoll");
     GameFlow& flow = m_controller.flow();
-    flow.performWithThisProof(kDeleteButtonsGo, [this] { removeAllDeleteButtons(); });
-    flow.performWithThisProof(kBoardEmpties, [this] { clearProof(); });
-    flow.performWithThisProof(kGoalFlies,
+    flow.performWithThisProof(
+        tempo.celebration(times::kDeleteButtonsGo), [this] { removeAllDeleteButtons(); });
+    flow.performWithThisProof(tempo.celebration(times::kBoardEmpties), [this] { clearProof(); });
+    flow.performWithThisProof(tempo.celebration(times::kGoalFlies),
         [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
     calculateScore();
-    flow.performWithThisProof(kNextPuzzle, [&flow] { flow.puzzleFinished(); });
+    flow.performWithThisProof(
+        tempo.celebration(times::kNextPuzzle), [&flow] { flow.puzzleFinished(); });
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "input/DragImage.h"
 
+#include "board/Times.h"
+
 namespace veyrand::input {
 
 namespace {
@@ -7,8 +9,6 @@ namespace {
 constexpr float kOpacity = 0.9F;
 constexpr float kLift = 0.16F; // of its side, above the board it was taken from
 constexpr float kAboveTheBoard = 10.0F;
-constexpr double kFlight = 0.25;
-constexpr double kRemoval = 0.5;
 
 } // namespace
 
@@ -36,7 +36,7 @@ void DragImage::moveTo(platform::PointF centre)
 void DragImage::fadeOut()
 {
     if (present::Layer* const image = current()) {
-        image->animateOpacity(1.0F, 0.0F, kFlight, present::Timing::Linear);
+        image->animateOpacity(1.0F, 0.0F, flight(), present::Timing::Linear);
         image->setOpacity(0.0F);
     }
 }
@@ -44,7 +44,7 @@ void DragImage::fadeOut()
 void DragImage::flyTo(platform::PointF centre)
 {
     if (present::Layer* const image = current()) {
-        image->animatePosition(image->position(), centre, kFlight, present::Timing::EaseInEaseOut);
+        image->animatePosition(image->position(), centre, flight(), present::Timing::EaseInEaseOut);
         image->setPosition(centre);
     }
 }
@@ -52,8 +52,8 @@ void DragImage::flyTo(platform::PointF centre)
 void DragImage::removeAfterFade()
 {
     if (m_current) {
-        m_runLoop.performAfterDelay(
-            kRemoval, [this, id = *m_current] { removeDragImageLayer(id); });
+        m_runLoop.performAfterDelay(m_layers.scene().tempo().delay(board::times::kDragImageGoes),
+            [this, id = *m_current] { removeDragImageLayer(id); });
     }
 }
 
@@ -65,6 +65,11 @@ void DragImage::removeDragImageLayer(std::uint64_t id)
     if (m_current == id) {
         m_current.reset();
     }
+}
+
+double DragImage::flight() const
+{
+    return m_layers.scene().tempo().duration(board::times::kDragImageFlies);
 }
 
 present::Layer* DragImage::layer(std::uint64_t id) const

@@ -26,6 +26,7 @@ public:
     void removeAfterFade();
 
 private:
+    [[nodiscard]] double flight() const; // seconds
     [[nodiscard]] present::Layer* layer(std::uint64_t id) const;
     [[nodiscard]] present::Layer* current() const;
     void removeDragImageLayer(std::uint64_t id);

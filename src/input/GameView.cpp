@@ -1,5 +1,6 @@
 #include "input/GameView.h"
 
+#include "board/Times.h"
 #include "input/BoardKeys.h"
 
 #include <cmath>
@@ -7,17 +8,12 @@
 
 namespace veyrand::input {
 
+namespace times = board::times;
+
 namespace {
 
 constexpr double kDragThreshold = 3.0; // points, along either axis
 constexpr float kDraggedOpacity = 0.5F;
-
-constexpr double kChipBlock = 0.75;
-constexpr double kDeleteBlock = 0.95;
-constexpr double kButtonBlock = 0.5;
-
-// Two presses of one chip within so many seconds are a double click.
-constexpr double kDoubleClick = 0.4;
 
 } // namespace
 
@@ -26,7 +22,8 @@ GameView::GameView(const Parts& parts)
     , m_layers(parts.layers)
     , m_runLoop(parts.runLoop)
     , m_pointer(parts.pointer)
-    , m_block(parts.runLoop, [this] { blockEnded(); })
+    , m_block(
+          parts.runLoop, [this] { blockEnded(); }, parts.layers.scene().tempo())
     , m_hover(parts.gameData, parts.layers, parts.pointer, parts.effects)
     , m_dragImage(parts.layers, parts.runLoop)
 {
@@ -69,7 +66,7 @@ void GameView::losePress(const MouseEvent& event)
 {
     const std::string key = keyHit(event.location);
     const bool isSecondOfTwo
-        = key == m_lastPressed && m_runLoop.now() - m_lastPressTime < kDoubleClick;
+        = key == m_lastPressed && m_runLoop.now() - m_lastPressTime < times::kDoubleClick;
     m_lastPressed = key;
     m_lastPressTime = m_runLoop.now();
     if (event.hasModifier || m_messageWindow) {
@@ -311,13 +308,13 @@ void GameView::mouseClick(const MouseEvent& event, const std::string& key)
 {
     // The block starts before the game answers, so that the game may lengthen it.
     if (isChipKey(key)) {
-        m_block.startBlockClick(kChipBlock);
+        m_block.startBlockClick(paced(times::kChipBlock));
         m_target->mouseClick(event, rowForKey(key), columnForKey(key));
     } else if (isDeleteKey(key)) {
-        m_block.startBlockClick(kDeleteBlock);
+        m_block.startBlockClick(paced(times::kDeleteBlock));
         m_target->deleteClick(rowForDeleteButton(key));
     } else if (isButtonKey(key)) {
-        m_block.startBlockClick(kButtonBlock);
+        m_block.startBlockClick(times::kButtonBlock);
         m_target->buttonClick(key);
         m_hover.turnOffButtons();
     }
@@ -329,13 +326,18 @@ bool GameView::dropOnKey(const MouseEvent& event, const std::string& from, const
         || columnForKey(from) == columnForKey(to)) {
         return false;
     }
-    m_block.setDelay(kChipBlock);
+    m_block.setDelay(paced(times::kChipBlock));
     const bool moved = m_target->mouseDrag(
         event, rowForKey(from), columnForKey(from), rowForKey(to), columnForKey(to));
     if (moved) {
-        m_block.blockAndPollAfter(kChipBlock);
+        m_block.blockAndPollAfter(paced(times::kChipBlock));
     }
     return moved;
+}
+
+double GameView::paced(double seconds) const
+{
+    return m_layers.scene().tempo().delay(seconds);
 }
 
 present::GameObjectLayer* GameView::chipLayerHit(platform::Point location) const

@@ -98,6 +98,7 @@ private:
     void rememberPress(const MouseEvent& release);
     void playRememberedPress();
     void missedDrop(const MouseEvent& event, const std::string& from, const std::string& to);
+    [[nodiscard]] double paced(double seconds) const;
 
     board::GameData& m_gameData;
     present::BoardLayers& m_layers;

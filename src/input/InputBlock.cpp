@@ -1,5 +1,7 @@
 #include "input/InputBlock.h"
 
+#include "board/Times.h"
+
 #include <algorithm>
 
 namespace veyrand::input {
@@ -27,14 +29,20 @@ void InputBlock::blockAndPollAfter(double seconds)
 
 void InputBlock::removeBlockClick()
 {
-    constexpr double kPollInterval = 0.1;
     // Equality counts as passed, in whole nanoseconds, so that a block of 0.75 s lasts 0.75 s.
     if (platform::toNanoseconds(m_runLoop.now()) < platform::toNanoseconds(m_delayUntil)) {
-        m_runLoop.performAfterDelay(kPollInterval, [this] { removeBlockClick(); });
+        m_runLoop.performAfterDelay(untilNextPoll(), [this] { removeBlockClick(); });
         return;
     }
     m_blocked = false;
     m_ended();
+}
+
+double InputBlock::untilNextPoll() const
+{
+    // Without a tempo there is no beat to wait for, and a page's second would be polled away.
+    return m_tempo.speed() == board::Tempo::Speed::Off ? m_delayUntil - m_runLoop.now()
+                                                       : m_tempo.delay(board::times::kBlockPoll);
 }
 
 } // namespace veyrand::input

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/RunLoop.h"
+#include "board/Tempo.h"
 
 #include <functional>
 #include <utility>
@@ -11,10 +11,13 @@ namespace veyrand::input {
 // its time passed, and whoever lengthens it only moves that time on.
 class InputBlock {
 public:
-    // The function is called whenever a block has ended.
-    InputBlock(platform::RunLoop& runLoop, std::function<void()> ended)
+    // The function is called whenever a block has ended. The tempo is that of the polls; times come
+    // as they are to be.
+    InputBlock(platform::RunLoop& runLoop, std::function<void()> ended,
+        const board::Tempo& tempo = board::kUsualTempo)
         : m_runLoop(runLoop)
         , m_ended(std::move(ended))
+        , m_tempo(tempo)
     {
     }
 
@@ -40,9 +43,11 @@ public:
 
 private:
     void removeBlockClick();
+    [[nodiscard]] double untilNextPoll() const;
 
     platform::RunLoop& m_runLoop;
     std::function<void()> m_ended;
+    const board::Tempo& m_tempo;
     double m_delayUntil = 0.0;
     double m_since = 0.0;
     bool m_blocked = false;

@@ -1,15 +1,13 @@
 #include "present/GameObjectLayer.h"
 
+#include "board/Times.h"
+
 #include <string_view>
 #include <utility>
 
 namespace veyrand::present {
 
 namespace {
-
-constexpr double kFadeDuration = 0.5;
-constexpr double kSlideDuration = 0.75;
-constexpr double kResizeDuration = 0.5;
 
 platform::PointF point(double x, double y)
 {
@@ -102,21 +100,24 @@ void GameObjectLayer::update()
 void GameObjectLayer::animateToOpacity(double opacity)
 {
     const auto target = static_cast<float>(opacity);
-    animateOpacity(this->opacity(), target, kFadeDuration, Timing::Linear);
+    animateOpacity(
+        this->opacity(), target, scene().tempo().duration(board::times::kFade), Timing::Linear);
     setOpacity(target);
 }
 
 void GameObjectLayer::animateToXAndY(double x, double y)
 {
     const platform::PointF target = point(x, y);
-    animatePosition(position(), target, kSlideDuration, Timing::EaseInEaseOut);
+    animatePosition(
+        position(), target, scene().tempo().duration(board::times::kSlide), Timing::EaseInEaseOut);
     setPosition(target);
 }
 
 void GameObjectLayer::animateToWidthAndHeight(double width, double height)
 {
     const platform::SizeF target = size(width, height);
-    animateBounds(bounds(), target, kResizeDuration, Timing::Linear);
+    animateBounds(
+        bounds(), target, scene().tempo().duration(board::times::kResize), Timing::Linear);
     setBounds(target);
 }
 

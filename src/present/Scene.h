@@ -1,5 +1,6 @@
 #pragma once
 
+#include "board/Tempo.h"
 #include "platform/RunLoop.h"
 
 #include <algorithm>
@@ -9,16 +10,20 @@
 
 namespace veyrand::present {
 
-// What the layers of one window share: the clock that moves their animations, the stacking counter,
-// and the wish to be painted again. Owned by whoever owns the layer tree, and outlives it.
+// What the layers of one window share: the clock and the tempo that move their animations, the
+// stacking counter, and the wish to be painted again. Owned by whoever owns the layer tree, and
+// outlives it.
 class Scene {
 public:
-    explicit Scene(const platform::Clock& clock)
+    explicit Scene(const platform::Clock& clock, const board::Tempo& tempo = board::kUsualTempo)
         : m_clock(clock)
+        , m_tempo(tempo)
     {
     }
 
     [[nodiscard]] double now() const { return m_clock.now(); }
+
+    [[nodiscard]] const board::Tempo& tempo() const { return m_tempo; }
 
     // True while any animation runs: only then are frames needed that nothing else asks for.
     [[nodiscard]] bool isAnimating() const { return now() < m_animationsEnd; }
@@ -47,6 +52,7 @@ public:
 
 private:
     const platform::Clock& m_clock;
+    const board::Tempo& m_tempo;
     std::function<void()> m_listener;
     double m_animationsEnd = 0.0;
     int m_stackingCounter = 0;
