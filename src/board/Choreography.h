@@ -11,9 +11,10 @@ struct Choreography {
     unsigned rule = 0;
     unsigned column = 0; // where it starts
     unsigned endingColumn = 0; // of a pair of blues; otherwise 0
-    double ends
-        = 0.0; // seconds, at the usual tempo, after the start at which the last phase has run
-    double block = 0.0; // seconds by which input is blocked for longer than for any gesture
+    // Seconds at the usual tempo: after the start at which the last phase has run, and by which
+    // input is blocked for longer than for any gesture.
+    double ends = 0.0;
+    double block = 0.0;
     friend bool operator==(const Choreography&, const Choreography&) = default;
 };
 

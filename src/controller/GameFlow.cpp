@@ -213,7 +213,7 @@ void GameFlow::layOutPuzzle()
 void GameFlow::startMusic()
 {
     // It plays even when muted, so that turning it on finds it where it would be.
-    m_game.sounds.startLoop("Along the Seabed", m_game.menu.musicOn() ? 1.0 : 0.0);
+    m_game.sounds.startLoop(platform::kMusic, m_game.menu.musicOn() ? 1.0 : 0.0);
 }
 
 void GameFlow::puzzleFinished()
@@ -263,7 +263,7 @@ void GameFlow::returnToMenu()
     m_game.sounds.stopLoop();
     m_session.reset();
     m_game.board.gameData.gameObjects().removeAllEntries();
-    m_game.effects.play("GlockE2");
+    m_game.effects.play(platform::Effect::GlockE2);
     m_controller.titlePage().createTitleAndStartButtons();
 }
 
@@ -281,7 +281,7 @@ void GameFlow::cleanUpProofForPar(int par)
 {
     m_controller.hints().clearHint();
     m_controller.hints().resetHintMode();
-    m_game.effects.play("Marble");
+    m_game.effects.play(platform::Effect::Marble);
     const int newPar = std::clamp(par, kEasiestPar, kHardestPar);
     static_cast<void>(apply(play::Leave { newPar }));
     m_game.view.block().startBlockClick(m_game.tempo.delay(times::kLeavingBlock));

@@ -96,14 +96,14 @@ bool Hints::isFirstHintOfPlayer()
 
 void Hints::showPieces()
 {
-    m_game.effects.play("Chimes");
+    m_game.effects.play(platform::Effect::Chimes);
     m_game.board.hints.clearProofGoodSoFar();
     drawPieces();
 }
 
 void Hints::placePieces()
 {
-    m_game.effects.play("Chimes");
+    m_game.effects.play(platform::Effect::Chimes);
     const engine::HintHelper helper(m_controller.proof());
     m_game.board.hints.drawHint(helper.nextTheorem().value().theorem(),
         helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
@@ -139,13 +139,13 @@ void Hints::walkBack(const play::Outcome& outcome)
 {
     m_controller.flow().performWithThisProof(times::kWalkBackStep, [this] { findLastGood(); });
     m_game.view.block().blockAtLeast(m_game.tempo.delay(times::kWalkBackStep));
-    m_game.effects.play("Triangle");
+    m_game.effects.play(platform::Effect::Triangle);
     m_controller.lines().clearRows(outcome.row, outcome.gone, ProofLines::DeleteButtons::Remove);
 }
 
 void Hints::lastGoodFound()
 {
-    m_game.effects.play("GlockE2");
+    m_game.effects.play(platform::Effect::GlockE2);
     m_game.board.hints.drawProofGoodSoFar();
 }
 

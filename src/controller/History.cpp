@@ -126,7 +126,7 @@ void History::showGone(const play::Outcome& outcome)
     const double now = m_game.runLoop.now();
     if (!m_lastDing || now - *m_lastDing >= times::kNextDing) {
         m_lastDing = now;
-        m_game.effects.play("DeleteDing");
+        m_game.effects.play(platform::Effect::DeleteDing);
     }
     m_game.view.block().startBlockClick(m_game.tempo.delay(times::kDeleteBlock));
     m_controller.lines().dropRows(outcome);
@@ -139,7 +139,7 @@ void History::showGone(const play::Outcome& outcome)
 void History::showRemovalUndone(const play::Outcome& outcome)
 {
     m_firstRow = outcome.row;
-    m_game.effects.play("Marble");
+    m_game.effects.play(platform::Effect::Marble);
     double delay = 0.0;
     unsigned row = outcome.row;
     for (const engine::Theorem& line : outcome.come) {

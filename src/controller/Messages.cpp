@@ -104,7 +104,7 @@ void Messages::blockForReading()
 
 void Messages::playMessageWindowSound() const
 {
-    m_game.effects.play("GlockE2");
+    m_game.effects.play(platform::Effect::GlockE2);
 }
 
 } // namespace veyrand::controller

@@ -100,7 +100,7 @@ void Moves::show(
     board::perform(m_game.board.animations, choreography, lineBefore, row);
     settleAfter(choreography.ends, row);
     m_game.view.block().increaseDelay(m_game.tempo.delay(choreography.block));
-    m_game.effects.play("Marble");
+    m_game.effects.play(platform::Effect::Marble);
 }
 
 // Whatever was shown, the row ends as the line reads.
@@ -118,7 +118,7 @@ void Moves::settleAfter(double seconds, unsigned row)
 
 void Moves::playNoRuleApplied() const
 {
-    m_game.effects.play("No");
+    m_game.effects.play(platform::Effect::No);
 }
 
 } // namespace veyrand::controller

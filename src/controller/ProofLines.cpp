@@ -21,7 +21,7 @@ bool ProofLines::checkProofComplete()
     }
     const board::Tempo& tempo = m_game.tempo;
     m_game.view.block().startBlockClick(tempo.delay(tempo.celebration(times::kCelebrationBlock)));
-    m_game.effects.play("CymbalRoll");
+    m_game.effects.play(platform::Effect::CymbalRoll);
     GameFlow& flow = m_controller.flow();
     flow.performWithThisProof(
         tempo.celebration(times::kDeleteButtonsGo), [this] { removeAllDeleteButtons(); });
@@ -78,7 +78,7 @@ void ProofLines::deleteClick(unsigned row)
 {
     const auto answer = m_controller.flow().apply(play::Remove { row });
     if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
-        m_game.effects.play("DeleteDing");
+        m_game.effects.play(platform::Effect::DeleteDing);
         dropRows(*outcome);
         m_controller.hints().resetHintMode();
     }

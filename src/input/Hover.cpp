@@ -75,7 +75,7 @@ void Hover::mouseEntered(const std::string& key)
     if (m_isBlocked && m_isBlocked()) {
         return;
     }
-    m_effects.play("Click");
+    m_effects.play(platform::Effect::Click);
     if (const std::string lit = litPartnerOf(key); !lit.empty()) {
         interfaceElementOn(lit);
     } else {

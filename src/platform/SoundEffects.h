@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Effect.h"
 #include "platform/Menu.h"
 #include "platform/Sounds.h"
 
@@ -14,10 +15,10 @@ public:
     {
     }
 
-    void play(std::string_view name) const
+    void play(Effect effect) const
     {
         if (m_menu.effectsOn()) {
-            m_sounds.play(name);
+            m_sounds.play(nameOf(effect));
         }
     }
 

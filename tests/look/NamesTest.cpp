@@ -1,3 +1,4 @@
+#include "platform/Effect.h"
 #include "progress/PlayerKeys.h"
 #include "support/Places.h"
 #include "support/PlayedGame.h"
@@ -34,9 +35,8 @@ Names filesIn(const char* folder)
 // Every sound that any line of the sources plays.
 Names soundsInSources()
 {
-    const QRegularExpression call(
-        QStringLiteral("(?:effects|sounds)\\.(?:play|startLoop)\\(\\s*\"([^\"]+)\""));
-    Names names;
+    const QRegularExpression call(QStringLiteral("play\(\s*platform::Effect::(\w+)\)"));
+    Names names { std::string(platform::kMusic) };
     QDirIterator files(QString::fromStdString(test::sourceFolder() + "/src"),
         { QStringLiteral("*.cpp") }, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
