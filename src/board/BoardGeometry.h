@@ -1,8 +1,8 @@
 #pragma once
 
+#include "board/ElementKey.h"
 #include "platform/Geometry.h"
 
-#include <string>
 #include <string_view>
 
 namespace veyrand::board {
@@ -25,22 +25,6 @@ inline double xPositionForColumn(unsigned column)
 inline double yPositionForRow(unsigned row)
 {
     return 0.95 + -kChipSize * static_cast<double>(row);
-}
-
-// "chip-3-2": prefix, column, row.
-inline std::string chipKey(std::string_view prefix, unsigned column, unsigned row)
-{
-    return std::string(prefix) + '-' + std::to_string(column) + '-' + std::to_string(row);
-}
-
-inline std::string generateKeyChipKey(unsigned column, unsigned row)
-{
-    return chipKey("chip", column, row);
-}
-
-inline std::string deleteButtonKey(unsigned row)
-{
-    return "delete-" + std::to_string(row);
 }
 
 // The image of a line's letter; a letter that is no colour draws the many-coloured chip.

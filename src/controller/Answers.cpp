@@ -1,8 +1,8 @@
 #include "controller/Answers.h"
 
+#include "board/ElementKey.h"
 #include "controller/GameController.h"
 #include "controller/Legality.h"
-#include "input/BoardKeys.h"
 #include "present/ExtraPictures.h"
 
 #include <algorithm>
@@ -137,7 +137,7 @@ void Answers::addRows(std::vector<Extra>& wanted) const
     auto last = static_cast<unsigned>(lengths.size() - 1);
     double share = 1.0;
     if (const std::string doomer = doomedBy(m_shown.thing); !doomer.empty()) {
-        const unsigned first = input::rowForDeleteButton(doomer);
+        const unsigned first = board::rowForDeleteButton(doomer);
         wanted.push_back(present::doomedRows(lengths, first));
         last = first - 1;
         share = present::extras::kLeftLight;
@@ -151,14 +151,14 @@ void Answers::addRows(std::vector<Extra>& wanted) const
 void Answers::addHands(std::vector<Extra>& wanted) const
 {
     if (!m_shown.dragged.empty()) {
-        const unsigned row = input::rowForKey(m_shown.dragged);
-        const unsigned column = input::columnForKey(m_shown.dragged);
+        const unsigned row = board::rowForKey(m_shown.dragged);
+        const unsigned column = board::columnForKey(m_shown.dragged);
         for (const unsigned target : dropsThatAreMoves(m_controller, row, column)) {
             wanted.push_back(present::targetRing(target, row));
         }
         return;
     }
-    if (input::isChipKey(m_shown.held)) {
+    if (board::isChipKey(m_shown.held)) {
         if (const auto place = placeOf(m_shown.held)) {
             wanted.push_back(present::heldDown(m_shown.held, *place));
         }
@@ -167,8 +167,8 @@ void Answers::addHands(std::vector<Extra>& wanted) const
     if (!place || !m_shown.inPlay) {
         return;
     }
-    const bool isStone = input::isChipKey(m_shown.thing);
-    if (isStone || input::isDeleteKey(m_shown.thing)) {
+    const bool isStone = board::isChipKey(m_shown.thing);
+    if (isStone || board::isDeleteKey(m_shown.thing)) {
         const Cursor hand = cursor();
         if (hand == Cursor::Pointing || hand == Cursor::Open) {
             wanted.push_back(present::lightUnder(m_shown.thing, *place));
@@ -217,10 +217,10 @@ std::string Answers::thingUnderPointer() const
 // The delete button whose click would take rows away, if that is what the thing is.
 std::string Answers::doomedBy(const std::string& thing) const
 {
-    if (!input::isDeleteKey(thing)) {
+    if (!board::isDeleteKey(thing)) {
         return {};
     }
-    const unsigned row = input::rowForDeleteButton(thing);
+    const unsigned row = board::rowForDeleteButton(thing);
     return row > 0 && row < m_shown.lines.size() ? thing : std::string();
 }
 
@@ -259,14 +259,14 @@ Cursor Answers::cursor() const
         const bool answers = m_controller.dialogueState() != 0 || key.starts_with("button");
         return answers ? Cursor::Pointing : Cursor::Arrow;
     }
-    if (input::isDeleteKey(key)) {
+    if (board::isDeleteKey(key)) {
         return Cursor::Pointing;
     }
-    if (!input::isChipKey(key)) {
+    if (!board::isChipKey(key)) {
         return Cursor::Arrow;
     }
-    const unsigned row = input::rowForKey(key);
-    const unsigned column = input::columnForKey(key);
+    const unsigned row = board::rowForKey(key);
+    const unsigned column = board::columnForKey(key);
     if (!whyNoClick(m_controller, row, column)) {
         return Cursor::Pointing;
     }
@@ -369,7 +369,7 @@ void Answers::refusedAt(unsigned row, unsigned column, const play::Refusal& why)
 
 void Answers::pressLost(const std::string& key)
 {
-    if (!m_settings.answers || !input::isChipKey(key)) {
+    if (!m_settings.answers || !board::isChipKey(key)) {
         return;
     }
     if (const auto place = placeOf(key)) {
@@ -383,22 +383,22 @@ void Answers::pressLost(const std::string& key)
 
 void Answers::dragRefused(const std::string& key)
 {
-    const unsigned row = input::rowForKey(key);
+    const unsigned row = board::rowForKey(key);
     const bool isLast = row + 1 == m_controller.lineCount();
-    refusedAt(row, input::columnForKey(key),
+    refusedAt(row, board::columnForKey(key),
         { .reason = isLast ? Reason::NoDragNow : Reason::NotLastLine });
 }
 
 void Answers::dropMissed(const std::string& from, const std::string& to)
 {
-    if (!input::isChipKey(from)) {
+    if (!board::isChipKey(from)) {
         return;
     }
     // Dropped on a stone of its line it was refused, and answered, as a gesture.
-    const bool onStone = input::isChipKey(to);
+    const bool onStone = board::isChipKey(to);
     if (!onStone) {
         say({ .reason = Reason::NoChip });
-    } else if (input::rowForKey(from) != input::rowForKey(to)) {
+    } else if (board::rowForKey(from) != board::rowForKey(to)) {
         say({ .reason = Reason::OtherRow });
     }
 }
@@ -406,7 +406,7 @@ void Answers::dropMissed(const std::string& from, const std::string& to)
 void Answers::clickMissed(const std::string& key)
 {
     say({ .reason = Reason::SameChip });
-    if (!m_settings.answers || !input::isChipKey(key)) {
+    if (!m_settings.answers || !board::isChipKey(key)) {
         return;
     }
     if (++m_clicksMissed >= kMissesUntilAdvice) {

@@ -1,8 +1,8 @@
 #include "controller/Tips.h"
 
+#include "board/ElementKey.h"
 #include "controller/GameController.h"
 #include "controller/Legality.h"
-#include "input/BoardKeys.h"
 #include "play/Move.h"
 #include "play/Scoring.h"
 #include "progress/PlayerRecord.h"
@@ -62,11 +62,11 @@ Tips::Tips(GameController& controller)
 
 std::string Tips::textFor(const std::string& key) const
 {
-    if (input::isChipKey(key)) {
-        return forChip(input::rowForKey(key), input::columnForKey(key));
+    if (board::isChipKey(key)) {
+        return forChip(board::rowForKey(key), board::columnForKey(key));
     }
-    if (input::isDeleteKey(key)) {
-        return forDelete(input::rowForDeleteButton(key));
+    if (board::isDeleteKey(key)) {
+        return forDelete(board::rowForDeleteButton(key));
     }
     if (key == "counter-par" || key == "label-par") {
         return forPar();

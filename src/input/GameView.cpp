@@ -1,7 +1,7 @@
 #include "input/GameView.h"
 
+#include "board/ElementKey.h"
 #include "board/Times.h"
-#include "input/BoardKeys.h"
 
 #include <cmath>
 #include <utility>
@@ -9,6 +9,7 @@
 namespace veyrand::input {
 
 namespace times = board::times;
+using board::ElementKey;
 
 namespace {
 
@@ -72,7 +73,7 @@ void GameView::losePress(const MouseEvent& event)
     if (event.hasModifier || m_messageWindow) {
         return;
     }
-    if (isChipKey(key) && !isSecondOfTwo) {
+    if (board::isChipKey(key) && !isSecondOfTwo) {
         m_lost = event.location;
     }
     if (m_onlooker != nullptr) {
@@ -144,7 +145,7 @@ void GameView::rememberPress(const MouseEvent& release)
         return;
     }
     const std::string pressed = keyHit(*m_lost);
-    if (isChipKey(pressed) && pressed == keyHit(release.location)) {
+    if (board::isChipKey(pressed) && pressed == keyHit(release.location)) {
         m_remembered = pressed;
         if (!m_block.blockClick()) {
             playRememberedPress(); // the block has ended under the held button
@@ -170,7 +171,7 @@ void GameView::holdDown(const std::string& key)
     // A note's pictures share the keys of a dialogue's buttons.
     const bool isButton
         = Hover::isLitFace(key) && (m_target->dialogueState() != 0 || key.starts_with("button"));
-    if (isButton || isDeleteKey(key)) {
+    if (isButton || board::isDeleteKey(key)) {
         m_heldKey = key;
         m_layers.layerForKey(key)->setPressed(true);
     }
@@ -193,11 +194,11 @@ bool GameView::hasMoved(platform::Point location) const
 void GameView::tryToStartDrag(platform::Point location)
 {
     const std::string key = keyHit(location);
-    if (!isChipKey(key)) {
+    if (!board::isChipKey(key)) {
         return; // a later move tries again
     }
-    const unsigned row = rowForKey(key);
-    const auto targets = m_target->areasToTrack(row, columnForKey(key));
+    const unsigned row = board::rowForKey(key);
+    const auto targets = m_target->areasToTrack(row, board::columnForKey(key));
     if (m_target->rowToDrag() != row || !targets) {
         m_blockDrag = true;
         if (m_onlooker != nullptr) {
@@ -282,7 +283,7 @@ void GameView::takeBackDrag()
     m_dragImage.fadeOut();
     m_dragImage.flyTo(origin->position());
     m_dragImage.removeAfterFade();
-    const unsigned row = rowForKey(m_drag->originKey);
+    const unsigned row = board::rowForKey(m_drag->originKey);
     m_hover.turnOffEffectsForRow(row, m_target->lengthOfRow(row));
     origin->setOpacity(1.0F);
 }
@@ -307,28 +308,36 @@ present::GameObjectLayer* GameView::originLayer() const
 void GameView::mouseClick(const MouseEvent& event, const std::string& key)
 {
     // The block starts before the game answers, so that the game may lengthen it.
-    if (isChipKey(key)) {
+    switch (board::parsedKey(key).kind) {
+    case ElementKey::Kind::Chip:
         m_block.startBlockClick(paced(times::kChipBlock));
-        m_target->mouseClick(event, rowForKey(key), columnForKey(key));
-    } else if (isDeleteKey(key)) {
+        m_target->mouseClick(event, board::rowForKey(key), board::columnForKey(key));
+        return;
+    case ElementKey::Kind::DeleteButton:
         m_block.startBlockClick(paced(times::kDeleteBlock));
-        m_target->deleteClick(rowForDeleteButton(key));
-    } else if (isButtonKey(key)) {
+        m_target->deleteClick(board::rowForDeleteButton(key));
+        return;
+    case ElementKey::Kind::Button:
         m_block.startBlockClick(times::kButtonBlock);
         m_target->buttonClick(key);
         m_hover.turnOffButtons();
+        return;
+    case ElementKey::Kind::Other:
+        return;
     }
 }
 
 bool GameView::dropOnKey(const MouseEvent& event, const std::string& from, const std::string& to)
 {
-    if (!isChipKey(to) || rowForKey(from) != rowForKey(to)
-        || columnForKey(from) == columnForKey(to)) {
+    const ElementKey origin = board::parsedKey(from);
+    const ElementKey place = board::parsedKey(to);
+    if (place.kind != ElementKey::Kind::Chip || origin.row != place.row
+        || origin.column == place.column) {
         return false;
     }
     m_block.setDelay(paced(times::kChipBlock));
-    const bool moved = m_target->mouseDrag(
-        event, rowForKey(from), columnForKey(from), rowForKey(to), columnForKey(to));
+    const bool moved
+        = m_target->mouseDrag(event, *origin.row, *origin.column, *place.row, *place.column);
     if (moved) {
         m_block.blockAndPollAfter(paced(times::kChipBlock));
     }
@@ -428,7 +437,7 @@ void GameView::playRememberedPress()
     const std::string key = std::exchange(m_remembered, {});
     if (key.empty() || m_messageWindow || m_target == nullptr || m_target->dialogueState() != 0
         || !m_habits || !m_habits().rememberPress || !m_gameData.gameObjects().contains(key)
-        || !m_target->isMove(rowForKey(key), columnForKey(key))) {
+        || !m_target->isMove(board::rowForKey(key), board::columnForKey(key))) {
         return;
     }
     mouseClick({}, key);

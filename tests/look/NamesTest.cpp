@@ -35,7 +35,7 @@ Names filesIn(const char* folder)
 // Every sound that any line of the sources plays.
 Names soundsInSources()
 {
-    const QRegularExpression call(QStringLiteral("play\(\s*platform::Effect::(\w+)\)"));
+    const QRegularExpression call(QStringLiteral("play\\(\\s*platform::Effect::(\\w+)\\)"));
     Names names { std::string(platform::kMusic) };
     QDirIterator files(QString::fromStdString(test::sourceFolder() + "/src"),
         { QStringLiteral("*.cpp") }, QDir::Files, QDirIterator::Subdirectories);
