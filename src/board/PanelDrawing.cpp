@@ -1,5 +1,7 @@
 #include "board/PanelDrawing.h"
 
+#include "board/Buttons.h"
+
 #include <array>
 
 namespace veyrand::board {
@@ -34,42 +36,40 @@ constexpr std::array kEndlessItems { PanelItem { "label-points", "Points", 0.9, 
 
 void PanelDrawing::drawButtons()
 {
-    drawButton("lightbulb", "HintButton", 0.275);
-    drawButton("movesbutton", "MovesButton", 0.2);
-    drawButton("menubutton", "MenuButton", 0.125);
+    forEachButton(ButtonScreen::Board, [this](const Button& button) { drawButton(button); });
     if (m_currentGame.endlessGame()) {
-        drawEndlessButton("harderbutton", "HarderEasierTop", 0.485);
-        drawEndlessButton("easierbutton", "HarderEasierBottom", 0.3985);
+        forEachButton(ButtonScreen::EndlessBoard,
+            [this](const Button& button) { drawEndlessButton(button); });
     }
     if (m_gameData.buttonTracking() != nullptr) {
         m_gameData.buttonTracking()->establishButtonTracking();
     }
 }
 
-// A button is two records in one place. The lit face is added first, and so lies in front and is
-// the one that is hit, though it shows only under the pointer.
-void PanelDrawing::drawButton(std::string_view name, std::string_view image, double y)
+// The lit face is added first, and so lies in front.
+void PanelDrawing::drawButton(const Button& button)
 {
-    constexpr double kWidth = 0.15;
-    constexpr double kHeight = 0.06880733944954;
-    const std::string key = "button-" + std::string(name);
-    m_gameData.gameObjects().removeGameObjectForKey(key + "on");
+    const std::string litKey(button.litKey);
+    m_gameData.gameObjects().removeGameObjectForKey(litKey);
     m_gameData.gameObjects().addGameObject(
-        std::make_shared<GameObject>(std::string(image), kPanelX, y, kWidth, kHeight, 0.0, true),
-        key + "on");
-    m_gameData.gameObjects().removeGameObjectForKey(key + "off");
-    m_gameData.fadeInImage(
-        std::string(image) + "Uncoloured", kPanelX, y, kWidth, kHeight, 1.0, key + "off");
+        std::make_shared<GameObject>(std::string(button.picture), button.x, button.y, button.width,
+            button.height, 0.0, true),
+        litKey);
+    m_gameData.gameObjects().removeGameObjectForKey(std::string(button.key));
+    fadeInUncoloured(button);
 }
 
-void PanelDrawing::drawEndlessButton(std::string_view name, std::string_view image, double y)
+void PanelDrawing::drawEndlessButton(const Button& button)
 {
-    constexpr double kWidth = 0.2;
-    constexpr double kHeight = 0.08703703703704;
-    const std::string key = "button-" + std::string(name);
-    m_gameData.fadeInImage(image, kPanelX, y, kWidth, kHeight, 0.0, key + "on");
-    m_gameData.fadeInImage(
-        std::string(image) + "Uncoloured", kPanelX, y, kWidth, kHeight, 1.0, key + "off");
+    m_gameData.fadeInImage(button.picture, button.x, button.y, button.width, button.height, 0.0,
+        std::string(button.litKey));
+    fadeInUncoloured(button);
+}
+
+void PanelDrawing::fadeInUncoloured(const Button& button)
+{
+    m_gameData.fadeInImage(uncolouredPicture(button), button.x, button.y, button.width,
+        button.height, 1.0, std::string(button.key));
 }
 
 void PanelDrawing::drawLabels()

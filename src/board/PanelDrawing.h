@@ -5,6 +5,8 @@
 
 namespace veyrand::board {
 
+struct Button;
+
 // Draws the panel left of the lines: buttons, captions and counters, as the mode of the current
 // game wants them.
 class PanelDrawing {
@@ -22,8 +24,9 @@ public:
     void drawCounters();
 
 private:
-    void drawButton(std::string_view name, std::string_view image, double y);
-    void drawEndlessButton(std::string_view name, std::string_view image, double y);
+    void drawButton(const Button& button);
+    void drawEndlessButton(const Button& button);
+    void fadeInUncoloured(const Button& button);
     void setCounter(std::string_view key, const std::string& text);
 
     GameData& m_gameData;

@@ -1,5 +1,6 @@
 #include "controller/Dialogues.h"
 
+#include "board/Buttons.h"
 #include "controller/GameController.h"
 #include "present/InfoLayer.h"
 
@@ -16,25 +17,24 @@ Dialogues::Dialogues(GameController& controller)
 void Dialogues::showDialogue(
     const std::string& firstButton, const std::string& secondButton, Question question)
 {
-    constexpr double kX = 0.8;
-    constexpr double kWidth = 0.423;
-    constexpr double kHeight = 0.118;
-    struct Button {
-        const std::string& name;
-        double y;
+    struct Face {
+        const std::string& picture;
+        const board::Button& button;
     };
     m_question = question;
     auto window = std::make_unique<present::InfoLayer>(m_game.board.gameData,
         present::InfoLayer::Style {
             .background = { .imageName = "MessageBackground", .width = 0.7, .height = 0.5 },
             .verticalOffset = 0.0F });
-    const std::array buttons { Button { firstButton, 0.6 }, Button { secondButton, 0.4 } };
-    for (const Button& button : buttons) {
-        window->fadeInImage(button.name + "Uncoloured", kX, button.y, kWidth, kHeight, 0.0, 1.0);
+    const std::array faces { Face { firstButton, board::buttonFor(board::ButtonAction::GoOn) },
+        Face { secondButton, board::buttonFor(board::ButtonAction::StartAnew) } };
+    for (const auto& [picture, button] : faces) {
+        window->fadeInImage(picture + std::string(button.uncoloured), button.x, button.y,
+            button.width, button.height, 0.0, 1.0);
     }
     // The coloured faces lie on top, unseen until the pointer lights them, and are what is hit.
-    for (const Button& button : buttons) {
-        window->fadeInImage(button.name, kX, button.y, kWidth, kHeight, 0.0, 0.0);
+    for (const auto& [picture, button] : faces) {
+        window->fadeInImage(picture, button.x, button.y, button.width, button.height, 0.0, 0.0);
     }
     m_controller.messages().showDialogue(std::move(window));
     m_game.view.hover().establishDialogueButtonTracking();

@@ -1,5 +1,6 @@
 #include "controller/GameController.h"
 
+#include "board/Buttons.h"
 #include "controller/Legality.h"
 #include "controller/OverlayFrame.h"
 #include "install/M3InstallController.h"
@@ -78,7 +79,8 @@ bool GameController::isPuzzleOnBoard() const
 
 bool GameController::gameMenuItemEnabled() const
 {
-    return !m_context.board.gameData.gameObjects().contains("button-lightbulbon");
+    return !m_context.board.gameData.gameObjects().contains(
+        std::string(board::buttonFor(board::ButtonAction::Hint).litKey));
 }
 
 bool GameController::canOpenPage() const
@@ -111,26 +113,32 @@ void GameController::deleteClick(unsigned row)
 
 void GameController::buttonClick(const std::string& key)
 {
-    if (key == "button-classicbuttonon") {
-        m_flow.newClassicGame();
-    } else if (key == "button-endlessbuttonon") {
-        m_flow.newEndlessGame();
-    } else if (key == "button-quitbuttonon") {
-        m_context.quit.terminate();
-    } else if (key == "button-lightbulbon") {
-        m_hints.lightBulbClick();
-    } else if (key == "button-movesbuttonon") {
+    const board::Button* const button = board::buttonWithLitFace(key);
+    if (button == nullptr) {
+        return;
+    }
+    switch (button->action) {
+    case board::ButtonAction::ClassicGame:
+        return m_flow.newClassicGame();
+    case board::ButtonAction::EndlessGame:
+        return m_flow.newEndlessGame();
+    case board::ButtonAction::Quit:
+        return m_context.quit.terminate();
+    case board::ButtonAction::Hint:
+        return m_hints.lightBulbClick();
+    case board::ButtonAction::Moves:
         m_pages.show("movesMessageWindow");
-    } else if (key == "button-menubuttonon") {
-        m_flow.returnToMenu();
-    } else if (key == "button-harderbuttonon") {
-        m_flow.harderButtonClick();
-    } else if (key == "button-easierbuttonon") {
-        m_flow.easierButtonClick();
-    } else if (key == "fullScreen-4i") {
-        m_dialogues.dialogueButtonClick(0);
-    } else if (key == "fullScreen-3i") {
-        m_dialogues.dialogueButtonClick(1);
+        return;
+    case board::ButtonAction::Menu:
+        return m_flow.returnToMenu();
+    case board::ButtonAction::Harder:
+        return m_flow.harderButtonClick();
+    case board::ButtonAction::Easier:
+        return m_flow.easierButtonClick();
+    case board::ButtonAction::StartAnew:
+        return m_dialogues.dialogueButtonClick(0);
+    case board::ButtonAction::GoOn:
+        return m_dialogues.dialogueButtonClick(1);
     }
 }
 

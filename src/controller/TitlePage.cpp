@@ -1,29 +1,15 @@
 #include "controller/TitlePage.h"
 
+#include "board/Buttons.h"
 #include "progress/PlayerRecord.h"
-
-#include <array>
 
 namespace veyrand::controller {
 
 namespace {
 
-constexpr double kButtonX = 1.06;
-constexpr double kButtonWidth = 0.283;
-constexpr double kButtonHeight = 0.122;
 constexpr double kBadgeX = 1.4;
 constexpr double kBadgeSize = 0.15;
 constexpr double kLockSize = 0.119;
-
-struct TitleButton {
-    const char* image;
-    const char* key;
-    double y;
-};
-
-constexpr std::array kButtons { TitleButton { "ClassicButton", "button-classicbutton", 0.7 },
-    TitleButton { "EndlessButton", "button-endlessbutton", 0.5 },
-    TitleButton { "QuitButton", "button-quitbutton", 0.3 } };
 
 } // namespace
 
@@ -48,13 +34,12 @@ void TitlePage::createTitleAndStartButtons()
     }
 
     // The lit face first: it lies in front, and is the one that is hit.
-    for (const TitleButton& button : kButtons) {
-        const std::string key = button.key;
-        data.fadeInImage(
-            button.image, kButtonX, button.y, kButtonWidth, kButtonHeight, 0.0, key + "on");
-        data.fadeInImage(std::string(button.image) + "Off", kButtonX, button.y, kButtonWidth,
-            kButtonHeight, 1.0, key + "off");
-    }
+    board::forEachButton(board::ButtonScreen::TitlePage, [&data](const board::Button& button) {
+        data.fadeInImage(button.picture, button.x, button.y, button.width, button.height, 0.0,
+            std::string(button.litKey));
+        data.fadeInImage(board::uncolouredPicture(button), button.x, button.y, button.width,
+            button.height, 1.0, std::string(button.key));
+    });
     m_game.view.hover().establishTitlePagButtonTracking();
 }
 

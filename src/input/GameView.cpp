@@ -16,6 +16,11 @@ namespace {
 constexpr double kDragThreshold = 3.0; // points, along either axis
 constexpr float kDraggedOpacity = 0.5F;
 
+bool contains(const board::ObjectTable& table, board::ButtonAction button)
+{
+    return table.contains(std::string(board::buttonFor(button).key));
+}
+
 } // namespace
 
 GameView::GameView(const Parts& parts)
@@ -406,12 +411,13 @@ void GameView::reestablishTracking()
     }
     const board::ObjectTable& table = m_gameData.gameObjects();
     // A page's or note's pictures share the keys of a dialogue's buttons.
-    if (m_target != nullptr && m_target->dialogueState() != 0 && table.contains("fullScreen-1i")) {
+    if (m_target != nullptr && m_target->dialogueState() != 0
+        && contains(table, board::ButtonAction::GoOn)) {
         m_hover.turnOffDialogueButtons();
         m_hover.establishDialogueButtonTracking();
-    } else if (table.contains("button-classicbuttonoff")) {
+    } else if (contains(table, board::ButtonAction::ClassicGame)) {
         m_hover.establishTitlePagButtonTracking();
-    } else if (table.contains("button-lightbulboff")) {
+    } else if (contains(table, board::ButtonAction::Hint)) {
         establishButtonTracking();
     }
 }

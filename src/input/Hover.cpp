@@ -1,48 +1,10 @@
 #include "input/Hover.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 namespace veyrand::input {
 
 namespace {
 
 constexpr float kGlowRadius = 20.0F;
-
-// Every button is tracked by its uncoloured face; the pointer lights the coloured one.
-struct ButtonPair {
-    std::string_view tracked;
-    std::string_view lit;
-};
-
-constexpr std::array kButtonPairs {
-    ButtonPair { "button-classicbuttonoff", "button-classicbuttonon" },
-    ButtonPair { "button-endlessbuttonoff", "button-endlessbuttonon" },
-    ButtonPair { "button-quitbuttonoff", "button-quitbuttonon" },
-    ButtonPair { "button-lightbulboff", "button-lightbulbon" },
-    ButtonPair { "button-movesbuttonoff", "button-movesbuttonon" },
-    ButtonPair { "button-menubuttonoff", "button-menubuttonon" },
-    ButtonPair { "button-harderbuttonoff", "button-harderbuttonon" },
-    ButtonPair { "button-easierbuttonoff", "button-easierbuttonon" },
-    ButtonPair { "fullScreen-1i", "fullScreen-3i" },
-    ButtonPair { "fullScreen-2i", "fullScreen-4i" },
-};
-
-std::string litPartnerOf(std::string_view key)
-{
-    for (const ButtonPair& pair : kButtonPairs) {
-        if (pair.tracked == key) {
-            return std::string(pair.lit);
-        }
-    }
-    return {};
-}
-
-bool isQuestionsFace(std::string_view key)
-{
-    return key == "fullScreen-3i" || key == "fullScreen-4i";
-}
 
 } // namespace
 
@@ -66,8 +28,7 @@ void Hover::pointerMoved(Button button)
 
 bool Hover::isLitFace(const std::string& key)
 {
-    return std::any_of(kButtonPairs.begin(), kButtonPairs.end(),
-        [&key](const ButtonPair& pair) { return pair.lit == key; });
+    return board::buttonWithLitFace(key) != nullptr;
 }
 
 void Hover::mouseEntered(const std::string& key)
@@ -76,8 +37,8 @@ void Hover::mouseEntered(const std::string& key)
         return;
     }
     m_effects.play(platform::Effect::Click);
-    if (const std::string lit = litPartnerOf(key); !lit.empty()) {
-        interfaceElementOn(lit);
+    if (const board::Button* const button = board::buttonWithFace(key)) {
+        interfaceElementOn(std::string(button->litKey));
     } else {
         setEffect(key, kGlowRadius);
     }
@@ -85,8 +46,8 @@ void Hover::mouseEntered(const std::string& key)
 
 void Hover::mouseExited(const std::string& key)
 {
-    if (const std::string lit = litPartnerOf(key); !lit.empty()) {
-        interfaceElementOff(lit);
+    if (const board::Button* const button = board::buttonWithFace(key)) {
+        interfaceElementOff(std::string(button->litKey));
     } else {
         setEffect(key, 0.0F);
     }
@@ -99,64 +60,63 @@ void Hover::createTrackingForObjectWithKey(const std::string& key)
     }
 }
 
+void Hover::track(board::ButtonScreen screen)
+{
+    board::forEachButton(screen, [this](const board::Button& button) {
+        createTrackingForObjectWithKey(std::string(button.key));
+    });
+}
+
+void Hover::turnOff(board::ButtonScreen screen)
+{
+    board::forEachButton(screen,
+        [this](const board::Button& button) { interfaceElementOff(std::string(button.litKey)); });
+}
+
 void Hover::establishButtonTracking(bool endlessGame)
 {
     removeCurrentTrackingAreas();
-    createTrackingForObjectWithKey("button-lightbulboff");
-    createTrackingForObjectWithKey("button-movesbuttonoff");
-    createTrackingForObjectWithKey("button-menubuttonoff");
+    track(board::ButtonScreen::Board);
     if (endlessGame) {
-        createTrackingForObjectWithKey("button-harderbuttonoff");
-        createTrackingForObjectWithKey("button-easierbuttonoff");
+        track(board::ButtonScreen::EndlessBoard);
     }
 }
 
 void Hover::establishTitlePagButtonTracking()
 {
     removeCurrentTrackingAreas();
-    createTrackingForObjectWithKey("button-classicbuttonoff");
-    createTrackingForObjectWithKey("button-endlessbuttonoff");
-    createTrackingForObjectWithKey("button-quitbuttonoff");
+    track(board::ButtonScreen::TitlePage);
 }
 
 void Hover::establishDialogueButtonTracking()
 {
     removeCurrentTrackingAreas();
-    createTrackingForObjectWithKey("fullScreen-1i");
-    createTrackingForObjectWithKey("fullScreen-2i");
+    track(board::ButtonScreen::Question);
 }
 
 void Hover::turnOffButtons()
 {
-    for (const char* key : { "button-lightbulbon", "button-movesbuttonon", "button-menubuttonon",
-             "button-harderbuttonon", "button-easierbuttonon" }) {
-        interfaceElementOff(key);
-    }
+    turnOff(board::ButtonScreen::Board);
+    turnOff(board::ButtonScreen::EndlessBoard);
 }
 
 void Hover::turnOffTitlePageButtons()
 {
     removeCurrentTrackingAreas();
-    for (const char* key :
-        { "button-classicbuttonon", "button-endlessbuttonon", "button-quitbuttonon" }) {
-        interfaceElementOff(key);
-    }
+    turnOff(board::ButtonScreen::TitlePage);
 }
 
 void Hover::turnOffDialogueButtons()
 {
     removeCurrentTrackingAreas();
-    interfaceElementOff("fullScreen-3i");
-    interfaceElementOff("fullScreen-4i");
+    turnOff(board::ButtonScreen::Question);
 }
 
 void Hover::turnOnAllHovers(Asking asking)
 {
-    for (const char* key : { "button-lightbulbon", "button-movesbuttonon", "button-menubuttonon",
-             "fullScreen-3i", "fullScreen-4i", "button-classicbuttonon", "button-endlessbuttonon",
-             "button-quitbuttonon", "button-harderbuttonon", "button-easierbuttonon" }) {
-        if (asking == Asking::No || isQuestionsFace(key)) {
-            turnOnHoveredElement(key);
+    for (const board::Button& button : board::kButtons) {
+        if (asking == Asking::No || button.screen == board::ButtonScreen::Question) {
+            turnOnHoveredElement(std::string(button.litKey));
         }
     }
     // What is lit now goes out when the pointer leaves, held or not as it came.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "board/Buttons.h"
 #include "input/GestureTarget.h"
 #include "input/HitAreas.h"
 #include "platform/Pointer.h"
@@ -54,6 +55,8 @@ public:
     void mouseExited(const std::string& key) override;
 
 private:
+    void track(board::ButtonScreen screen);
+    void turnOff(board::ButtonScreen screen);
     void setEffect(const std::string& key, float radius);
     void turnOnHoveredElement(const std::string& key);
     void setOpacity(const std::string& key, double opacity);

@@ -2,6 +2,7 @@
 
 #include "platform/MemoryPreferences.h"
 #include "progress/PlayerKeys.h"
+#include "support/Places.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -144,7 +145,7 @@ TEST_F(SettingsTest, ALanguageIsSpelledAsItsFolder)
 TEST_F(SettingsTest, TheManualListsEachWithItsValuesAndDefault)
 {
     std::ostringstream manual;
-    manual << std::ifstream(VEYRAND_SOURCE_DIR "/docs/settings.md").rdbuf();
+    manual << std::ifstream(test::sourceFolder() + "/docs/settings.md").rdbuf();
     for (const SettingDescription& setting : describedSettings()) {
         const std::string row
             = "| `" + setting.name + "` | " + setting.values + " | " + setting.usual + " | ";
