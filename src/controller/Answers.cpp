@@ -97,7 +97,7 @@ Answers::Situation Answers::situation() const
         }
         now.inPlay = !proof->checkSolved();
     }
-    if (!m_controller.hasMessageWindow()) {
+    if (!m_game.view.messageWindow()) {
         now.thing = thingUnderPointer();
         now.held = m_game.view.keyHeld();
         now.dragged = m_game.view.keyDragged();
@@ -246,7 +246,7 @@ std::optional<ExtraRect> Answers::placeOf(const std::string& key) const
 Cursor Answers::cursor() const
 {
     const input::InputBlock& block = m_game.view.block();
-    if (!m_settings.answers || m_controller.hasMessageWindow()
+    if (!m_settings.answers || m_game.view.messageWindow()
         || (block.blockClick() && block.length() >= kBlockThatShows)) {
         return Cursor::Arrow;
     }

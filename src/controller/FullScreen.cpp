@@ -18,7 +18,7 @@ void FullScreen::toggleFullscreen()
         enter();
     }
     m_game.view.reestablishTracking();
-    if (!m_controller.hasMessageWindow()) {
+    if (!m_game.view.messageWindow()) {
         m_game.view.turnOnAllHovers(); // nothing lights up under a page
     }
     if (m_controller.isPuzzleOnBoard()) {

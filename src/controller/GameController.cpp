@@ -42,7 +42,7 @@ void GameController::updateContentViewFrame(platform::Size viewSize)
 
 void GameController::windowDidResize()
 {
-    if (hasMessageWindow() && dialogueState() == 0) {
+    if (m_context.view.overlay() == input::Overlay::Page) {
         return; // a page takes every press; it has no hit areas until it is dismissed
     }
     // A dialogue is looked for first, since it opens on the title page. What was lit may lie
@@ -85,8 +85,7 @@ bool GameController::gameMenuItemEnabled() const
 
 bool GameController::canOpenPage() const
 {
-    return m_messages.messageWindow() == nullptr && dialogueState() == 0
-        && !m_context.view.block().blockClick();
+    return m_context.view.overlay() == input::Overlay::None && !m_context.view.block().blockClick();
 }
 
 void GameController::showHowToPlay()
@@ -181,11 +180,6 @@ bool GameController::isEndlessGame() const
 int GameController::dialogueState() const
 {
     return m_dialogues.dialogueState();
-}
-
-bool GameController::hasMessageWindow() const
-{
-    return m_context.view.messageWindow();
 }
 
 } // namespace veyrand::controller

@@ -79,8 +79,7 @@ public:
     [[nodiscard]] unsigned lineCount() const override;
     [[nodiscard]] unsigned lengthOfRow(unsigned row) const override;
     [[nodiscard]] bool isEndlessGame() const override;
-    [[nodiscard]] int dialogueState() const override;
-    [[nodiscard]] bool hasMessageWindow() const override;
+    [[nodiscard]] int dialogueState() const; // 0 when no dialogue asks
 
 private:
     GameContext& m_context;

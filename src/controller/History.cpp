@@ -39,7 +39,7 @@ bool History::canRedo() const
 // Beside a note play goes on; a page or a question comes first.
 bool History::mayStep() const
 {
-    return !m_controller.hasMessageWindow() && m_controller.dialogueState() == 0
+    return (m_game.view.overlay() == input::Overlay::None || m_game.view.tutorialWindow())
         && (!m_game.view.block().blockClick() || isOwnBlock());
 }
 

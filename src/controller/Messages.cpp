@@ -27,7 +27,7 @@ void Messages::showMessageWindow(std::unique_ptr<present::InfoLayer> window, std
     m_game.view.hover().removeCurrentTrackingAreas();
     m_game.view.hover().turnOffButtons();
     hold(std::move(window), std::move(page));
-    m_game.view.setMessageWindow(true);
+    m_game.view.setOverlay(input::Overlay::Page);
     playMessageWindowSound();
     blockForReading();
 }
@@ -35,7 +35,7 @@ void Messages::showMessageWindow(std::unique_ptr<present::InfoLayer> window, std
 void Messages::showMessageInfo(std::unique_ptr<present::InfoLayer> window, std::string page)
 {
     hold(std::move(window), std::move(page));
-    m_game.view.setTutorialWindow(true);
+    m_game.view.setOverlay(input::Overlay::Note);
     playMessageWindowSound();
     blockForReading();
 }
@@ -43,6 +43,7 @@ void Messages::showMessageInfo(std::unique_ptr<present::InfoLayer> window, std::
 void Messages::showDialogue(std::unique_ptr<present::InfoLayer> window)
 {
     hold(std::move(window), {});
+    m_game.view.setOverlay(input::Overlay::Question);
     playMessageWindowSound();
 }
 
@@ -59,8 +60,7 @@ void Messages::hold(std::unique_ptr<present::InfoLayer> window, std::string page
 
 void Messages::release()
 {
-    m_game.view.setMessageWindow(false);
-    m_game.view.setTutorialWindow(false);
+    m_game.view.setOverlay(input::Overlay::None);
     m_window.reset();
     m_page.clear();
 }

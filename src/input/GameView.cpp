@@ -49,11 +49,11 @@ void GameView::mouseDown(const MouseEvent& event)
         return;
     }
     m_remembered.clear();
-    if (m_messageWindow) {
+    if (m_overlay == Overlay::Page) {
         m_target->messageWindowClick();
         return;
     }
-    if (m_tutorialWindow) {
+    if (m_overlay == Overlay::Note) {
         m_target->messageWindowClick();
     }
     if (!event.hasModifier) {
@@ -75,7 +75,7 @@ void GameView::losePress(const MouseEvent& event)
         = key == m_lastPressed && m_runLoop.now() - m_lastPressTime < times::kDoubleClick;
     m_lastPressed = key;
     m_lastPressTime = m_runLoop.now();
-    if (event.hasModifier || m_messageWindow) {
+    if (event.hasModifier || m_overlay == Overlay::Page) {
         return;
     }
     if (board::isChipKey(key) && !isSecondOfTwo) {
@@ -175,7 +175,7 @@ void GameView::holdDown(const std::string& key)
 {
     // A note's pictures share the keys of a dialogue's buttons.
     const bool isButton
-        = Hover::isLitFace(key) && (m_target->dialogueState() != 0 || key.starts_with("button"));
+        = Hover::isLitFace(key) && (m_overlay == Overlay::Question || key.starts_with("button"));
     if (isButton || board::isDeleteKey(key)) {
         m_heldKey = key;
         m_layers.layerForKey(key)->setPressed(true);
@@ -406,13 +406,12 @@ void GameView::reestablishTracking()
 {
     m_hover.turnOffButtons();
     m_hover.turnOffTitlePageButtons();
-    if (m_messageWindow) {
+    if (m_overlay == Overlay::Page) {
         return; // a page has no hit areas until it is dismissed
     }
     const board::ObjectTable& table = m_gameData.gameObjects();
     // A page's or note's pictures share the keys of a dialogue's buttons.
-    if (m_target != nullptr && m_target->dialogueState() != 0
-        && contains(table, board::ButtonAction::GoOn)) {
+    if (m_overlay == Overlay::Question && contains(table, board::ButtonAction::GoOn)) {
         m_hover.turnOffDialogueButtons();
         m_hover.establishDialogueButtonTracking();
     } else if (contains(table, board::ButtonAction::ClassicGame)) {
@@ -424,7 +423,7 @@ void GameView::reestablishTracking()
 
 void GameView::blockEnded()
 {
-    if (m_target != nullptr && m_target->dialogueState() == 0 && !m_target->hasMessageWindow()) {
+    if (m_overlay == Overlay::None || m_overlay == Overlay::Note) {
         turnOnAllHovers();
     }
     playRememberedPress();
@@ -441,8 +440,9 @@ void GameView::tellHandsChanged() const
 void GameView::playRememberedPress()
 {
     const std::string key = std::exchange(m_remembered, {});
-    if (key.empty() || m_messageWindow || m_target == nullptr || m_target->dialogueState() != 0
-        || !m_habits || !m_habits().rememberPress || !m_gameData.gameObjects().contains(key)
+    if (key.empty() || m_overlay == Overlay::Page || m_overlay == Overlay::Question
+        || m_target == nullptr || !m_habits || !m_habits().rememberPress
+        || !m_gameData.gameObjects().contains(key)
         || !m_target->isMove(board::rowForKey(key), board::columnForKey(key))) {
         return;
     }
@@ -451,9 +451,8 @@ void GameView::playRememberedPress()
 
 void GameView::turnOnAllHovers()
 {
-    m_hover.turnOnAllHovers(m_target != nullptr && m_target->dialogueState() != 0
-            ? Hover::Asking::Yes
-            : Hover::Asking::No);
+    m_hover.turnOnAllHovers(
+        m_overlay == Overlay::Question ? Hover::Asking::Yes : Hover::Asking::No);
 }
 
 } // namespace veyrand::input

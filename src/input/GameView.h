@@ -4,6 +4,7 @@
 #include "input/Hover.h"
 #include "input/InputBlock.h"
 #include "input/Onlooker.h"
+#include "input/Overlay.h"
 
 namespace veyrand::input {
 
@@ -48,11 +49,10 @@ public:
     // pointer, a box wants an answer first. A chip in the hand goes back, and the press was none.
     void cancelGesture();
 
-    // A window that takes every press, or notes beside which play goes on.
-    [[nodiscard]] bool messageWindow() const { return m_messageWindow; }
-    void setMessageWindow(bool shown) { m_messageWindow = shown; }
-    [[nodiscard]] bool tutorialWindow() const { return m_tutorialWindow; }
-    void setTutorialWindow(bool shown) { m_tutorialWindow = shown; }
+    [[nodiscard]] Overlay overlay() const { return m_overlay; }
+    void setOverlay(Overlay overlay) { m_overlay = overlay; }
+    [[nodiscard]] bool messageWindow() const { return m_overlay == Overlay::Page; }
+    [[nodiscard]] bool tutorialWindow() const { return m_overlay == Overlay::Note; }
 
     [[nodiscard]] InputBlock& block() { return m_block; }
     [[nodiscard]] Hover& hover() { return m_hover; }
@@ -120,8 +120,7 @@ private:
     Hover::Button m_held = Hover::Button::Up;
     bool m_click = false; // a press that may become a click or a drag
     bool m_blockDrag = false; // this press may not become a drag
-    bool m_messageWindow = false;
-    bool m_tutorialWindow = false;
+    Overlay m_overlay = Overlay::None;
 };
 
 } // namespace veyrand::input

@@ -44,9 +44,6 @@ public:
     [[nodiscard]] virtual unsigned lengthOfRow(unsigned row) const = 0;
 
     [[nodiscard]] virtual bool isEndlessGame() const = 0;
-    [[nodiscard]] virtual int dialogueState() const = 0; // 0 when no dialogue asks
-    // Whether a page takes every press. Notes and dialogues do not.
-    [[nodiscard]] virtual bool hasMessageWindow() const = 0;
 };
 
 } // namespace veyrand::input

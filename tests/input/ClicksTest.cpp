@@ -187,7 +187,7 @@ TEST_F(Clicks, TheBlockStartsBeforeTheGameAnswersSoThatItCanLengthenIt)
 
 TEST_F(Clicks, AMessageTakesEveryPress)
 {
-    view().setMessageWindow(true);
+    view().setOverlay(Overlay::Page);
     click("chip-0-0");
     press({ 5.0, 5.0 });
     release({ 5.0, 5.0 });
@@ -198,14 +198,14 @@ TEST_F(Clicks, AMessageTakesEveryPress)
 
 TEST_F(Clicks, ATutorialNoteHearsEveryPressAndPlayGoesOn)
 {
-    view().setTutorialWindow(true);
+    view().setOverlay(Overlay::Note);
     click("chip-0-0");
     EXPECT_THAT(target().take(), ElementsAre("message", "click 0 0"));
 }
 
 TEST_F(Clicks, ABlockedPressDoesNotReachAMessageEither)
 {
-    view().setMessageWindow(true);
+    view().setOverlay(Overlay::Page);
     view().block().startBlockClick(0.5);
     click("chip-0-0");
     EXPECT_THAT(target().take(), IsEmpty());

@@ -41,8 +41,6 @@ public:
     [[nodiscard]] unsigned lineCount() const override { return lines; }
     [[nodiscard]] unsigned lengthOfRow(unsigned /*row*/) const override { return 4; }
     [[nodiscard]] bool isEndlessGame() const override { return endless; }
-    [[nodiscard]] int dialogueState() const override { return dialogue; }
-    [[nodiscard]] bool hasMessageWindow() const override { return message; }
 
     std::vector<std::string> take() { return std::exchange(m_heard, {}); }
 
@@ -51,10 +49,8 @@ public:
     std::optional<std::vector<unsigned>> targets = std::vector<unsigned> { 1 };
     unsigned lines = 2;
     unsigned moveColumn = 0;
-    int dialogue = 0;
     bool acceptsDrags = false;
     bool endless = false;
-    bool message = false;
 
 private:
     void note(const std::string& call)

@@ -93,11 +93,10 @@ TEST_F(HoverTest, UnderADialogueOrAMessageNothingLightsWhenABlockEnds)
     moveTo(kNowhere);
     view().block().startBlockClick(0.5);
     moveTo(centre("button-movesbuttonoff"));
-    target().dialogue = 1;
+    view().setOverlay(Overlay::Question);
     wait(0.5);
     EXPECT_EQ(opacity("button-movesbuttonon"), 0.0);
-    target().dialogue = 0;
-    target().message = true;
+    view().setOverlay(Overlay::Page);
     view().block().startBlockClick(0.5);
     wait(0.5);
     EXPECT_EQ(opacity("button-movesbuttonon"), 0.0);
@@ -121,7 +120,7 @@ TEST_F(HoverTest, UnderAQuestionOnlyItsOwnTwoButtonsCanBeFoundUnderThePointer)
 {
     addTitleButtons();
     addDialogueButtons();
-    target().dialogue = 1;
+    view().setOverlay(Overlay::Question);
     view().reestablishTracking();
     for (const char* key : { "button-quitbutton", "button-menubutton" }) {
         moveTo(centre(key + std::string("off")));
@@ -137,7 +136,7 @@ TEST_F(HoverTest, UnderAQuestionOnlyItsOwnTwoButtonsCanBeFoundUnderThePointer)
 TEST_F(HoverTest, BesideANoteTheBoardsButtonsLightUp)
 {
     addDialogueButtons(); // a note's pictures have such keys
-    view().setTutorialWindow(true);
+    view().setOverlay(Overlay::Note);
     view().reestablishTracking();
     moveTo(centre("button-menubuttonoff"));
     EXPECT_EQ(opacity("button-menubuttonon"), 1.0);
@@ -167,7 +166,7 @@ TEST_F(HoverTest, TheBoardTracksItsThreeButtonsAndInEndlessFive)
 TEST_F(HoverTest, WithADialogueUpOnlyItsTwoButtonsAreTracked)
 {
     addDialogueButtons();
-    target().dialogue = 1;
+    view().setOverlay(Overlay::Question);
     moveTo(centre("button-menubuttonoff"));
     view().reestablishTracking();
     EXPECT_EQ(opacity("button-menubuttonon"), 0.0);

@@ -366,7 +366,7 @@ QJSValue ScenarioGame::actions()
 {
     const auto& controller = game().controller();
     QJSValue list = m_engine.newArray();
-    if (blocked() || controller.hasMessageWindow() || controller.dialogueState() != 0) {
+    if (blocked() || game().game().view().messageWindow() || controller.dialogueState() != 0) {
         return list;
     }
     quint32 count = 0;
