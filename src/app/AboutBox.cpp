@@ -1,6 +1,5 @@
 #include "app/AboutBox.h"
 
-#include <openssl/crypto.h>
 #include <unicode/uversion.h>
 
 #include <QCoreApplication>
@@ -41,12 +40,10 @@ void showAboutBox(QWidget& parent)
         box->setInformativeText(
             tr("<p>The program is free software under the MIT licence; its artwork and sounds are "
                "under CC BY 4.0. Both belong to the Veyrand developers.</p>"
-               "<p>It runs on Qt %1 (LGPL 3), ICU %2 (Unicode licence), %3 (Apache 2.0), OpenAL "
-               "Soft (LGPL 2) and libsndfile (LGPL 2.1), and is lettered in Linux Biolinum (GPL 2 "
-               "with font exception, or OFL).</p>")
-                .arg(QString::fromLatin1(qVersion()), icuVersion(),
-                    QString::fromLatin1(OpenSSL_version(OPENSSL_VERSION))
-                        .section(QLatin1Char(' '), 0, 1)));
+               "<p>It runs on Qt %1 (LGPL 3), ICU %2 (Unicode licence), OpenAL Soft (LGPL 2) and "
+               "libsndfile (LGPL 2.1), and is lettered in Linux Biolinum (GPL 2 with font "
+               "exception, or OFL).</p>")
+                .arg(QString::fromLatin1(qVersion()), icuVersion()));
     }
     box->show();
     box->raise();

@@ -126,7 +126,7 @@ std::string foreignProblem(std::string_view room, std::string_view header)
     if (isStandard(header)) {
         return contains(kBarredHeaders, header) ? " is out of bounds for the portable rooms" : "";
     }
-    if (isLowest && (isBelow(header, "unicode") || isBelow(header, "openssl"))) {
+    if (room == "engine" && isBelow(header, "unicode")) {
         return {};
     }
     if (!isLowest && !isBelow(room, "platform") && isBelow(header, "nlohmann")) {

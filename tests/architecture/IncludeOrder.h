@@ -8,7 +8,7 @@ namespace veyrand::architecture {
 // platform/; only app/ sees the adapters in desktop/, and only those two see a toolkit. The fakes
 // of the ports know ports alone, and only headless/ and app/ know them. The rooms below must one
 // day run in a browser as well, so they do without threads, files and whatever of C++20 clang 14
-// does not know; engine and progress make do with ICU and OpenSSL besides.
+// does not know; engine makes do with ICU besides.
 [[nodiscard]] Findings includeFindings(const SourceFile& file);
 
 } // namespace veyrand::architecture
