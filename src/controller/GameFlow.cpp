@@ -117,19 +117,22 @@ void GameFlow::newEndlessGame()
 
 void GameFlow::newGame()
 {
-    loadClassicPuzzle();
-    m_controller.pages().showMessageForNewGame(Pages::Arrival::Solving);
+    startClassicGame(Pages::Arrival::Solving);
 }
 
 void GameFlow::startClassicGame()
+{
+    startClassicGame(Pages::Arrival::Resuming);
+}
+
+void GameFlow::startClassicGame(Pages::Arrival arrival)
 {
     loadClassicPuzzle();
     if (m_game.currentGame.level() == 1 && m_game.currentGame.stage() == 1) {
         m_controller.pages().show("howToPlayMessageWindow");
     } else {
-        m_controller.pages().showMessageForNewGame(m_controller.kept().takeSolvedAtLaunch()
-                ? Pages::Arrival::Solving
-                : Pages::Arrival::Resuming);
+        m_controller.pages().showMessageForNewGame(
+            m_controller.kept().takeSolvedAtLaunch() ? Pages::Arrival::Solving : arrival);
     }
 }
 

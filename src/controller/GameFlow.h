@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "controller/Pages.h"
 #include "play/Session.h"
 #include "progress/PlayerRecord.h"
 
@@ -30,6 +31,8 @@ public:
     void newEndlessGame();
     // The Classic game at once, greeted as after a solved puzzle.
     void newGame();
+    // Kept for callers that ask for it; going on is the question's answer.
+    static void continueGame() { }
 
     void startClassicGame();
     void startEndlessGame();
@@ -59,6 +62,7 @@ public:
 
 private:
     [[nodiscard]] play::Puzzle puzzleInPlay() const;
+    void startClassicGame(Pages::Arrival arrival);
     void loadClassicPuzzle();
     void layOutKeptOrNewPuzzle();
     void resume(play::Replay kept);

@@ -2,10 +2,14 @@
 
 #include "controller/GameController.h"
 #include "present/InfoLayer.h"
+#include "progress/PlayerRecord.h"
 
 namespace veyrand::controller {
 
 namespace {
+
+// The page that greets the puzzle at 5-5. What it tells comes true with it.
+constexpr std::string_view kEndlessUnlocked = "stage45MessageWindow";
 
 void replace(std::string& text, std::string_view placeholder, const std::string& value)
 {
@@ -45,8 +49,8 @@ bool Pages::show(const std::string& name)
     if (!page.withoutPuzzle.empty() && !m_controller.proof()) {
         return show(page.withoutPuzzle);
     }
-    if (!isDue(page)) {
-        return true;
+    if (name == kEndlessUnlocked && !unlockEndlessGame()) {
+        return true; // told before
     }
     if (page.startsTutorial) {
         m_controller.tutorial().start();
@@ -83,14 +87,13 @@ bool Pages::isInForce(int aboveRule) const
     return aboveRule == 0 || m_game.currentGame.highestRule() > aboveRule;
 }
 
-bool Pages::isDue(const Page& page)
+bool Pages::unlockEndlessGame()
 {
-    if (page.onceFlag.empty()) {
-        return true;
+    if (progress::isEndlessGameUnlocked(m_game.preferences)) {
+        return false;
     }
-    const bool due = !m_game.preferences.boolForKey(page.onceFlag);
-    m_game.preferences.setValue(page.onceFlag, true);
-    return due;
+    progress::setEndlessGameUnlocked(m_game.preferences, true);
+    return true;
 }
 
 std::unique_ptr<present::InfoLayer> Pages::build(const Page& page) const

@@ -27,7 +27,7 @@ public:
 
 private:
     [[nodiscard]] bool isInForce(int aboveRule) const;
-    [[nodiscard]] bool isDue(const Page& page);
+    bool unlockEndlessGame(); // false when it was open already
     [[nodiscard]] std::unique_ptr<present::InfoLayer> build(const Page& page) const;
     [[nodiscard]] std::string filledIn(std::string text) const;
     [[nodiscard]] std::string rank() const;

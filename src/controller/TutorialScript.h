@@ -54,7 +54,6 @@ struct Page {
     std::optional<int> then;
     int thenAboveRule = 0;
     std::string withoutPuzzle; // the page shown instead while no puzzle is in play
-    std::string onceFlag; // a preference: shown only until it is set, which showing does
     bool startsTutorial = false;
 };
 

@@ -237,7 +237,6 @@ Page readPage(Fields& fields, const Styles& styles)
     page.then = fields.optional<int>("then");
     page.thenAboveRule = fields.get("thenAboveRule", 0);
     page.withoutPuzzle = fields.get("withoutPuzzle", std::string());
-    page.onceFlag = fields.get("onceFlag", std::string());
     page.startsTutorial = fields.get("startsTutorial", false);
     page.blocks = readBlocks(fields, styles);
     return page;

@@ -195,6 +195,20 @@ TEST_F(GreetingsTest, MeetThePlayerAtTheirPlacesAndNowhereElse)
     }
 }
 
+// The operation's own greeting is the one after a solved puzzle; at the very first place it is the
+// page that explains the game.
+TEST_F(GreetingsTest, ANewGameIsGreetedAtOnceAndAtTheVeryFirstPlaceExplained)
+{
+    GameFlow& flow = game().controller().flow();
+    flow.newGame();
+    EXPECT_EQ(game().controller().messages().page(), "howToPlayMessageWindow");
+    flow.setStageAndLevelAndScore(1, 3, 300);
+    flow.newGame();
+    EXPECT_EQ(game().controller().messages().page(), "showSuccessMessage");
+    GameFlow::continueGame();
+    EXPECT_EQ(game().controller().messages().page(), "showSuccessMessage");
+}
+
 TEST_F(GreetingsTest, TheNewsThatEndlessIsOpenComesOnceForAllPlayers)
 {
     Messages& messages = game().controller().messages();
