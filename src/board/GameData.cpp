@@ -27,10 +27,8 @@ GameObjectPtr GameData::createGameObjectWithText(const TextStyle& style, double 
     double width, double height, double opacity, const std::string& key)
 {
     auto record = std::make_shared<GameObject>(std::string(), x, y, width, height, opacity, true);
+    record->setText(style);
     m_gameObjects.addGameObject(record, key);
-    if (m_textHost != nullptr) {
-        m_textHost->attachText(*record, style);
-    }
     return record;
 }
 
@@ -59,7 +57,7 @@ void GameData::fadeInLabel(std::string_view imageName, double x, double y, doubl
 
 void GameData::changeText(const std::string& text, const GameObjectPtr& record)
 {
-    if (!record || m_textHost == nullptr || m_textHost->shownText(*record) == text) {
+    if (!record || (record->text() && record->text()->text == text)) {
         return;
     }
     const std::string key = record->keyInGameData().value_or(std::string());

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "board/BoardGeometry.h"
+#include "board/ButtonTracking.h"
 #include "board/ObjectTable.h"
-#include "board/TextHost.h"
 #include "platform/Screen.h"
 
 #include <optional>
@@ -11,7 +11,7 @@ namespace veyrand::board {
 
 // The board of one game: the object table, the size of the game area, and the elements made of text
 // or faded in. The drawing of particular things stands on it (LineDrawing, PanelDrawing and so on).
-// It knows records only; layers and hit areas are asked for through TextHost and ButtonTracking.
+// It knows records only; hit areas are asked for through ButtonTracking.
 class GameData {
 public:
     explicit GameData(const platform::Screen& screen)
@@ -30,7 +30,6 @@ public:
     [[nodiscard]] double gameWidth() const { return gameSize().width; }
     [[nodiscard]] double gameHeight() const { return gameSize().height; }
 
-    void setTextHost(TextHost& host) { m_textHost = &host; }
     void setButtonTracking(ButtonTracking& tracking) { m_buttonTracking = &tracking; }
     [[nodiscard]] ButtonTracking* buttonTracking() const { return m_buttonTracking; }
 
@@ -58,7 +57,6 @@ private:
 
     const platform::Screen& m_screen;
     ObjectTable m_gameObjects;
-    TextHost* m_textHost = nullptr;
     ButtonTracking* m_buttonTracking = nullptr;
     mutable std::optional<platform::Size> m_gameSize;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "board/TextStyle.h"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -33,6 +35,15 @@ public:
     [[nodiscard]] const std::string& imageName() const { return m_imageName; }
     void setImageName(std::string name) { m_imageName = std::move(name); }
 
+    // One centred line, set before the record goes into the table. Most elements have none.
+    [[nodiscard]] const std::optional<TextStyle>& text() const { return m_text; }
+    void setText(TextStyle text) { m_text = std::move(text); }
+
+    // For people: the one it was given, else what it says, else what its picture is called. Empty
+    // for what only pleases the eye.
+    [[nodiscard]] std::string name() const;
+    void setName(std::string name) { m_name = std::move(name); }
+
     [[nodiscard]] double x() const { return m_x; }
     void setX(double x) { m_x = x; }
     [[nodiscard]] double y() const { return m_y; }
@@ -50,6 +61,8 @@ public:
 private:
     std::optional<std::string> m_key;
     std::string m_imageName;
+    std::optional<TextStyle> m_text;
+    std::string m_name;
     double m_x;
     double m_y;
     double m_width;

@@ -96,8 +96,10 @@ void LineDrawing::dropTheorem2(const std::string& key, const std::weak_ptr<GameO
 void LineDrawing::createDeleteButton(unsigned row)
 {
     constexpr double kSize = 0.0495;
-    m_gameData.fadeInImage("Delete", xPositionForColumn(0) - kChipSize, yPositionForRow(row), kSize,
-        kSize, 1.0, deleteButtonKey(row));
+    m_gameData
+        .fadeInImage("Delete", xPositionForColumn(0) - kChipSize, yPositionForRow(row), kSize,
+            kSize, 1.0, deleteButtonKey(row))
+        ->setName("delete line " + std::to_string(row));
 }
 
 void LineDrawing::settleRow(const std::string& line, unsigned row)

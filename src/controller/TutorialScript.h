@@ -1,6 +1,6 @@
 #pragma once
 
-#include "board/TextHost.h"
+#include "board/TextStyle.h"
 
 #include <map>
 #include <optional>

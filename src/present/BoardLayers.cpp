@@ -28,7 +28,6 @@ BoardLayers::BoardLayers(
     , m_extras(scene)
 {
     m_backgroundLayer.setMasksToBounds(true);
-    gameData.setTextHost(*this);
     gameData.gameObjects().setNewObjectListener(
         [this](const std::string& key) { createLayer(key); });
 }
@@ -61,7 +60,13 @@ void BoardLayers::fitTo(platform::Size viewSize)
 
 void BoardLayers::createLayer(const std::string& key)
 {
-    m_backgroundLayer.addSublayer(std::make_unique<GameObjectLayer>(m_scene, m_gameData, key));
+    Layer& layer = m_backgroundLayer.addSublayer(
+        std::make_unique<GameObjectLayer>(m_scene, m_gameData, key));
+    const board::GameObjectPtr record = m_gameData.gameObjects().objectForKey(key);
+    if (record && record->text()) {
+        layer.addSublayer(std::make_unique<TextLayer>(
+            m_scene, *record->text(), m_metrics, m_gameData.gameHeight()));
+    }
 }
 
 GameObjectLayer* BoardLayers::layerForKey(std::string_view key) const
@@ -85,21 +90,6 @@ const TextLayer* BoardLayers::textOn(const GameObjectLayer& layer)
 {
     return layer.sublayers().empty() ? nullptr
                                      : dynamic_cast<TextLayer*>(layer.sublayers().front().get());
-}
-
-void BoardLayers::attachText(const board::GameObject& record, const board::TextStyle& style)
-{
-    if (GameObjectLayer* const layer = gameLayerForGameObject(record)) {
-        layer->addSublayer(
-            std::make_unique<TextLayer>(m_scene, style, m_metrics, m_gameData.gameHeight()));
-    }
-}
-
-std::string BoardLayers::shownText(const board::GameObject& record) const
-{
-    const GameObjectLayer* const layer = gameLayerForGameObject(record);
-    const TextLayer* const text = layer != nullptr ? textOn(*layer) : nullptr;
-    return text != nullptr ? text->string() : std::string();
 }
 
 DisplayList BoardLayers::displayList()

@@ -9,12 +9,12 @@ namespace veyrand::present {
 // The layer tree of one window: a black content layer as large as the view, on it the game area
 // with its wooden background, and on that one layer for each record of the object table. Gives new
 // records their layers and texts their place; everything that shows a board is reached from here.
-class BoardLayers final : public board::TextHost {
+class BoardLayers final {
 public:
     BoardLayers(Scene& scene, board::GameData& gameData, const platform::TextMetrics& metrics);
     BoardLayers(const BoardLayers&) = delete;
     BoardLayers& operator=(const BoardLayers&) = delete;
-    ~BoardLayers() override;
+    ~BoardLayers();
 
     [[nodiscard]] Scene& scene() const { return m_scene; }
     [[nodiscard]] Layer& contentLayer() { return m_contentLayer; }
@@ -33,9 +33,6 @@ public:
     [[nodiscard]] GameObjectLayer* gameLayerForGameObject(const board::GameObject& record) const;
     // The text on the record's layer; null when it has none.
     [[nodiscard]] static const TextLayer* textOn(const GameObjectLayer& layer);
-
-    void attachText(const board::GameObject& record, const board::TextStyle& style) override;
-    [[nodiscard]] std::string shownText(const board::GameObject& record) const override;
 
     // What the view adds to the board.
     [[nodiscard]] Extras& extras() { return m_extras; }

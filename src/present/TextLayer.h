@@ -1,6 +1,6 @@
 #pragma once
 
-#include "board/TextHost.h"
+#include "board/TextStyle.h"
 #include "platform/TextMetrics.h"
 #include "present/Layer.h"
 

@@ -22,7 +22,6 @@ protected:
         , m_board(m_gameData, m_currentGame, m_runLoop)
     {
         m_preferences.registerDefaults(progress::registeredDefaults());
-        m_gameData.setTextHost(m_texts);
         m_gameData.setButtonTracking(m_tracking);
     }
 
@@ -42,7 +41,12 @@ protected:
     [[nodiscard]] GameData& gameData() { return m_gameData; }
     [[nodiscard]] ObjectTable& table() { return m_gameData.gameObjects(); }
     [[nodiscard]] progress::CurrentGame& currentGame() { return m_currentGame; }
-    [[nodiscard]] const test::RecordingTextHost& texts() const { return m_texts; }
+    // What the element says; empty when it is no text, or not there.
+    [[nodiscard]] std::string text(const std::string& key)
+    {
+        const GameObjectPtr record = object(key);
+        return record && record->text() ? record->text()->text : std::string();
+    }
     [[nodiscard]] const test::CountedTracking& tracking() const { return m_tracking; }
 
     // Null when there is none.
@@ -55,7 +59,6 @@ private:
     test::MemoryResources m_resources;
     platform::MemoryPreferences m_preferences;
     platform::SeededRandom m_random { 1 };
-    test::RecordingTextHost m_texts;
     test::CountedTracking m_tracking;
     platform::VirtualRunLoop m_runLoop;
     progress::CurrentGame m_currentGame;

@@ -99,9 +99,9 @@ TEST_F(PanelDrawingTest, ClassicHasThreeCaptionsAndThreeCounters)
     EXPECT_EQ(lookOf(*object("counter-score")), (Look { "", 0.3, 0.8, 0, 0, 1.0 }));
     EXPECT_EQ(lookOf(*object("counter-stage")), (Look { "", 0.3, 0.6, 0, 0, 1.0 }));
     EXPECT_EQ(lookOf(*object("counter-par")), (Look { "", 0.3, 0.4, 0, 0, 1.0 }));
-    EXPECT_EQ(texts().text("counter-score"), "0");
-    EXPECT_EQ(texts().text("counter-stage"), "1-1");
-    EXPECT_EQ(texts().text("counter-par"), "1");
+    EXPECT_EQ(text("counter-score"), "0");
+    EXPECT_EQ(text("counter-stage"), "1-1");
+    EXPECT_EQ(text("counter-par"), "1");
 }
 
 TEST_F(PanelDrawingTest, EndlessHasNoStage)
@@ -111,8 +111,8 @@ TEST_F(PanelDrawingTest, EndlessHasNoStage)
         ElementsAre("label-points", "counter-score", "label-par", "counter-par"));
     EXPECT_EQ(lookOf(*object("label-par")), (Look { "Par", 0.3, 0.7, 0.2, 0.06, 1.0 }));
     EXPECT_EQ(lookOf(*object("counter-par")), (Look { "", 0.3, 0.6, 0, 0, 1.0 }));
-    EXPECT_EQ(texts().text("counter-score"), "0");
-    EXPECT_EQ(texts().text("counter-par"), "5");
+    EXPECT_EQ(text("counter-score"), "0");
+    EXPECT_EQ(text("counter-par"), "5");
 }
 
 TEST_F(PanelDrawingTest, ParSixShowsFive)
@@ -120,7 +120,7 @@ TEST_F(PanelDrawingTest, ParSixShowsFive)
     board().panel.drawLabels();
     place(1, 1, 6);
     board().panel.drawCounters();
-    EXPECT_EQ(texts().text("counter-par"), "5");
+    EXPECT_EQ(text("counter-par"), "5");
 }
 
 TEST_F(PanelDrawingTest, TheStageCounterReadsLevelThenStage)
@@ -128,7 +128,7 @@ TEST_F(PanelDrawingTest, TheStageCounterReadsLevelThenStage)
     board().panel.drawLabels();
     place(2, 3, 6);
     board().panel.drawCounters();
-    EXPECT_EQ(texts().text("counter-stage"), "2-3");
+    EXPECT_EQ(text("counter-stage"), "2-3");
 }
 
 TEST_F(PanelDrawingTest, EachModeShowsItsOwnScore)
@@ -136,14 +136,14 @@ TEST_F(PanelDrawingTest, EachModeShowsItsOwnScore)
     board().panel.drawLabels();
     currentGame().addToScore(-20);
     board().panel.drawCounters();
-    EXPECT_EQ(texts().text("counter-score"), "-20");
+    EXPECT_EQ(text("counter-score"), "-20");
 
     table().removeAllEntries();
     place(1, 1, 5, CurrentGame::Mode::Endless);
     board().panel.drawLabels();
     currentGame().setEndlessScore(1230);
     board().panel.drawCounters();
-    EXPECT_EQ(texts().text("counter-score"), "1230");
+    EXPECT_EQ(text("counter-score"), "1230");
     EXPECT_FALSE(table().contains("counter-stage"));
 }
 

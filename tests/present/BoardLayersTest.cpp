@@ -79,7 +79,6 @@ TEST_F(BoardLayersTest, ATextIsAsLargeAsItsStringAndReportsItsOwnFontSize)
     EXPECT_EQ(text->fontSize(), 60.0);
     EXPECT_EQ(text->bounds(), (platform::SizeF { 3.0F * 60.0F, 1.25F * 60.0F }));
     EXPECT_EQ(text->position(), (PointF { 0.5F, 0.5F }));
-    EXPECT_EQ(layers().shownText(*table().objectForKey("counter-score")), "150");
 }
 
 TEST_F(BoardLayersTest, ACounterFadesInAndChangesAtOnce)
@@ -88,7 +87,7 @@ TEST_F(BoardLayersTest, ACounterFadesInAndChangesAtOnce)
     EXPECT_EQ(layers().layerForKey("counter-score")->shownOpacity(), 0.0F);
     gameData().changeText("160", table().objectForKey("counter-score"));
     EXPECT_EQ(layers().layerForKey("counter-score")->shownOpacity(), 1.0F);
-    EXPECT_EQ(layers().shownText(*table().objectForKey("counter-score")), "160");
+    EXPECT_EQ(BoardLayers::textOn(*layers().layerForKey("counter-score"))->string(), "160");
     EXPECT_EQ(layers().backgroundLayer().sublayers().size(), 1U);
 }
 

@@ -231,7 +231,7 @@ QJSValue ScenarioGame::object(const QString& key)
 QString ScenarioGame::text(const QString& key)
 {
     const auto record = game().gameData().gameObjects().objectForKey(key.toStdString());
-    return record ? QString::fromStdString(game().game().layers().shownText(*record)) : QString();
+    return record && record->text() ? QString::fromStdString(record->text()->text) : QString();
 }
 
 QJSValue ScenarioGame::layer(const QString& key)

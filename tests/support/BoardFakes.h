@@ -1,11 +1,10 @@
 #pragma once
 
+#include "board/ButtonTracking.h"
 #include "board/ObjectTable.h"
-#include "board/TextHost.h"
 #include "platform/Screen.h"
 #include "platform/TextMetrics.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -23,35 +22,6 @@ public:
 
 private:
     platform::Size m_size;
-};
-
-// Keeps the texts that the board asks for by the key of their record, as layers would.
-class RecordingTextHost final : public board::TextHost {
-public:
-    void attachText(const board::GameObject& record, const board::TextStyle& style) override
-    {
-        m_texts[record.keyInGameData().value_or("")] = style;
-        ++m_attached;
-    }
-    [[nodiscard]] std::string shownText(const board::GameObject& record) const override
-    {
-        return text(record.keyInGameData().value_or(""));
-    }
-
-    [[nodiscard]] std::string text(const std::string& key) const
-    {
-        const auto found = m_texts.find(key);
-        return found != m_texts.end() ? found->second.text : std::string();
-    }
-    [[nodiscard]] const board::TextStyle& style(const std::string& key) const
-    {
-        return m_texts.at(key);
-    }
-    [[nodiscard]] int attached() const { return m_attached; }
-
-private:
-    std::map<std::string, board::TextStyle> m_texts;
-    int m_attached = 0;
 };
 
 class CountedTracking final : public board::ButtonTracking {
