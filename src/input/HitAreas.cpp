@@ -37,24 +37,17 @@ void HitAreas::takeAsEntered(std::optional<platform::Point> pointer)
     }
 }
 
-void HitAreas::pointerMoved(std::optional<platform::Point> pointer, HitAreaListener& listener)
+HitAreas::Crossed HitAreas::pointerMoved(std::optional<platform::Point> pointer)
 {
-    std::vector<std::string> left;
-    std::vector<std::string> entered;
+    Crossed crossed;
     for (Area& area : m_areas) {
         const bool inside = contains(area.rect, pointer);
         if (inside != area.entered) {
-            (inside ? entered : left).push_back(area.key);
+            (inside ? crossed.entered : crossed.left).push_back(area.key);
             area.entered = inside;
         }
     }
-    // Told only now, as the listener may change the set of areas.
-    for (const std::string& key : left) {
-        listener.mouseExited(key);
-    }
-    for (const std::string& key : entered) {
-        listener.mouseEntered(key);
-    }
+    return crossed;
 }
 
 } // namespace veyrand::input

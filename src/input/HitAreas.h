@@ -8,18 +8,6 @@
 
 namespace veyrand::input {
 
-// Hears of the pointer crossing an area's edge. The key names the element the area was made for.
-class HitAreaListener {
-public:
-    HitAreaListener() = default;
-    HitAreaListener(const HitAreaListener&) = delete;
-    HitAreaListener& operator=(const HitAreaListener&) = delete;
-    virtual ~HitAreaListener() = default;
-
-    virtual void mouseEntered(const std::string& key) = 0;
-    virtual void mouseExited(const std::string& key) = 0;
-};
-
 // A set of rectangles over elements, fixed when they are made. An area made under a resting pointer
 // counts as entered already: the first it says is that the pointer left. Removing areas says
 // nothing.
@@ -35,8 +23,12 @@ public:
     // The areas under the pointer count as entered from now on, without a word.
     void takeAsEntered(std::optional<platform::Point> pointer);
 
-    // Tells the listener which areas the pointer left and entered, in that order.
-    void pointerMoved(std::optional<platform::Point> pointer, HitAreaListener& listener);
+    // Which areas the pointer has left, and then entered, by the keys of their elements.
+    struct Crossed {
+        std::vector<std::string> left;
+        std::vector<std::string> entered;
+    };
+    [[nodiscard]] Crossed pointerMoved(std::optional<platform::Point> pointer);
 
 private:
     struct Area {

@@ -21,9 +21,19 @@ void Hover::pointerMoved(Button button)
 {
     const auto position = m_pointer.position();
     if (button == Button::Up) {
-        m_buttonAreas.pointerMoved(position, *this);
+        answer(m_buttonAreas.pointerMoved(position));
     }
-    m_dropAreas.pointerMoved(position, *this);
+    answer(m_dropAreas.pointerMoved(position));
+}
+
+void Hover::answer(const HitAreas::Crossed& crossed)
+{
+    for (const std::string& key : crossed.left) {
+        mouseExited(key);
+    }
+    for (const std::string& key : crossed.entered) {
+        mouseEntered(key);
+    }
 }
 
 bool Hover::isLitFace(const std::string& key)

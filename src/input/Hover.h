@@ -14,7 +14,7 @@ namespace veyrand::input {
 // What the pointer's rest and movement light up: a button shows its coloured face, a chip glows.
 // Holds the hit areas of buttons, and for one drag those of the chips that can be dropped on. Which
 // buttons are tracked follows from what is on the screen: the board, the title page or a dialogue.
-class Hover final : public HitAreaListener {
+class Hover final {
 public:
     Hover(board::GameData& gameData, const present::BoardLayers& layers,
         const platform::Pointer& pointer, const platform::SoundEffects& effects);
@@ -51,10 +51,10 @@ public:
     // Whether the key is that of a button's coloured face, which lies in front of the other.
     [[nodiscard]] static bool isLitFace(const std::string& key);
 
-    void mouseEntered(const std::string& key) override;
-    void mouseExited(const std::string& key) override;
-
 private:
+    void answer(const HitAreas::Crossed& crossed);
+    void mouseEntered(const std::string& key);
+    void mouseExited(const std::string& key);
     void track(board::ButtonScreen screen);
     void turnOff(board::ButtonScreen screen);
     void setEffect(const std::string& key, float radius);
