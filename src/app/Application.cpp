@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "app/AboutBox.h"
+#include "app/InstallOffer.h"
 #include "app/MainWindow.h"
 #include "app/MenuActions.h"
 #include "app/Notices.h"
@@ -48,7 +49,10 @@ public:
                      .quit = m_quit,
                      .overlay = m_overlay,
                      .window = m_windowModes,
-                     .installation = m_installation.installation(),
+                     .offerInstallation =
+                         [this](std::function<void()> done) {
+                             offerInstallation(m_installation.installation(), std::move(done));
+                         },
                      .journal = m_preferences.isHeldElsewhere() ? nullptr : m_journal.journal() },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),

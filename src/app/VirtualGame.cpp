@@ -1,5 +1,6 @@
 #include "app/VirtualGame.h"
 
+#include "app/InstallOffer.h"
 #include "app/MenuActions.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
@@ -46,19 +47,23 @@ VirtualGame::VirtualGame(const Options& options)
     , m_menu(m_preferences)
     , m_currentGame(m_preferences, m_random, m_resources)
     , m_gameData(m_screen)
-    , m_game(std::make_unique<controller::Game>(controller::GamePorts { .runLoop = m_runLoop,
-                                                    .preferences = m_preferences,
-                                                    .resources = m_resources,
-                                                    .sounds = m_sounds,
-                                                    .pointer = m_pointer,
-                                                    .textMetrics = m_font,
-                                                    .menu = m_menu,
-                                                    .log = m_log,
-                                                    .quit = m_quit,
-                                                    .overlay = m_overlay,
-                                                    .window = m_window,
-                                                    .installation = m_installation.installation(),
-                                                    .journal = options.journal },
+    , m_game(std::make_unique<controller::Game>(
+          controller::GamePorts { .runLoop = m_runLoop,
+              .preferences = m_preferences,
+              .resources = m_resources,
+              .sounds = m_sounds,
+              .pointer = m_pointer,
+              .textMetrics = m_font,
+              .menu = m_menu,
+              .log = m_log,
+              .quit = m_quit,
+              .overlay = m_overlay,
+              .window = m_window,
+              .offerInstallation =
+                  [this](std::function<void()> done) {
+                      offerInstallation(m_installation.installation(), std::move(done));
+                  },
+              .journal = options.journal },
           m_currentGame, m_gameData))
 {
     m_menu.connectActions(menuActions(controller(), [this] { ++m_timesAbout; }));

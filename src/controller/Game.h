@@ -21,7 +21,7 @@ struct GamePorts {
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
     platform::Window& window;
-    const install::Installation& installation;
+    std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
     platform::Journal* journal = nullptr; // null: no puzzle outlasts the board
 };
 
@@ -58,7 +58,7 @@ public:
             .quit = ports.quit,
             .overlay = ports.overlay,
             .window = ports.window,
-            .installation = ports.installation,
+            .offerInstallation = ports.offerInstallation,
             .journal = ports.journal }
         , m_controller(m_context)
     {

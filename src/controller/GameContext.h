@@ -4,7 +4,6 @@
 #include "board/Tempo.h"
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
-#include "install/Installation.h"
 #include "platform/Journal.h"
 #include "platform/Log.h"
 #include "platform/OverlayWindow.h"
@@ -13,6 +12,8 @@
 #include "platform/Window.h"
 #include "present/BoardLayers.h"
 #include "progress/CurrentGame.h"
+
+#include <functional>
 
 namespace veyrand::controller {
 
@@ -35,7 +36,9 @@ struct GameContext {
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
     platform::Window& window;
-    const install::Installation& installation;
+    // Calls its argument when the offer to install the game is answered. Without one nothing is
+    // offered.
+    std::function<void(std::function<void()>)> offerInstallation;
     platform::Journal* journal; // null: no puzzle outlasts the board
 };
 

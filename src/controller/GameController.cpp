@@ -3,9 +3,8 @@
 #include "board/Buttons.h"
 #include "controller/Legality.h"
 #include "controller/OverlayFrame.h"
-#include "install/M3InstallController.h"
 
-#include <memory>
+#include <utility>
 
 namespace veyrand::controller {
 
@@ -59,9 +58,11 @@ void GameController::musicMenuClick()
 
 void GameController::applicationWillTerminate(std::function<void()> done)
 {
-    const auto installer = std::make_shared<install::M3InstallController>(m_context.installation);
-    // It lives in its own continuation, for there is no saying when the player answers.
-    installer->displayInstaller([installer, done = std::move(done)] { done(); });
+    if (m_context.offerInstallation) {
+        m_context.offerInstallation(std::move(done));
+    } else {
+        done();
+    }
 }
 
 void GameController::loadOverlayWindow()

@@ -11,8 +11,10 @@ namespace veyrand::architecture {
 namespace {
 
 // The portable rooms, lowest first; the front ends (desktop/, web/) and app/ stand on them.
-constexpr std::array<std::string_view, 9> kRooms { "engine", "progress", "play", "board", "present",
-    "input", "install", "controller", "headless" };
+constexpr std::array<std::string_view, 8> kRooms { "engine", "progress", "play", "board", "present",
+    "input", "controller", "headless" };
+// Beside them: it knows ports alone.
+constexpr std::string_view kInstall = "install";
 constexpr std::string_view kFakes = "platform/fakes";
 
 // Standard headers that the portable rooms do without: threads, files, and what came too late. A
@@ -91,6 +93,10 @@ bool mayInclude(std::string_view from, std::string_view to)
     if (from == "platform" || from == kFakes || to == "app" || isAdapter(to)) {
         return false;
     }
+    // A front end fills in where it is installed from; only app/ has it ask.
+    if (from == kInstall || to == kInstall) {
+        return from != kInstall && isAdapter(from);
+    }
     if (to == kFakes) {
         return from == "headless";
     }
@@ -104,8 +110,8 @@ bool mayInclude(std::string_view from, std::string_view to)
 
 bool isKnown(std::string_view room)
 {
-    return contains(kRooms, room) || room == "platform" || room == kFakes || room == "app"
-        || isAdapter(room);
+    return contains(kRooms, room) || room == "platform" || room == kFakes || room == kInstall
+        || room == "app" || isAdapter(room);
 }
 
 bool isStandard(std::string_view header)
