@@ -33,6 +33,7 @@ desktop::qt::GameMenu::Actions menuActions(
         .toggleFullScreen = [&controller] { controller.toggleFullscreen(); },
         .exitFullScreen = [&controller] { controller.exitFullscreen(); },
         .howToPlay = [&controller] { controller.showHowToPlay(); },
+        .takingBack = [&controller] { controller.pages().show("takingBackMessageWindow"); },
         .moves = [&controller] { controller.pages().show("movesMessageWindow"); },
         .about = std::move(about),
         .canStartGame = [&controller] { return controller.canStartGame(); },

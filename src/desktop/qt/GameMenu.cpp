@@ -116,6 +116,7 @@ void GameMenu::buildHelpMenu()
     QMenu& menu = *addMenu(tr("&Help"));
     addItem(menu, tr("&How to Play"), shortcut("F1"), &Actions::howToPlay, &Actions::canOpenPage);
     addItem(menu, tr("&Moves"), shortcut("F2"), &Actions::moves, &Actions::canListMoves);
+    addItem(menu, tr("&Taking Back"), {}, &Actions::takingBack, &Actions::canOpenPage);
     menu.addSeparator();
     addItem(menu, tr("&About Veyrand"), {}, &Actions::about);
 }

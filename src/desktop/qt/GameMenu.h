@@ -26,6 +26,7 @@ public:
         std::function<void()> toggleFullScreen;
         std::function<void()> exitFullScreen;
         std::function<void()> howToPlay;
+        std::function<void()> takingBack;
         std::function<void()> moves;
         std::function<void()> about;
         // Whether the items may be chosen now.
