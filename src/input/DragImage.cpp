@@ -21,7 +21,7 @@ void DragImage::createDragImageLayer(
     image->setPosition(centre);
     image->setOpacity(kOpacity);
     image->setLift(length * kLift);
-    image->setZPosition(kAboveTheBoard);
+    image->setZPosition(static_cast<std::int64_t>(kAboveTheBoard));
     m_current = image->id();
     m_layers.backgroundLayer().addSublayer(std::move(image));
 }

@@ -13,7 +13,7 @@ namespace veyrand::present {
 namespace {
 
 // The drag image and messages lie at this height and above it, the board below.
-constexpr float kAboveTheBoard = 10.0F;
+constexpr std::int64_t kAboveTheBoard = 10;
 
 std::string slotOf(const Extra& extra)
 {

@@ -28,7 +28,7 @@ bool differs(float kept, double wanted)
 
 // Messages lie in front of the board, and of them the later in front of the earlier. On the board
 // it is the other way round: a layer placed later lies behind those before it.
-int stackingValue(std::string_view key, int counter)
+std::int64_t stackingValue(std::string_view key, std::int64_t counter)
 {
     constexpr std::string_view kMessagePrefix = "fullScreen";
     return key.substr(0, kMessagePrefix.size()) == kMessagePrefix ? 10 - counter : counter;
@@ -61,7 +61,7 @@ void GameObjectLayer::entryChanged(const board::GameObject* newValue)
 
 void GameObjectLayer::update()
 {
-    const int z = stackingValue(m_key, scene().lowerStackingCounter());
+    const std::int64_t z = stackingValue(m_key, scene().lowerStackingCounter());
     const board::GameObjectPtr record = m_gameData.gameObjects().objectForKey(m_key);
     if (!record) {
         return;
@@ -81,7 +81,7 @@ void GameObjectLayer::update()
         setBounds(size(width, height));
         setOpacity(static_cast<float>(opacity));
         setHidden(!record->visible());
-        setZPosition(static_cast<float>(z));
+        setZPosition(z);
         return;
     }
     // Visibility and stacking take effect at the first placement only; later, things come and go by

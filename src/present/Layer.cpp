@@ -72,7 +72,7 @@ void Layer::setHidden(bool hidden)
     m_scene.setNeedsDisplay();
 }
 
-void Layer::setZPosition(float z)
+void Layer::setZPosition(std::int64_t z)
 {
     m_zPosition = z;
     m_scene.setNeedsDisplay();

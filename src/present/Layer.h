@@ -41,14 +41,14 @@ public:
     [[nodiscard]] platform::SizeF bounds() const { return m_bounds.value(); }
     [[nodiscard]] float opacity() const { return m_opacity.value(); }
     [[nodiscard]] bool isHidden() const { return m_hidden; }
-    [[nodiscard]] float zPosition() const { return m_zPosition; }
+    [[nodiscard]] std::int64_t zPosition() const { return m_zPosition; }
     [[nodiscard]] float glow() const { return m_glow; }
     [[nodiscard]] bool isPressed() const { return m_pressed; }
     void setPosition(platform::PointF position);
     void setBounds(platform::SizeF bounds);
     void setOpacity(float opacity);
     void setHidden(bool hidden);
-    void setZPosition(float z);
+    void setZPosition(std::int64_t z);
     void setGlow(float radius); // bloom, in points
     void setLift(float height); // above what lies behind, in points: throws a shadow there
     void setPressed(bool pressed); // shows it pushed into the board
@@ -105,7 +105,7 @@ private:
     Animated<platform::PointF> m_position;
     Animated<platform::SizeF> m_bounds;
     Animated<float> m_opacity { 1.0F };
-    float m_zPosition = 0.0F;
+    std::int64_t m_zPosition = 0; // a count of hours of play, which no fraction holds
     float m_scale = 1.0F;
     float m_glow = 0.0F;
     float m_lift = 0.0F;

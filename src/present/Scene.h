@@ -46,7 +46,7 @@ public:
     }
 
     // Starts at 0 and falls by 2 with every update of any layer, before the update reads it.
-    int lowerStackingCounter() { return m_stackingCounter -= 2; }
+    std::int64_t lowerStackingCounter() { return m_stackingCounter -= 2; }
 
     std::uint64_t nextLayerId() { return ++m_lastLayerId; }
 
@@ -55,7 +55,7 @@ private:
     const board::Tempo& m_tempo;
     std::function<void()> m_listener;
     double m_animationsEnd = 0.0;
-    int m_stackingCounter = 0;
+    std::int64_t m_stackingCounter = 0;
     std::uint64_t m_lastLayerId = 0;
 };
 

@@ -56,7 +56,7 @@ TEST_F(Drags, AFloatingCopyFollowsThePointerAndTheChipStaysDimmed)
     EXPECT_FLOAT_EQ(image.bounds().width, 67.5F); // as wide as the start line's first chip
     EXPECT_FLOAT_EQ(image.bounds().height, 67.5F);
     EXPECT_FLOAT_EQ(image.opacity(), 0.9F);
-    EXPECT_EQ(image.zPosition(), 10.0F);
+    EXPECT_EQ(image.zPosition(), 10);
     EXPECT_EQ(image.position(), single(offset(place, 4.0, 0.0)));
     EXPECT_EQ(layer("chip-1-1").shownOpacity(), 0.5F); // at once
     dragTo(offset(place, 50.0, -20.0));

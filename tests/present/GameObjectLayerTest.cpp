@@ -138,7 +138,7 @@ TEST_F(GameObjectLayerTest, VisibilityCountsOnlyWhenTheLayerIsPlaced)
 TEST_F(GameObjectLayerTest, ALayerAtXZeroIsPlacedAfreshEveryTime)
 {
     const auto& layer = add("chip-0-0", 0.0, 0.5, 0.125);
-    const float z = layer.zPosition();
+    const std::int64_t z = layer.zPosition();
     change("chip-0-0", [](GameObject& chip) {
         chip.setY(0.25);
         chip.setOpacity(0.5);
@@ -147,7 +147,7 @@ TEST_F(GameObjectLayerTest, ALayerAtXZeroIsPlacedAfreshEveryTime)
     EXPECT_EQ(layer.shownPosition(), (PointF { 0.0F, 150.0F }));
     EXPECT_EQ(layer.shownOpacity(), 0.5F);
     EXPECT_TRUE(layer.isHidden());
-    EXPECT_EQ(layer.zPosition(), z - 2.0F);
+    EXPECT_EQ(layer.zPosition(), z - 2);
     EXPECT_FALSE(scene().isAnimating());
 }
 
@@ -175,26 +175,40 @@ TEST_F(GameObjectLayerTest, LaterLayersLieBehindAndMessagesInFrontOfAll)
 {
     for (int i = 0; i < 10; ++i) {
         const auto& layer = add("chip-" + std::to_string(i) + "-0", 0.25, 0.5, 0.125);
-        EXPECT_EQ(layer.zPosition(), -2.0F * static_cast<float>(i + 1));
+        EXPECT_EQ(layer.zPosition(), -2 * (i + 1));
     }
-    const float first = add("fullScreen-1i", 0.25, 0.5, 0.125).zPosition();
-    EXPECT_EQ(first, 32.0F);
+    const std::int64_t first = add("fullScreen-1i", 0.25, 0.5, 0.125).zPosition();
+    EXPECT_EQ(first, 32);
     EXPECT_GT(add("fullScreen-2i", 0.25, 0.5, 0.125).zPosition(), first);
-    EXPECT_LT(add("fullScree", 0.25, 0.5, 0.125).zPosition(), 0.0F);
+    EXPECT_LT(add("fullScree", 0.25, 0.5, 0.125).zPosition(), 0);
+}
+
+// Single precision would make neighbours equal after some hours of play.
+TEST_F(GameObjectLayerTest, AfterAnyNumberOfUpdatesTheLaterLayerStillLiesBehind)
+{
+    add("chip-0-0", 0.25, 0.5, 0.125);
+    for (int i = 0; i < 20'000'000; ++i) {
+        scene().lowerStackingCounter();
+    }
+    const std::int64_t before = add("chip-1-0", 0.25, 0.5, 0.125).zPosition();
+    EXPECT_EQ(before, -40'000'004);
+    EXPECT_EQ(add("chip-2-0", 0.25, 0.5, 0.125).zPosition(), before - 2);
+    const std::int64_t message = add("fullScreen-1i", 0.25, 0.5, 0.125).zPosition();
+    EXPECT_EQ(add("fullScreen-2i", 0.25, 0.5, 0.125).zPosition(), message + 2);
 }
 
 TEST_F(GameObjectLayerTest, TheFirstMessageOfAllStandsAtTwelve)
 {
-    EXPECT_EQ(add("fullScreen-1i", 0.25, 0.5, 0.125).zPosition(), 12.0F);
+    EXPECT_EQ(add("fullScreen-1i", 0.25, 0.5, 0.125).zPosition(), 12);
 }
 
 TEST_F(GameObjectLayerTest, StackingIsDecidedWhenTheLayerIsPlaced)
 {
     const auto& layer = add("chip-0-0", 0.25, 0.5, 0.125);
     change("chip-0-0", [](GameObject& chip) { chip.setX(0.5); });
-    EXPECT_EQ(layer.zPosition(), -2.0F);
+    EXPECT_EQ(layer.zPosition(), -2);
     // The change counted all the same.
-    EXPECT_EQ(add("chip-1-0", 0.25, 0.5, 0.125).zPosition(), -6.0F);
+    EXPECT_EQ(add("chip-1-0", 0.25, 0.5, 0.125).zPosition(), -6);
 }
 
 // Layers keep single precision, and a value that it cannot hold counts as changed.
