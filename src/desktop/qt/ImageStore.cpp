@@ -112,8 +112,7 @@ const QPixmap& ImageStore::text(const present::TextContent& text, QSizeF size)
     const QString string = QString::fromStdString(text.text);
     const QString key = string + QLatin1Char('\n') + color.name(QColor::HexArgb)
         + QString::number(size.height(), 'f', 2);
-    auto found = m_texts.find(key);
-    if (found == m_texts.end()) {
+    return m_texts.get(key, [&] {
         const int margin = textMargin(size);
         const QSize whole(
             static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height())));
@@ -127,9 +126,8 @@ const QPixmap& ImageStore::text(const present::TextContent& text, QSizeF size)
         outlines.addText(0.0, 0.0, m_font.font(), string);
         painter.fillPath(outlines, color);
         painter.end();
-        found = m_texts.insert(key, QPixmap::fromImage(setOff(letters, color, em)));
-    }
-    return *found;
+        return QPixmap::fromImage(setOff(letters, color, em));
+    });
 }
 
 int ImageStore::textMargin(QSizeF size)

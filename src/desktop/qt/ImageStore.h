@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/qt/GameFont.h"
+#include "desktop/qt/RecentPixmaps.h"
 #include "present/DisplayList.h"
 
 #include <QHash>
@@ -36,7 +37,7 @@ public:
     // Forgets what was drawn for sizes that are no longer asked for; the sources stay.
     void forgetSizes();
     // One line of text as high as the size, with a margin all round for what sets it off from its
-    // ground and for letters that lean out of their line.
+    // ground and for letters that lean out of their line. Only those last asked for are kept.
     const QPixmap& text(const present::TextContent& text, QSizeF size);
     [[nodiscard]] static int textMargin(QSizeF size); // device pixels
 
@@ -51,7 +52,7 @@ private:
     const GameFont& m_font;
     std::map<std::pair<std::string, std::pair<int, int>>, QPixmap> m_images;
     QHash<QString, QPixmap> m_effects;
-    QHash<QString, QPixmap> m_texts;
+    RecentPixmaps m_texts;
     std::map<QString, std::unique_ptr<QSvgRenderer>> m_vectors;
     std::map<QString, QImage> m_photographs;
     QTimer m_photographsRest;
