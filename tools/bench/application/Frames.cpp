@@ -4,11 +4,14 @@
 #include "app/VirtualGame.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QMainWindow>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <stdexcept>
 
 namespace veyrand::bench {
 
@@ -28,7 +31,7 @@ public:
         m_window.setCentralWidget(&m_game.widget());
         m_window.setGeometry(0, 0, width, height);
         m_window.show();
-        QCoreApplication::processEvents();
+        awaitExposure();
         m_game.launch();
     }
     Stage(const Stage&) = delete;
@@ -74,6 +77,7 @@ public:
         std::vector<double> times;
         for (int frame = 0; frame < kFrames; ++frame) {
             m_game.wait(kFrame);
+            const int painted = m_game.widget().framesPainted();
             const double start = processorSeconds();
             const QRegion damage = m_game.widget().nextFrame();
             if (damage.isEmpty()) {
@@ -85,11 +89,30 @@ public:
                 m_game.widget().repaint(damage);
             }
             times.push_back((processorSeconds() - start) * 1e3);
+            if (m_game.widget().framesPainted() == painted) {
+                throw std::runtime_error("a frame was to be measured and nothing was painted");
+            }
+        }
+        if (times.empty()) {
+            throw std::runtime_error("a scene was to be measured in which nothing moved");
         }
         return times;
     }
 
 private:
+    // A window that the window system has not shown yet paints nothing.
+    void awaitExposure() const
+    {
+        constexpr int kPatience = 10000; // milliseconds
+        const QDeadlineTimer deadline(kPatience);
+        while (!m_window.windowHandle()->isExposed()) {
+            if (deadline.hasExpired()) {
+                throw std::runtime_error("the window was never shown, so nothing can be measured");
+            }
+            constexpr int kMoment = 50; // milliseconds
+            QCoreApplication::processEvents(QEventLoop::AllEvents, kMoment);
+        }
+    }
     void fillBoard()
     {
         auto& proof = *m_game.controller().proof();
