@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace veyrand::platform {
 
@@ -22,6 +23,14 @@ using PreferenceRecord = std::map<std::string, PreferenceValue, std::less<>>;
 [[nodiscard]] bool boolForKey(const PreferenceRecord& record, std::string_view key);
 [[nodiscard]] std::int64_t integerForKey(const PreferenceRecord& record, std::string_view key);
 [[nodiscard]] std::string stringForKey(const PreferenceRecord& record, std::string_view key);
+
+// One group of a store as it was found, or what stands outside all groups: its plain values, and
+// the names of what is none.
+struct StoredGroup {
+    PreferenceRecord values {};
+    std::vector<std::string> groups {}; // in a store, groups stand outside all groups only
+    std::vector<std::string> others {};
+};
 
 // The user's settings. Values the user has stored take precedence over the registered defaults; a
 // default is never written to the store. A record is read and written as a whole.

@@ -6,7 +6,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <optional>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace veyrand::desktop::qt {
@@ -38,14 +40,27 @@ bool writeAll(int descriptor, const QByteArray& contents)
     return true;
 }
 
-// On the disk, not only on its way there.
-bool writeToDisk(const QString& name, const QByteArray& contents)
+// The mode of the file under the name, if there is one.
+std::optional<mode_t> modeOf(const QString& name)
 {
-    const int descriptor = openFile(name, O_WRONLY | O_CREAT | O_TRUNC);
+    constexpr mode_t kModeBits = 07777;
+    struct stat status { };
+    if (::stat(QFile::encodeName(name).constData(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+    return status.st_mode & kModeBits;
+}
+
+// On the disk, not only on its way there, and into a file of our own making.
+bool writeToDisk(const QString& name, const QByteArray& contents, std::optional<mode_t> mode)
+{
+    ::unlink(QFile::encodeName(name).constData()); // what an earlier attempt may have left
+    const int descriptor = openFile(name, O_WRONLY | O_CREAT | O_EXCL);
     if (descriptor < 0) {
         return false;
     }
-    const bool written = writeAll(descriptor, contents) && ::fsync(descriptor) == 0;
+    const bool written = (!mode || ::fchmod(descriptor, *mode) == 0)
+        && writeAll(descriptor, contents) && ::fsync(descriptor) == 0;
     const int error = errno;
     const bool closed = ::close(descriptor) == 0;
     if (!written) {
@@ -81,7 +96,7 @@ void keepAs(const QString& file, const QString& name)
 QString replaceDurably(const QString& file, const QByteArray& contents, const QString& oldContents)
 {
     const QString step = file + QStringLiteral(".new");
-    if (!writeToDisk(step, contents)) {
+    if (!writeToDisk(step, contents, modeOf(file))) {
         return qt_error_string(errno);
     }
     if (!oldContents.isEmpty() && QFileInfo::exists(file)) {
@@ -92,6 +107,30 @@ QString replaceDurably(const QString& file, const QByteArray& contents, const QS
     }
     flushFolder(file);
     return {};
+}
+
+FileContents readRegularFile(const QString& name, qint64 mostBytes)
+{
+    QFile file(name);
+    // Without waiting for whoever writes into a pipe.
+    const int descriptor = openFile(name, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    if (descriptor < 0) {
+        return { std::nullopt,
+            errno == ENOENT || errno == ENOTDIR ? QString() : qt_error_string(errno) };
+    }
+    struct stat status { };
+    const bool isRegular = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return { std::nullopt, file.errorString() };
+    }
+    if (!isRegular) {
+        return { std::nullopt, QStringLiteral("it is no regular file") };
+    }
+    if (QByteArray bytes = file.read(mostBytes + 1); bytes.size() <= mostBytes) {
+        return { std::move(bytes), {} };
+    }
+    return { std::nullopt, QStringLiteral("it is larger than %1 bytes").arg(mostBytes) };
 }
 
 FileLock::FileLock(const QString& lockFile)

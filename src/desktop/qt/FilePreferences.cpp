@@ -57,30 +57,32 @@ platform::PreferenceRecord toRecord(const QJsonObject& object)
     return record;
 }
 
+// Many times what a game ever writes.
+constexpr qint64 kMostBytes = 1024 * 1024;
+
 struct Read {
     std::optional<QJsonObject> document;
     QString fault; // empty for a file that is not there
+    std::optional<QByteArray> bytes {};
 };
 
 Read readDocument(const QString& name)
 {
-    QFile file(name);
-    if (!file.exists()) {
-        return {};
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return { std::nullopt, file.errorString() };
+    const FileContents file = readRegularFile(name, kMostBytes);
+    if (!file.bytes) {
+        return { std::nullopt, file.fault };
     }
     QJsonParseError error {};
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(*file.bytes, &error);
     if (error.error != QJsonParseError::NoError) {
         return { std::nullopt,
-            QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset) };
+            QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset),
+            file.bytes };
     }
     if (!document.isObject()) {
-        return { std::nullopt, QStringLiteral("it holds no JSON object") };
+        return { std::nullopt, QStringLiteral("it holds no JSON object"), file.bytes };
     }
-    return { document.object(), {} };
+    return { document.object(), {}, file.bytes };
 }
 
 // The record takes the place of every plain value that was there; what could not be read as one is
@@ -108,16 +110,46 @@ QString keyName(std::string_view key)
 QString prepared(const QString& file)
 {
     QDir().mkpath(QFileInfo(file).path());
-    // Some keep their settings elsewhere and leave a link here: that is the file to replace.
-    const QString target = QFileInfo(file).canonicalFilePath();
-    return target.isEmpty() ? file : target;
+    // Some keep their settings elsewhere and leave a link here: that is the file to replace. What a
+    // link to a device or a pipe leads to is nobody's settings.
+    const QFileInfo target(QFileInfo(file).canonicalFilePath());
+    return target.isFile() ? target.filePath() : file;
+}
+
+// Unused so far.
+QString nameForCopy(const QString& file)
+{
+    QString name;
+    for (int number = 1; name.isEmpty() || QFileInfo::exists(name) || QFileInfo(name).isSymLink();
+         ++number) {
+        name = file + QStringLiteral(".damaged-%1").arg(number);
+    }
+    return name;
+}
+
+// What an object holds, sorted by what it is.
+platform::StoredGroup storedIn(const QJsonObject& object)
+{
+    platform::StoredGroup stored;
+    for (auto field = object.begin(); field != object.end(); ++field) {
+        std::string name = field.key().toStdString();
+        if (auto value = toValue(field.value())) {
+            stored.values.insert_or_assign(std::move(name), *std::move(value));
+        } else if (field.value().isObject()) {
+            stored.groups.push_back(std::move(name));
+        } else {
+            stored.others.push_back(std::move(name));
+        }
+    }
+    return stored;
 }
 
 } // namespace
 
-FilePreferences::FilePreferences(const QString& file)
+FilePreferences::FilePreferences(const QString& file, Misunderstood misunderstood)
     : m_file(prepared(file))
     , m_lock(m_file + QStringLiteral(".lock"))
+    , m_misunderstood(std::move(misunderstood))
     , m_mayWrite(!isHeldElsewhere())
 {
     load();
@@ -125,8 +157,11 @@ FilePreferences::FilePreferences(const QString& file)
 
 QString FilePreferences::usualFile()
 {
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
-        .filePath(QStringLiteral("veyrand/preferences.json"));
+    const bool isRelative = QDir::isRelativePath(qEnvironmentVariable("XDG_CONFIG_HOME", "/"));
+    const QString folder = isRelative
+        ? QDir::home().filePath(QStringLiteral(".config"))
+        : QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return QDir(folder).filePath(QStringLiteral("veyrand/preferences.json"));
 }
 
 QString FilePreferences::lastGoodCopy() const
@@ -137,6 +172,7 @@ QString FilePreferences::lastGoodCopy() const
 void FilePreferences::load()
 {
     const Read read = readDocument(m_file);
+    m_bytes = read.bytes;
     if (read.document) {
         understand(*read.document);
     } else if (!read.fault.isEmpty()) {
@@ -148,15 +184,28 @@ void FilePreferences::understand(const QJsonObject& document)
 {
     Contents contents;
     m_document = document;
+    m_asRead = document;
+    judge({}, document);
     for (auto field = document.begin(); field != document.end(); ++field) {
         const std::string key = field.key().toStdString();
         if (field.value().isObject()) {
             contents.records.insert_or_assign(key, toRecord(field.value().toObject()));
+            judge(field.key(), field.value().toObject());
         } else if (auto value = toValue(field.value())) {
             contents.values.insert_or_assign(key, *std::move(value));
         }
     }
     setStored(std::move(contents));
+}
+
+void FilePreferences::judge(const QString& group, const QJsonObject& contents)
+{
+    if (!m_misunderstood) {
+        return;
+    }
+    for (const std::string& name : m_misunderstood(group.toStdString(), storedIn(contents))) {
+        m_notUnderstood.append({ group, QString::fromStdString(name) });
+    }
 }
 
 void FilePreferences::recoverFrom(const QString& reason)
@@ -174,12 +223,10 @@ void FilePreferences::recoverFrom(const QString& reason)
         report(fault + QLatin1Char(' ') + instead);
         return; // whoever holds the file has to see to it
     }
-    QString name;
-    for (int number = 1; name.isEmpty() || QFileInfo::exists(name); ++number) {
-        name = m_file + QStringLiteral(".damaged-%1").arg(number);
-    }
     // With a good copy at hand the file is replaced at once, so that there is one at any moment.
-    m_mayWrite = (copy.document && QFile::copy(m_file, name)) || QFile::rename(m_file, name);
+    const QString name = setAside(copy.document ? OldContents::Keep : OldContents::Forget);
+    m_mayWrite = !name.isEmpty();
+    m_bytes = readRegularFile(m_file, kMostBytes).bytes;
     if (!m_mayWrite) {
         report(QStringLiteral("%1 %2 It cannot be set aside either, so nothing will be saved.")
                    .arg(fault, instead));
@@ -208,16 +255,80 @@ void FilePreferences::setRecord(std::string_view key, platform::PreferenceRecord
 
 void FilePreferences::save(OldContents oldContents)
 {
-    if (!m_mayWrite) {
+    if (isHeldElsewhere()) {
         return;
     }
-    const QString error = replaceDurably(m_file, QJsonDocument(m_document).toJson(),
-        oldContents == OldContents::Keep ? lastGoodCopy() : QString());
-    const bool failed = !error.isEmpty();
-    if (failed && !m_failed) { // once, not at every save from here on
-        report(QStringLiteral("The preferences %1 cannot be written: %2.").arg(m_file, error));
+    if (m_mayWrite) {
+        if (const QString loss = whatAWriteWouldDrop(); !loss.isEmpty()) {
+            const QString name = setAside(OldContents::Keep);
+            m_mayWrite = !name.isEmpty();
+            report(m_mayWrite
+                    ? QStringLiteral("%1 They are kept as %2.").arg(loss, name)
+                    : QStringLiteral("%1 They cannot be set aside, so nothing will be saved.")
+                          .arg(loss));
+            m_notUnderstood.clear();
+            oldContents = OldContents::Forget; // they are no good copy
+        }
     }
-    m_failed = failed;
+    if (!m_mayWrite) {
+        m_failure
+            = QStringLiteral("What has changed since is not in the preferences %1.").arg(m_file);
+        return;
+    }
+    const QByteArray bytes = QJsonDocument(m_document).toJson();
+    const QString error = replaceDurably(
+        m_file, bytes, oldContents == OldContents::Keep ? lastGoodCopy() : QString());
+    if (error.isEmpty()) {
+        m_bytes = bytes;
+        m_failure.clear();
+        return;
+    }
+    const bool isNew = m_failure.isEmpty();
+    m_failure = QStringLiteral("The preferences %1 cannot be written: %2.").arg(m_file, error);
+    if (isNew) { // once, not at every save from here on
+        report(m_failure);
+    }
+}
+
+QString FilePreferences::saveWhatFailed()
+{
+    if (!m_failure.isEmpty()) {
+        save();
+    }
+    return m_failure;
+}
+
+QString FilePreferences::whatAWriteWouldDrop() const
+{
+    const FileContents now = readRegularFile(m_file, kMostBytes);
+    const bool isThere = now.bytes || !now.fault.isEmpty();
+    if (isThere && now.bytes != m_bytes) {
+        return QStringLiteral("The preferences %1 have been changed by something else.")
+            .arg(m_file);
+    }
+    QStringList dropped;
+    for (const auto& [group, name] : m_notUnderstood) {
+        const auto valueIn = [group = group, name = name](const QJsonObject& document) {
+            return (group.isEmpty() ? document : document.value(group).toObject()).value(name);
+        };
+        if (valueIn(m_document) != valueIn(m_asRead)) {
+            dropped.append(group.isEmpty() ? name : group + QLatin1Char('.') + name);
+        }
+    }
+    return dropped.isEmpty() ? QString()
+                             : QStringLiteral("Not everything in the preferences %1 can be "
+                                              "understood: %2.")
+                                   .arg(m_file, dropped.join(QStringLiteral(", ")));
+}
+
+// Copies or moves the file to a name for damaged ones and returns that; empty when it cannot be.
+QString FilePreferences::setAside(OldContents oldContents) const
+{
+    const QString name = nameForCopy(m_file);
+    const bool isCopied = oldContents == OldContents::Keep
+        && readRegularFile(m_file, kMostBytes).bytes && QFile::copy(m_file, name);
+    const bool isDone = isCopied || QFile::rename(m_file, name);
+    return isDone ? name : QString();
 }
 
 void FilePreferences::report(const QString& message)

@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <sys/stat.h>
 
 namespace veyrand::platform {
 
@@ -220,6 +222,158 @@ TEST_F(FilePreferencesTest, ALinkToAFileElsewhereStaysALink)
     desktop::qt::FilePreferences(file()).setValue("Music", true);
     EXPECT_TRUE(QFileInfo(file()).isSymLink());
     EXPECT_TRUE(contentsOf(elsewhere).contains("Music"));
+}
+
+TEST_F(FilePreferencesTest, TheFileKeepsItsMode)
+{
+    for (const auto mode : { QFile::ReadOwner | QFile::WriteOwner,
+             QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup }) {
+        write(file(), "{}");
+        ASSERT_TRUE(QFile::setPermissions(file(), mode));
+        const auto before = QFile::permissions(file());
+        desktop::qt::FilePreferences(file()).setValue("Music", true);
+        EXPECT_EQ(QFile::permissions(file()), before);
+    }
+}
+
+// Reading a pipe would wait for somebody to write, and /dev/zero never ends.
+TEST_F(FilePreferencesTest, OnlyARegularFileOfReasonableSizeIsRead)
+{
+    const std::pair<const char*, std::function<void()>> cases[] = {
+        { "no regular file",
+            [this] { ASSERT_EQ(::mkfifo(QFile::encodeName(file()).constData(), 0600), 0); } },
+        { "no regular file", [this] { ASSERT_TRUE(QFile::link("/dev/zero", file())); } },
+        { "no regular file", [this] { ASSERT_TRUE(QDir().mkpath(file())); } },
+        { "larger than", [this] { write(file(), QByteArray(1024 * 1024, ' ') + "{}"); } },
+    };
+    for (const auto& [reason, make] : cases) {
+        SCOPED_TRACE(reason);
+        QFile::remove(file());
+        make();
+        desktop::qt::FilePreferences preferences(file());
+        const QString report = reportsOf(preferences).join(QString());
+        EXPECT_TRUE(report.contains(QLatin1String(reason))) << report.toStdString();
+        EXPECT_TRUE(report.contains(QLatin1String(".damaged-"))) << report.toStdString();
+        preferences.setValue("Music", true);
+        EXPECT_EQ(contentsOf(file()), "{\n    \"Music\": true\n}\n");
+        EXPECT_FALSE(QFileInfo(file()).isSymLink());
+    }
+    EXPECT_TRUE(QFileInfo::exists("/dev/zero"));
+    write(file(), QByteArray(1024 * 1024 - 2, ' ') + "{}");
+    desktop::qt::FilePreferences largest(file());
+    EXPECT_EQ(reportsOf(largest), QStringList());
+}
+
+TEST_F(FilePreferencesTest, WhatWasChangedFromOutsideIsKeptBesideWhatIsWritten)
+{
+    desktop::qt::FilePreferences preferences(file());
+    QStringList reports;
+    preferences.setReporter([&reports](const QString& report) { reports.append(report); });
+    preferences.setValue("Name", std::string("first"));
+    write(file(), "{ \"Name\": \"theirs\" }");
+    preferences.setValue("Music", true);
+    EXPECT_TRUE(contentsOf(file()).contains("first"));
+    EXPECT_EQ(contentsOf(path("preferences.json.damaged-1")), "{ \"Name\": \"theirs\" }");
+    ASSERT_EQ(reports.size(), 1);
+    EXPECT_TRUE(reports.front().contains(QLatin1String("changed by something else")));
+    EXPECT_TRUE(reports.front().contains(QLatin1String(".damaged-1")));
+    preferences.setValue("Music", false); // ours stands there now
+    EXPECT_EQ(reports.size(), 1);
+    EXPECT_FALSE(contentsOf(lastGood()).contains("theirs"));
+}
+
+TEST_F(FilePreferencesTest, AFileThatAppearedOrWentMeanwhileIsAChangeToo)
+{
+    desktop::qt::FilePreferences preferences(file());
+    write(file(), "theirs");
+    preferences.setValue("Music", true);
+    EXPECT_EQ(contentsOf(path("preferences.json.damaged-1")), "theirs");
+    QFile::remove(file());
+    preferences.setValue("Music", false);
+    EXPECT_TRUE(contentsOf(file()).contains("false"));
+    EXPECT_EQ(names().filter(QStringLiteral("damaged")).size(), 1);
+}
+
+class MisunderstoodPreferencesTest : public FilePreferencesTest {
+protected:
+    // Levels must be numbers, and what begins with "Player" a group.
+    static std::vector<std::string> judge(std::string_view group, const StoredGroup& stored)
+    {
+        std::vector<std::string> names;
+        for (const auto& [name, value] : stored.values) {
+            const bool isLevel = group == "Player-New" && name == "Level";
+            if ((isLevel && !std::holds_alternative<std::int64_t>(value))
+                || (group.empty() && name.starts_with("Player"))) {
+                names.push_back(name);
+            }
+        }
+        return names;
+    }
+    [[nodiscard]] QString damaged() const { return path("preferences.json.damaged-1"); }
+};
+
+TEST_F(MisunderstoodPreferencesTest, WhatIsNotUnderstoodIsCopiedBeforeItIsDropped)
+{
+    const QByteArray before = R"({ "Music": false, "Player-New": { "Level": "3", "Score": 20 } })";
+    write(file(), before);
+    desktop::qt::FilePreferences preferences(file(), judge);
+    EXPECT_EQ(reportsOf(preferences), QStringList());
+    preferences.setValue("Music", true);
+    auto record = *preferences.record("Player-New");
+    record["Score"] = std::int64_t { 40 };
+    preferences.setRecord("Player-New", record);
+    EXPECT_FALSE(QFile::exists(damaged())) << "nothing has been dropped so far";
+    EXPECT_TRUE(contentsOf(file()).contains("\"Level\": \"3\""));
+
+    QStringList reports;
+    preferences.setReporter([&reports](const QString& report) { reports.append(report); });
+    record["Level"] = std::int64_t { 1 };
+    preferences.setRecord("Player-New", record);
+    EXPECT_TRUE(contentsOf(damaged()).contains("\"Level\": \"3\""));
+    EXPECT_TRUE(contentsOf(file()).contains("\"Level\": 1"));
+    EXPECT_TRUE(contentsOf(file()).contains("\"Score\": 40")) << "what is understood is kept";
+    ASSERT_EQ(reports.size(), 1);
+    EXPECT_TRUE(reports.front().contains(QLatin1String("Player-New.Level")));
+    EXPECT_TRUE(reports.front().contains(damaged()));
+    record["Level"] = std::int64_t { 2 };
+    preferences.setRecord("Player-New", record);
+    EXPECT_EQ(reports.size(), 1) << "once";
+}
+
+TEST_F(MisunderstoodPreferencesTest, ARecordOfAnotherKindIsCopiedToo)
+{
+    const QByteArray before = R"({ "Player-New": 3 })";
+    write(file(), before);
+    desktop::qt::FilePreferences preferences(file(), judge);
+    preferences.setRecord("Player-New", { { "Level", std::int64_t { 1 } } });
+    EXPECT_EQ(contentsOf(damaged()), before);
+}
+
+TEST_F(FilePreferencesTest, WhatCouldNotBeSavedIsTriedAndToldAgainAtTheEnd)
+{
+    write(path("no-folder"), "a file in the folder's place");
+    desktop::qt::FilePreferences preferences(path("no-folder/preferences.json"));
+    preferences.setReporter([](const QString&) {});
+    EXPECT_EQ(preferences.saveWhatFailed(), QString());
+    preferences.setValue("Music", true);
+    EXPECT_TRUE(preferences.saveWhatFailed().contains(path("no-folder/preferences.json")));
+    QFile::remove(path("no-folder"));
+    ASSERT_TRUE(QDir().mkpath(path("no-folder")));
+    EXPECT_EQ(preferences.saveWhatFailed(), QString());
+    EXPECT_TRUE(contentsOf(path("no-folder/preferences.json")).contains("true"));
+}
+
+TEST(UsualPreferencesFile, ARelativeFolderIsIgnored)
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", "/somewhere");
+    EXPECT_EQ(desktop::qt::FilePreferences::usualFile(), "/somewhere/veyrand/preferences.json");
+    const QString usual = QDir::homePath() + QStringLiteral("/.config/veyrand/preferences.json");
+    for (const char* folder : { "somewhere", "./somewhere", "" }) {
+        qputenv("XDG_CONFIG_HOME", folder);
+        EXPECT_EQ(desktop::qt::FilePreferences::usualFile(), usual) << folder;
+    }
+    qputenv("XDG_CONFIG_HOME", before);
 }
 
 TEST_F(FilePreferencesTest, ASecondProgramReadsAndSavesNothing)
