@@ -6,6 +6,8 @@
 #include "app/MenuActions.h"
 #include "app/Notices.h"
 #include "app/SystemInstallation.h"
+#include "app/UncaughtGuard.h"
+#include "app/WaitingBox.h"
 #include "controller/Game.h"
 #include "desktop/posix/UserJournal.h"
 #include "desktop/qt/DataFolder.h"
@@ -16,6 +18,7 @@
 #include "desktop/qt/QtRunLoop.h"
 #include "desktop/qt/QtWindow.h"
 #include "desktop/qt/SystemPorts.h"
+#include "progress/Misunderstood.h"
 #include "progress/PlayerKeys.h"
 
 #include <QApplication>
@@ -30,7 +33,7 @@ namespace {
 class Application {
 public:
     explicit Application(const QString& dataFolder)
-        : m_preferences(desktop::qt::FilePreferences::usualFile())
+        : m_preferences(desktop::qt::FilePreferences::usualFile(), progress::misunderstood)
         , m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
         , m_installation(m_preferences)
@@ -110,6 +113,25 @@ public:
         }
     }
 
+    // The box in which a failed save was told may be long gone.
+    void tellWhatIsNotSaved()
+    {
+        if (const QString trouble = m_preferences.saveWhatFailed(); !trouble.isEmpty()) {
+            tellAndWait(trouble);
+        }
+    }
+
+    // Nothing is asked at such an end, and nothing more is trusted.
+    void giveUp(const std::string& reason)
+    {
+        m_window.hide();
+        m_sounds.stopLoop();
+        const QString message
+            = QStringLiteral("Veyrand cannot go on: %1.").arg(QString::fromStdString(reason));
+        QTextStream(stderr) << message << Qt::endl;
+        tellAndWait(message);
+    }
+
 private:
     static platform::Preferences& withDefaults(platform::Preferences& preferences)
     {
@@ -158,13 +180,20 @@ int runGame(const QString& dataFolder)
 {
     Application application(dataFolder);
     if (const std::string fault = application.fault(); !fault.empty()) {
-        QTextStream(stderr) << "The game cannot be played: " << dataFolder << '/'
-                            << QString::fromStdString(fault) << Qt::endl;
+        const QString message = QStringLiteral("The game cannot be played: %1/%2")
+                                    .arg(dataFolder, QString::fromStdString(fault).trimmed());
+        QTextStream(stderr) << message << Qt::endl;
+        tellAndWait(message);
         return 1;
     }
     application.show();
-    const int status = QApplication::exec();
+    const int status = GuardedApplication::failure() ? EXIT_FAILURE : QApplication::exec();
+    if (const auto reason = GuardedApplication::failure()) {
+        application.giveUp(*reason);
+        return status;
+    }
     application.terminate();
+    application.tellWhatIsNotSaved();
     return status;
 }
 

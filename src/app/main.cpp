@@ -1,6 +1,8 @@
 #include "app/Application.h"
 #include "app/Demo.h"
 #include "app/Gallery.h"
+#include "app/UncaughtGuard.h"
+#include "app/WaitingBox.h"
 #include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
@@ -32,9 +34,13 @@ int run(const Pictures& pictures)
 {
     const QString dataFolder = veyrand::desktop::qt::findDataFolder();
     if (dataFolder.isEmpty()) {
-        QTextStream(stderr) << "The game's data cannot be found: no share/veyrand beside "
-                            << QCoreApplication::applicationDirPath()
-                            << " and VEYRAND_DATA names no folder" << Qt::endl;
+        const QString message = QStringLiteral("The game's data cannot be found: no share/veyrand "
+                                               "beside %1 and VEYRAND_DATA names no folder")
+                                    .arg(QCoreApplication::applicationDirPath());
+        QTextStream(stderr) << message << Qt::endl;
+        if (!pictures.wanted()) {
+            veyrand::app::tellAndWait(message);
+        }
         return 1;
     }
     if (pictures.demoFolder) {
@@ -96,7 +102,7 @@ int start(int argc, char** argv)
     if (pictures.wanted() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    QApplication application(argc, argv);
+    const veyrand::app::GuardedApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral(VEYRAND_ID)); // whose icon the desktop shows
