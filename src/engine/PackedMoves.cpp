@@ -4,7 +4,7 @@
 #include <string_view>
 
 // The compiler does not judge these functions worth laying out in line on its own. Where branches
-// are counted (tools/engine-coverage) each is to be there once, and this is set to nothing.
+// are counted (tools/evidence coverage) each is to be there once, and this is set to nothing.
 #ifndef VEYRAND_ALWAYS_INLINE
 #define VEYRAND_ALWAYS_INLINE [[gnu::always_inline]] inline
 #endif

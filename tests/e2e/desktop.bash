@@ -47,9 +47,6 @@ start_desktop() {
   export XDG_CONFIG_HOME=$folder/config XDG_RUNTIME_DIR=$folder/run QT_QPA_PLATFORM=xcb
   export HOME=$folder # the sound server keeps its cookie there
   unset WAYLAND_DISPLAY
-  # Only the sanitized build reads this.
-  LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/leaks-of-others.txt:print_suppressions=0
-  export LSAN_OPTIONS
 }
 
 # Sets `hears` to yes or no: whether what the game plays can be recorded.
