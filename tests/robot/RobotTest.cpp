@@ -1,6 +1,7 @@
 #include "robot/Robot.h"
 
 #include "progress/PlayerKeys.h"
+#include "progress/Settings.h"
 #include "support/Places.h"
 #include "support/QtEnvironment.h"
 
@@ -30,9 +31,15 @@ std::vector<std::string> takePages(const Robot& robot, std::size_t& taken)
 
 } // namespace
 
-TEST(Robot, PlaysClassicFromTheFirstPuzzleToTheClosingMessage)
+class RobotAtTempo : public ::testing::TestWithParam<std::string> { };
+
+INSTANTIATE_TEST_SUITE_P(Tempos, RobotAtTempo, ::testing::Values("normal", "off"),
+    [](const auto& tempo) { return tempo.param; });
+
+TEST_P(RobotAtTempo, PlaysClassicFromTheFirstPuzzleToTheClosingMessage)
 {
-    app::VirtualGame game(withData());
+    app::VirtualGame game(withData({ .values = {},
+        .records = { { std::string(progress::kSettingsKey), { { "Tempo", GetParam() } } } } }));
     Robot robot(game);
     game.launch();
     game.wait(1.0);
