@@ -281,7 +281,7 @@ TEST(Sounds, TheStrokesOfTheRollMerge)
     };
     std::vector<double> above;
     for (std::size_t moment = 150; moment < 1150; ++moment) {
-        above.push_back(inDecibels(mean(moment, 5) / mean(moment, 150)));
+        above.push_back(inDecibels(mean(moment, 2) / mean(moment, 150)));
     }
     std::sort(above.begin(), above.end());
     const double most = above[above.size() * 95 / 100];
