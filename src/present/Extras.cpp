@@ -2,6 +2,7 @@
 
 #include "present/BoardLayers.h"
 #include "present/ExtraMotions.h"
+#include "present/Points.h"
 
 #include <algorithm>
 #include <array>
@@ -18,11 +19,6 @@ constexpr std::int64_t kAboveTheBoard = 10;
 std::string slotOf(const Extra& extra)
 {
     return extra.slot.empty() ? std::string(nameOf(extra.kind)) + ' ' + extra.key : extra.slot;
-}
-
-platform::PointF point(double x, double y)
-{
-    return { .x = static_cast<float>(x), .y = static_cast<float>(y) };
 }
 
 void addWithTexts(const Layer& layer, std::unordered_set<std::uint64_t>& numbers)

@@ -1,6 +1,7 @@
 #include "present/GameObjectLayer.h"
 
 #include "board/Times.h"
+#include "present/Points.h"
 
 #include <string_view>
 #include <utility>
@@ -8,11 +9,6 @@
 namespace veyrand::present {
 
 namespace {
-
-platform::PointF point(double x, double y)
-{
-    return { .x = static_cast<float>(x), .y = static_cast<float>(y) };
-}
 
 platform::SizeF size(double width, double height)
 {
