@@ -63,7 +63,8 @@ public:
               .pointer = m_pointer,
               .images = m_images,
               .resized = [this](platform::Size size) { resized(size); },
-              .cursor = [this] { return m_game.controller().answers().cursor(); } })
+              .cursor = [this] { return m_game.controller().answers().cursor(); },
+              .closePage = [this] { return m_game.controller().closePage(); } })
         , m_window(m_menu, m_board)
     {
         m_overlay.setMainWindow(m_window);

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QScreen>
 
 #include <algorithm>
@@ -99,6 +100,14 @@ bool MainWindow::event(QEvent* event)
         m_board.cancelGesture();
     }
     return QMainWindow::event(event);
+}
+
+void MainWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Alt && isFullScreen()) {
+        m_menu.bar()->setVisible(!m_menu.bar()->isVisible());
+    }
+    QMainWindow::keyReleaseEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

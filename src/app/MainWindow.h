@@ -11,8 +11,8 @@
 
 namespace veyrand::app {
 
-// The window: the menu bar and, below it, the board. In full-screen mode the bar is hidden and its
-// shortcuts go on working.
+// The window: the menu bar and, below it, the board. In full-screen mode the bar is hidden, Alt
+// brings it back and its shortcuts go on working.
 class MainWindow final : public QMainWindow {
 public:
     // Takes the menu's bar and the widget into its own keeping only for as long as it lives.
@@ -36,6 +36,7 @@ protected:
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
     void geometryChanged();

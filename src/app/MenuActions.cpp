@@ -31,10 +31,11 @@ desktop::qt::GameMenu::Actions menuActions(
                 controller.kept().settingsChanged();
             },
         .toggleFullScreen = [&controller] { controller.toggleFullscreen(); },
-        .exitFullScreen = [&controller] { controller.exitFullscreen(); },
+        .exitFullScreen = [&controller] { controller.escape(); },
         .howToPlay = [&controller] { controller.showHowToPlay(); },
         .takingBack = [&controller] { controller.pages().show("takingBackMessageWindow"); },
         .moves = [&controller] { controller.pages().show("movesMessageWindow"); },
+        .scoring = [&controller] { controller.pages().show("scoringMessageWindow"); },
         .about = std::move(about),
         .canStartGame = [&controller] { return controller.canStartGame(); },
         .canUndo = [&controller] { return controller.history().canUndo(); },

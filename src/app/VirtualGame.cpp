@@ -77,7 +77,8 @@ VirtualGame::VirtualGame(const Options& options)
                     controller().updateContentViewFrame(size);
                     controller().windowDidResize();
                 },
-            .cursor = [this] { return controller().answers().cursor(); } });
+            .cursor = [this] { return controller().answers().cursor(); },
+            .closePage = [this] { return controller().closePage(); } });
     m_widget->setAttribute(Qt::WA_DontShowOnScreen);
     m_widget->resize(options.window);
     m_widget->show();

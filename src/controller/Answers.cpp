@@ -14,7 +14,6 @@ namespace veyrand::controller {
 using input::Cursor;
 using play::Reason;
 using present::Extra;
-using present::ExtraRect;
 
 namespace {
 
@@ -43,6 +42,7 @@ Answers::Answers(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
     , m_tips(controller)
+    , m_celebration(controller)
 {
     settingsChanged();
     m_game.view.setOnlooker(this);
@@ -78,7 +78,22 @@ void Answers::puzzleLaidOut()
     m_clicksMissed = 0;
     m_pressesLost = 0;
     m_whisper.clear();
+    m_celebration.puzzleLaidOut();
     direct();
+}
+
+void Answers::solved(long points)
+{
+    if (m_settings.answers) {
+        m_celebration.solved(points);
+    }
+}
+
+void Answers::boardEmpties()
+{
+    if (m_settings.answers) {
+        m_celebration.boardEmpties();
+    }
 }
 
 // --- What stands
@@ -103,6 +118,11 @@ Answers::Situation Answers::situation() const
         now.dragged = m_game.view.keyDragged();
         now.tipIsDue = m_tipIsDue && now.thing == m_restingOn && now.dragged.empty();
     }
+    now.celebration = m_celebration.state();
+    if (const auto* const window = m_controller.messages().messageWindow()) {
+        now.page = m_controller.messages().page();
+        now.words = window->text().size();
+    }
     const progress::CurrentGame& game = m_game.currentGame;
     now.points = game.endlessGame() ? game.endlessScore() : game.score();
     now.par = game.par();
@@ -120,78 +140,10 @@ void Answers::direct()
     if (m_shown.isOn) {
         addRows(wanted);
         addHands(wanted);
+        addPraise(wanted);
     }
     addWords(wanted);
     m_game.layers.extras().want(std::move(wanted));
-}
-
-void Answers::addRows(std::vector<Extra>& wanted) const
-{
-    if (!m_shown.inPlay) {
-        return;
-    }
-    std::vector<unsigned> lengths;
-    for (const std::string& line : m_shown.lines) {
-        lengths.push_back(static_cast<unsigned>(line.size()));
-    }
-    auto last = static_cast<unsigned>(lengths.size() - 1);
-    double share = 1.0;
-    if (const std::string doomer = doomedBy(m_shown.thing); !doomer.empty()) {
-        const unsigned first = board::rowForDeleteButton(doomer);
-        wanted.push_back(present::doomedRows(lengths, first));
-        last = first - 1;
-        share = present::extras::kLeftLight;
-    }
-    wanted.push_back(present::rowInPlay(last, share));
-    for (unsigned row = 0; row < last; ++row) {
-        wanted.push_back(present::restingRow(row, lengths[row]));
-    }
-}
-
-void Answers::addHands(std::vector<Extra>& wanted) const
-{
-    if (!m_shown.dragged.empty()) {
-        const unsigned row = board::rowForKey(m_shown.dragged);
-        const unsigned column = board::columnForKey(m_shown.dragged);
-        for (const unsigned target : dropsThatAreMoves(m_controller, row, column)) {
-            wanted.push_back(present::targetRing(target, row));
-        }
-        return;
-    }
-    if (board::isChipKey(m_shown.held)) {
-        if (const auto place = placeOf(m_shown.held)) {
-            wanted.push_back(present::heldDown(m_shown.held, *place));
-        }
-    }
-    const auto place = placeOf(m_shown.thing);
-    if (!place || !m_shown.inPlay) {
-        return;
-    }
-    const bool isStone = board::isChipKey(m_shown.thing);
-    if (isStone || board::isDeleteKey(m_shown.thing)) {
-        const Cursor hand = cursor();
-        if (hand == Cursor::Pointing || hand == Cursor::Open) {
-            wanted.push_back(present::lightUnder(m_shown.thing, *place));
-        }
-    }
-}
-
-void Answers::addWords(std::vector<Extra>& wanted) const
-{
-    if (!m_shown.whisper.empty()) {
-        wanted.push_back(present::whisper(m_shown.whisper, m_game.layers.textMetrics()));
-    }
-    const auto place = placeOf(m_shown.thing);
-    if (!m_shown.isOn || !m_shown.tipIsDue || !place) {
-        return;
-    }
-    std::string text = m_tips.textFor(m_shown.thing);
-    if (m_advised == m_shown.thing) {
-        text = m_advice;
-    }
-    if (!text.empty()) {
-        wanted.push_back(present::tipFor(m_shown.thing, *place, text, m_game.layers.textMetrics()));
-    }
 }
 
 // --- What the pointer is over
@@ -212,35 +164,6 @@ std::string Answers::thingUnderPointer() const
         }
     }
     return {};
-}
-
-// The delete button whose click would take rows away, if that is what the thing is.
-std::string Answers::doomedBy(const std::string& thing) const
-{
-    if (!board::isDeleteKey(thing)) {
-        return {};
-    }
-    const unsigned row = board::rowForDeleteButton(thing);
-    return row > 0 && row < m_shown.lines.size() ? thing : std::string();
-}
-
-std::optional<ExtraRect> Answers::placeOf(const std::string& key) const
-{
-    const auto record = m_game.board.gameData.gameObjects().objectForKey(key);
-    if (!record) {
-        return std::nullopt;
-    }
-    ExtraRect place {
-        .x = record->x(), .y = record->y(), .width = record->width(), .height = record->height()
-    };
-    const auto* const layer = m_game.layers.layerForKey(key);
-    const auto* const text = layer != nullptr ? present::BoardLayers::textOn(*layer) : nullptr;
-    if (text != nullptr && place.width <= 0.0) {
-        place.width
-            = static_cast<double>(text->bounds().width) / m_game.board.gameData.gameHeight();
-        place.height = text->fontSize() / 900.0;
-    }
-    return place;
 }
 
 Cursor Answers::cursor() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controller/Celebration.h"
 #include "controller/GameContext.h"
 #include "controller/Tips.h"
 #include "input/Cursor.h"
@@ -26,6 +27,10 @@ public:
     void settingsChanged();
     // Another puzzle lies on the board.
     void puzzleLaidOut();
+    // The last line has met the goal, for so many points that have not been added yet; and, later,
+    // the stones leave the board.
+    void solved(long points);
+    void boardEmpties();
     void refused(const play::Gesture& gesture, const play::Refusal& why);
 
     [[nodiscard]] input::Cursor cursor() const;
@@ -48,6 +53,9 @@ private:
         std::string held;
         std::string dragged;
         std::string whisper;
+        std::string celebration;
+        std::string page;
+        std::size_t words = 0; // lines of the message on show
         std::int64_t points = 0;
         int par = 0;
         bool tipIsDue = false;
@@ -60,6 +68,7 @@ private:
     void direct();
     void addRows(std::vector<present::Extra>& wanted) const;
     void addHands(std::vector<present::Extra>& wanted) const;
+    void addPraise(std::vector<present::Extra>& wanted) const;
     void addWords(std::vector<present::Extra>& wanted) const;
     [[nodiscard]] std::string thingUnderPointer() const;
     [[nodiscard]] std::string doomedBy(const std::string& thing) const;
@@ -74,6 +83,7 @@ private:
     GameController& m_controller;
     GameContext& m_game;
     Tips m_tips;
+    Celebration m_celebration;
     progress::Settings m_settings;
     Situation m_shown {};
     std::string m_whisper;

@@ -48,6 +48,14 @@ void Dialogues::dialogueButtonClick(int index)
     m_question = Question::None;
 }
 
+void Dialogues::leave()
+{
+    m_controller.messages().dismiss();
+    dismiss();
+    m_game.view.reestablishTracking();
+    m_game.view.turnOnAllHovers();
+}
+
 void Dialogues::answer(Question question, bool startAnew)
 {
     GameFlow& flow = m_controller.flow();

@@ -30,6 +30,8 @@ public:
 
     // The question goes unanswered.
     void dismiss() { m_question = Question::None; }
+    // The same, asked for by the player: the title page below answers again.
+    void leave();
 
 private:
     void answer(Question question, bool startAnew);

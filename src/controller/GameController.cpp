@@ -73,6 +73,28 @@ void GameController::loadOverlayWindow()
         "MessageBackground");
 }
 
+bool GameController::closePage()
+{
+    if (!m_context.view.messageWindow() && !m_context.view.tutorialWindow()) {
+        return false;
+    }
+    if (!m_context.view.block().blockClick()) {
+        messageWindowClick();
+    }
+    return true;
+}
+
+void GameController::escape()
+{
+    if (dialogueState() != 0) {
+        if (!m_context.view.block().blockClick()) {
+            m_dialogues.leave();
+        }
+    } else if (!closePage()) {
+        exitFullscreen();
+    }
+}
+
 bool GameController::isPuzzleOnBoard() const
 {
     return m_context.board.gameData.gameObjects().contains("label-points");

@@ -30,6 +30,11 @@ public:
     void windowDidResize();
     void toggleFullscreen() { m_fullScreen.toggleFullscreen(); }
     void exitFullscreen() { m_fullScreen.exitFullscreen(); }
+    // Closes a page or note as a press would, which nothing does in its first second. True if one
+    // is up, whether or not it goes now.
+    bool closePage();
+    // The same, or a question is left without an answer, or else full-screen mode is.
+    void escape();
 
     [[nodiscard]] GameContext& context() const { return m_context; }
     [[nodiscard]] Moves& moves() { return m_moves; }

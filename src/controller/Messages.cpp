@@ -56,6 +56,7 @@ void Messages::hold(std::unique_ptr<present::InfoLayer> window, std::string page
     }
     m_window = std::move(window);
     m_page = std::move(page);
+    m_controller.answers().handsChanged();
 }
 
 void Messages::release()
@@ -63,6 +64,7 @@ void Messages::release()
     m_game.view.setOverlay(input::Overlay::None);
     m_window.reset();
     m_page.clear();
+    m_controller.answers().handsChanged();
 }
 
 void Messages::dismiss()

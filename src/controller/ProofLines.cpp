@@ -25,7 +25,10 @@ bool ProofLines::checkProofComplete()
     GameFlow& flow = m_controller.flow();
     flow.performWithThisProof(
         tempo.celebration(times::kDeleteButtonsGo), [this] { removeAllDeleteButtons(); });
-    flow.performWithThisProof(tempo.celebration(times::kBoardEmpties), [this] { clearProof(); });
+    flow.performWithThisProof(tempo.celebration(times::kBoardEmpties), [this] {
+        m_controller.answers().boardEmpties();
+        clearProof();
+    });
     flow.performWithThisProof(tempo.celebration(times::kGoalFlies),
         [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
     calculateScore();
@@ -37,8 +40,10 @@ bool ProofLines::checkProofComplete()
 void ProofLines::calculateScore()
 {
     const progress::CurrentGame& game = m_game.currentGame;
-    m_game.currentGame.addToScore(
-        play::pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount()));
+    const auto points
+        = play::pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount());
+    m_controller.answers().solved(points);
+    m_game.currentGame.addToScore(points);
 }
 
 void ProofLines::clearProof(unsigned firstRow, unsigned count, DeleteButtons buttons)

@@ -14,9 +14,9 @@ enum class ExtraKind { Shake, Ring, Row, Limit, Plate, Light, Dust, Tip, Whisper
 // "shake", "ring" and so on.
 [[nodiscard]] std::string_view nameOf(ExtraKind kind);
 
-// Where an extra lies: between the wood and what stands on it, before everything on the board, or
-// before messages too.
-enum class ExtraBand { OnWood, OnBoard, OverMessages };
+// Where an extra lies: between the wood and what stands on it, before everything on the board,
+// between a message and its words, or before messages too.
+enum class ExtraBand { OnWood, OnBoard, UnderWords, OverMessages };
 
 // A place in game heights, by its centre.
 struct ExtraRect {
@@ -68,8 +68,9 @@ struct Extra {
     std::string slot {}; // by kind and key when empty
     ExtraFade fade {};
     ExtraMotion motion = ExtraMotion::Still;
-    double duration = 0.0; // s; 0 for what stays until it is no longer wanted
-    double wayX = 0.0; // of the motion, in game heights
+    double duration = 0.0; // s, from its delay on; 0 for what stays until it is no longer wanted
+    double delay = 0.0; // s, before what ends by itself begins
+    double wayX = 0.0; // of the motion, or of its coming, in game heights
     double wayY = 0.0;
     double growth = 1.0; // to how much of its size a burst grows
     bool isCompanion = false; // of another, and not worth a word of its own

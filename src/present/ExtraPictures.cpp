@@ -1,6 +1,7 @@
 #include "present/ExtraPictures.h"
 
 #include "board/BoardGeometry.h"
+#include "present/CelebrationPictures.h"
 #include "present/ExtraWords.h"
 
 #include <array>
@@ -224,8 +225,8 @@ std::vector<std::string> extraPictureNames()
 {
     std::vector<std::string> names { "RowLight", "RowFlash", "Halo", "Shine", "Ring", "LimitEdge",
         "LimitRing", "LimitRow" };
-    for (const std::string& name : wordPictureNames()) {
-        names.push_back(name);
+    for (const auto& others : { wordPictureNames(), celebrationPictureNames() }) {
+        names.insert(names.end(), others.begin(), others.end());
     }
     return names;
 }

@@ -40,6 +40,21 @@ inline constexpr double kDoomedChip = 0.34;
 inline constexpr double kDoomedVeil = 0.42;
 inline constexpr double kLeftLight = 0.55; // of the light of the row that would be left
 
+// A puzzle is solved: seconds from the solving move, unless they say how long something takes.
+inline constexpr double kLightRuns = 1.2;
+inline constexpr double kLightStays = 3.2; // the goal flies then
+inline constexpr double kPlateGoes = 4.2;
+inline constexpr ExtraFade kPlateFade { .in = 0.35, .out = 0.3, .travel = 0.35 };
+inline constexpr double kPlateRises = 0.030;
+inline constexpr double kCount = 1.0;
+inline constexpr int kCountSteps = 25;
+inline constexpr double kDust = 0.8;
+inline constexpr double kDustColumn = 0.04; // each column later than the one before
+inline constexpr double kDustBegins = 0.2;
+inline constexpr double kDustSize = 0.10;
+inline constexpr ExtraFade kMedalFade { .in = 0.25, .out = 0.0, .travel = 0.5 };
+inline constexpr double kMedalDrops = 0.040;
+
 // Words.
 inline constexpr double kTipAfter = 0.5;
 inline constexpr ExtraFade kTipFade { .in = 0.12, .out = 0.12 };

@@ -66,18 +66,14 @@ ExtraPiece plate(const std::string& name, const ExtraRect& body)
             .height = body.height + 2.0 * kShadowRoom } };
 }
 
-enum class Side { Right, Left, Above, Below };
+enum class Side { Right, Above, Below };
 
-// Things of the panel and the title page are explained to their right, stones below or above them:
-// beside a stone lie others.
-Side sideFor(const ExtraRect& thing, double width)
+// Things of the panel are explained to their right, all others below or above them: beside a stone
+// lie others, and beside a medal lies its button.
+Side sideFor(const ExtraRect& thing)
 {
     if (thing.x < 0.62) {
         return Side::Right;
-    }
-    if (thing.height > 0.09) {
-        return thing.x - thing.width / 2.0 - kTipGap - width > kBoardMargin ? Side::Left
-                                                                            : Side::Below;
     }
     return thing.y > 0.5 ? Side::Below : Side::Above;
 }
@@ -89,8 +85,8 @@ struct Layout {
 
 Layout layOut(const ExtraRect& thing, double width, double height)
 {
-    const Side side = sideFor(thing, width);
-    const bool beside = side == Side::Right || side == Side::Left;
+    const Side side = sideFor(thing);
+    const bool beside = side == Side::Right;
     const double away = kTipGap + (beside ? thing.width + width : thing.height + height) / 2.0;
     const double sign = side == Side::Right || side == Side::Above ? 1.0 : -1.0;
     const auto inside = [](double centre, double length, double end) {
@@ -102,7 +98,6 @@ Layout layOut(const ExtraRect& thing, double width, double height)
                         .height = height },
         .nose = {} };
     const char* const name = side == Side::Right ? "TipNoseLeft"
-        : side == Side::Left                     ? "TipNoseRight"
         : side == Side::Above                    ? "TipNoseDown"
                                                  : "TipNoseUp";
     const double toNose = (beside ? width : height) / 2.0 + kNoseLength / 2.0 - 0.0045;
@@ -194,7 +189,7 @@ Extra whisper(const std::string& text, const platform::TextMetrics& metrics)
 
 std::vector<std::string> wordPictureNames()
 {
-    std::vector<std::string> names { "TipNoseUp", "TipNoseRight", "TipNoseDown", "TipNoseLeft" };
+    std::vector<std::string> names { "TipNoseUp", "TipNoseDown", "TipNoseLeft" };
     for (int width = kTipNarrowest; width <= kTipWidest; width += kTipStep) {
         for (std::size_t lines = 1; lines <= kTipHeights.size(); ++lines) {
             names.push_back("TipPlate-" + std::to_string(width) + '-' + std::to_string(lines));

@@ -109,7 +109,7 @@ void Extras::want(std::vector<Extra> wanted)
 void Extras::start(const Extra& extra)
 {
     enter(extra);
-    m_scene.animationStarted(extra.duration);
+    m_scene.animationStarted(extra.delay + extra.duration);
 }
 
 void Extras::end(ExtraKind kind)
@@ -134,7 +134,7 @@ void Extras::clear()
 
 void Extras::enter(const Extra& extra)
 {
-    Entry entry { .extra = extra, .start = m_scene.now() };
+    Entry entry { .extra = extra, .start = m_scene.now() + extra.delay };
     for (std::size_t i = 0; i < extra.pieces.size(); ++i) {
         entry.ids.push_back(m_scene.nextLayerId());
     }
@@ -142,6 +142,12 @@ void Extras::enter(const Extra& extra)
     if (extra.duration <= 0.0 && extra.fade.in > 0.0) {
         entry.share.animate(0.0F, 1.0F, m_scene.now(), extra.fade.in, Timing::EaseOut);
         m_scene.animationStarted(extra.fade.in);
+    }
+    const bool comesFromAfar = extra.wayX != 0.0 || extra.wayY != 0.0;
+    if (extra.duration <= 0.0 && comesFromAfar && m_taste == MotionTaste::Full) {
+        entry.offset.animate(
+            point(-extra.wayX, -extra.wayY), {}, m_scene.now(), extra.fade.travel, Timing::EaseOut);
+        m_scene.animationStarted(extra.fade.travel);
     }
     m_entries.push_back(std::move(entry));
     m_scene.setNeedsDisplay();
@@ -154,7 +160,8 @@ void Extras::replace(Entry& entry, const Extra& extra)
     while (entry.ids.size() < extra.pieces.size()) {
         entry.ids.push_back(m_scene.nextLayerId());
     }
-    if (extra.fade.travel > 0.0 && m_taste == MotionTaste::Full) {
+    const bool isElsewhere = old.x != extra.rect.x || old.y != extra.rect.y;
+    if (isElsewhere && extra.fade.travel > 0.0 && m_taste == MotionTaste::Full) {
         const platform::PointF from = entry.offset.at(m_scene.now());
         entry.offset.animate(point(static_cast<double>(from.x) + old.x - extra.rect.x,
                                  static_cast<double>(from.y) + old.y - extra.rect.y),
@@ -198,6 +205,9 @@ Extras::Moment Extras::momentOf(const Entry& entry) const
             .y = static_cast<double>(offset.y),
             .motion = moving ? Motion::Moving : Motion::Resting };
     }
+    if (now < entry.start) {
+        return { .opacity = 0.0 };
+    }
     const ExtraPose pose = poseOf(extra, now - entry.start, m_taste);
     return { .opacity = pose.opacity,
         .x = pose.x,
@@ -212,9 +222,10 @@ std::vector<Extras::Shown> Extras::shown()
     direct();
     std::vector<Shown> all;
     for (const ExtraBand band :
-        { ExtraBand::OnWood, ExtraBand::OnBoard, ExtraBand::OverMessages }) {
+        { ExtraBand::OnWood, ExtraBand::OnBoard, ExtraBand::UnderWords, ExtraBand::OverMessages }) {
         for (const Entry& entry : m_entries) {
-            if (entry.extra.band != band || entry.leaving || entry.extra.isCompanion) {
+            if (entry.extra.band != band || entry.leaving || entry.extra.isCompanion
+                || m_scene.now() < entry.start) {
                 continue;
             }
             const Moment moment = momentOf(entry);
@@ -302,10 +313,16 @@ void Extras::decorate(DisplayList& list, const BoardLayers& layers)
         }
     };
     bool boardIsDone = false;
+    bool wordsHaveBegun = false;
     for (DisplayItem& item : list) {
         if (!boardIsDone && inFront.contains(item.layer)) {
             append(ExtraBand::OnBoard);
             boardIsDone = true;
+        }
+        if (!wordsHaveBegun && std::holds_alternative<TextContent>(item.content)
+            && inFront.contains(item.layer)) {
+            append(ExtraBand::UnderWords);
+            wordsHaveBegun = true;
         }
         if (const auto found = touchedLayers.find(item.layer); found != touchedLayers.end()) {
             const Touched& touch = found->second;

@@ -28,6 +28,7 @@ public:
 
     void setDirector(std::function<void()> director) { m_director = std::move(director); }
     void setTaste(MotionTaste taste) { m_taste = taste; }
+    [[nodiscard]] MotionTaste taste() const { return m_taste; }
 
     // What stands from now on. What stood and is not wanted any more fades away.
     void want(std::vector<Extra> wanted);

@@ -182,6 +182,11 @@ private:
         EXPECT_GE(measured.besideLetters, large ? kLargeText : kSmallText)
             << page << ": \"" << text.text << "\", size " << size << "; without its shadow "
             << measured.behindLetters;
+        constexpr double kDark = 0.3;
+        if (text.color.red < kDark && text.color.green < kDark) {
+            EXPECT_GE(measured.behindLetters, kSmallText)
+                << page << ": \"" << text.text << "\" shall need no halo";
+        }
     }
 
     static Measured measure(const QImage& painted, const QImage& ground, const QRect& place,
@@ -240,6 +245,26 @@ TEST_F(Contrast, TheCountersCanBeReadOnTheWood)
     play("YRGB", "YGGGG");
     measureEverything("board");
     showSmallest("board");
+}
+
+TEST_F(Contrast, TipsWhispersAndThePlateOfASolvedPuzzleCanBeRead)
+{
+    game().menu().trigger(QStringLiteral("Say Why"));
+    play("YRGRGRGR", "YB");
+    for (const char* key : { "counter-par", "label-points", "chip-1-0", "chip-7-0" }) {
+        move(key);
+        wait(1.0);
+        measureEverything(key);
+    }
+    click("chip-0-0"); // too long
+    wait(1.0);
+    ASSERT_FALSE(game().controller().answers().whisper().empty());
+    measureEverything("whisper");
+    play("YR", "YRG");
+    click("chip-1-0");
+    wait(2.5);
+    measureEverything("plate");
+    showSmallest("answers");
 }
 
 TEST_F(Contrast, TheWordsOfTheButtonsCanBeRead)

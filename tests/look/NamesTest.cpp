@@ -1,4 +1,5 @@
 #include "platform/Effect.h"
+#include "present/ExtraPictures.h"
 #include "progress/PlayerKeys.h"
 #include "support/Places.h"
 #include "support/PlayedGame.h"
@@ -126,6 +127,12 @@ TEST_F(AskedFor, TheImagesAreExactlyTheFilesThereAre)
     Names files = filesIn("svg");
     files.merge(filesIn("wood"));
     EXPECT_THAT(images(), ::testing::ContainerEq(files));
+}
+
+TEST(AskedForByExtras, TheImagesAreExactlyTheFilesThereAre)
+{
+    const auto names = present::extraPictureNames();
+    EXPECT_THAT(Names(names.begin(), names.end()), ::testing::ContainerEq(filesIn("svg/extras")));
 }
 
 TEST(AskedForBySources, TheSoundsAreExactlyTheFilesThereAre)

@@ -83,7 +83,7 @@ def over_two():
 
 
 def pointer():
-    return arrow_picture(160, 160, (20, 20), (24, 74), (66, 118), (138, 138))
+    return arrow_picture(160, 160, (30, 48), (34, 86), (74, 120), (138, 138))
 
 
 def up():

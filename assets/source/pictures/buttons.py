@@ -137,13 +137,11 @@ def side_button(word, icon, enamel, seed):
     width, height, margin = 300, .06880733944954 * UNITS_PER_HEIGHT, 9
     drawing = Drawing(width, height)
     style = _board_and_style(drawing, Board(margin, margin - 2, width - 2 * margin, height - 2 * margin, 15), enamel, seed)
-    icon_width, gap = 54, 14
-    size = lettering.size_that_fits(word, 62, 1, width - 64 - icon_width - gap)
-    data, word_width = lettering.outline(word, size, 1)
-    left = (width - (icon_width + gap + word_width)) / 2
+    size, icon_middle, word_left = 56, 58, 102     # the same on all three: one column of signs, one of words
+    data, _ = lettering.outline(word, size, 1)
     middle = height / 2 - 2
-    lettering.engraved(drawing, icon, left + icon_width / 2, middle - 1, style, 1.8, rule='evenodd', scale=.84)
-    lettering.engraved(drawing, data, left + icon_width + gap, lettering.baseline(middle, size), style, 1.8)
+    lettering.engraved(drawing, icon, icon_middle, middle - 1, style, 1.8, rule='evenodd', scale=.84)
+    lettering.engraved(drawing, data, word_left, lettering.baseline(middle, size), style, 1.8)
     return drawing
 
 

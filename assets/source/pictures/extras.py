@@ -7,8 +7,9 @@ be soft is made of gradients and stacked outlines, as everywhere.
 import math
 import random
 
-from .palette import BRASS, BRASS_EDGE, BRASS_PLATE, CHIP, EXTRA_DARK, IVORY_PLATE, LIMIT, WARM_LIGHT
-from .shapes import plate, plate_shadow
+from .palette import (BRASS, BRASS_EDGE, BRASS_PLATE, CHIP, EXTRA_DARK, IVORY_PLATE, LIMIT, RIBBON, RIBBON_EDGE, SHADOW,
+                      SHINE, WARM_LIGHT)
+from .shapes import plate, plate_shadow, scalloped_disc
 from .svg import UNITS_PER_HEIGHT, Drawing, number, numbers
 
 FIELD = 1.01 * UNITS_PER_HEIGHT     # from the panel's edge to the board's
@@ -187,15 +188,15 @@ def line_glow():
     """A band of light behind a line; as long as the line, so its ends are soft over a fixed share."""
     width, height = .8 * UNITS_PER_HEIGHT, .11 * UNITS_PER_HEIGHT
     drawing = Drawing(width, height)
-    for step in range(9):
-        inset = 2 + step * 5.5
+    for step in range(16):
+        inset = 1 + step * 4.2
         w, h = width - 2 * inset, height - 2 * inset
         round_x, round_y = min(w * .04, 60), h * .3
         drawing.path('M%s %sH%sA%s %s 0 0 1 %s %sV%sA%s %s 0 0 1 %s %sH%sA%s %s 0 0 1 %s %sV%sA%s %s 0 0 1 %s %sZ' % numbers(
             inset + round_x, inset, inset + w - round_x, round_x, round_y, inset + w, inset + round_y,
             inset + h - round_y, round_x, round_y, inset + w - round_x, inset + h, inset + round_x,
             round_x, round_y, inset, inset + h - round_y, inset + round_y, round_x, round_y, inset + round_x, inset),
-            fill='#FFE08A' if step < 6 else '#FFF3CC', opacity=.075)
+            fill='#FFD27A' if step < 9 else '#FFE9A8', opacity=.022 + .0022 * step)
     return drawing
 
 
@@ -229,6 +230,60 @@ def dust(stone):
     return drawing
 
 
+# --- a rank is achieved
+
+MEDALS = 11
+_METALS = {
+    'bronze': [(0, '#F2C49A'), (.3, '#C98A55'), (.6, '#8F5526'), (1, '#C08048')],
+    'silver': [(0, '#FFFFFF'), (.3, '#CFD6DC'), (.6, '#88939C'), (1, '#D6DDE2')],
+    'gold': [(0, '#FFF6D2'), (.3, '#F3CE6E'), (.6, '#B5812A'), (1, '#EBC368')],
+}
+_GLASSES = {
+    'bronze': [(0, '#3F9BA8'), (.65, '#1F6B7B'), (1, '#0D3F4E')],
+    'silver': [(0, '#5C88DE'), (.65, '#2C56B8'), (1, '#132A6B')],
+    'gold': [(0, '#DE6A52'), (.65, '#A82A1C'), (1, '#5E100B')],
+}
+
+
+def _star(points, outer, inner):
+    data = ''
+    for i in range(points * 2):
+        angle, radius = math.pi * i / points, outer if i % 2 == 0 else inner
+        data += ('L' if data else 'M') + '%s %s' % numbers(radius * math.sin(angle), -radius * math.cos(angle))
+    return data + 'Z'
+
+
+def medal(rank):
+    """Each rank's own: its star has a ray more than the one before, its metal shows how far one has come."""
+    drawing = Drawing(620, 420)
+    c, cy = 310, 190
+    metal = 'bronze' if rank <= 4 else 'silver' if rank <= 8 else 'gold'
+    for side in (-1, 1):
+        ribbon = 'M%s %sC%s %s %s %s %s %sL%s %sL%s %sC%s %s %s %s %s %sZ' % numbers(
+            c + side * 90, cy - 20, c + side * 150, cy + 20, c + side * 200, cy + 60, c + side * 240, cy + 130,
+            c + side * 212, cy + 122, c + side * 186, cy + 160, c + side * 150, cy + 100, c + side * 110, cy + 80,
+            c + side * 80, cy + 70)
+        for width, opacity in ((14, .10), (7, .16)):
+            drawing.path(ribbon, fill=SHADOW, opacity=opacity, stroke=SHADOW, width=width, at=(2, 6))
+        drawing.path(ribbon, fill=drawing.linear(c, cy, c + side * 230, cy + 120, RIBBON), stroke=RIBBON_EDGE, width=3)
+    for radius, opacity in ((174, .07), (168, .10), (162, .16)):
+        drawing.circle(c + 1, cy + 8, radius, fill=SHADOW, opacity=opacity)
+    coin = scalloped_disc(c, cy, 148, 170, 24)
+    drawing.path(coin, fill=BRASS_EDGE, stroke=BRASS_EDGE, width=4)
+    drawing.path(coin, fill=drawing.linear(c - 120, cy - 120, c + 120, cy + 130, _METALS[metal]))
+    drawing.circle(c, cy, 128, fill=drawing.linear(c + 100, cy + 100, c - 100, cy - 100, _METALS[metal]))
+    drawing.circle(c, cy, 114, fill='#0A1216')
+    drawing.circle(c, cy, 110, fill=drawing.radial(c, cy, 112, _GLASSES[metal], (c + 10, cy + 20)))
+    star = _star(rank + 3, 78, 26 + 2.2 * rank)
+    drawing.path(star, fill='#000000', opacity=.45, at=(c + 3, cy + 5))
+    drawing.path(star, fill='#FFF8E6', at=(c, cy))
+    drawing.circle(c, cy, 13, fill=_GLASSES[metal][1][1])
+    drawing.path('M%s %sA100 100 0 0 1 %s %sC%s %s %s %s %s %sZ' % numbers(
+        c - 92, cy + 20, c + 60, cy - 80, c + 8, cy - 72, c - 62, cy - 42, c - 92, cy + 20),
+        fill=drawing.linear(c - 80, cy - 80, c, cy, [(0, SHINE, .45), (1, SHINE, .02)]))
+    return drawing
+
+
 def pictures():
     """Name -> a function that returns the Drawing."""
     known = {
@@ -236,7 +291,7 @@ def pictures():
         'LimitRing': limit_ring, 'LimitRow': limit_row, 'BrassPlate': brass_plate, 'LineGlow': line_glow,
         'Spark': spark,
     }
-    for turn, name in enumerate(('Up', 'Right', 'Down', 'Left')):
+    for turn, name in ((0, 'Up'), (2, 'Down'), (3, 'Left')):
         known['TipNose' + name] = lambda turn=turn: tip_nose(turn)
     for width in TIP_WIDTHS:
         for lines in TIP_HEIGHTS:
@@ -245,6 +300,8 @@ def pictures():
         known['WhisperPlate-%d' % width] = lambda width=width: whisper_plate(width)
     for width in HEADING_WIDTHS:
         known['HeadingPlate-%d' % width] = lambda width=width: heading_plate(width)
+    for rank in range(1, MEDALS + 1):
+        known['Medal-%d' % rank] = lambda rank=rank: medal(rank)
     for stone in ('Yellow', 'Red', 'Green', 'Blue'):
         known[stone + 'Dust'] = lambda stone=stone: dust(stone)
     return known

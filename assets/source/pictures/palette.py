@@ -39,12 +39,11 @@ IVORY = '#FFF8E6'
 
 # --- sea glass: the panes that carry messages. White text asks for 4.5 to 1 where it is small, the
 # indigo headings for 3 to 1; their halo gives them the rest.
-GLASS = [(0, '#1B5967'), (.12, '#236774'), (.5, '#2B6F7B'), (.86, '#236572'), (1, '#195562')]
+GLASS = [(0, '#307884'), (.3, '#2E7480'), (.6, '#2C707C'), (1, '#226472')]
 PLATE_GLASS = [(0, '#1B5967'), (.15, '#236774'), (.5, '#2B6F7B'), (1, '#195562')]
 GLASS_EDGE = '#0E3442'
+GLASS_LIGHT = '#9CEBEA'     # along the edge alone, where no words stand
 GLASS_POOL = [(0, '#BFF3EE', .10), (.5, '#9FE0DF', .05), (1, '#9FE0DF', 0)]
-GLASS_DEEP = '#0B3B52'
-GLASS_SHAFT = '#E6FFFB'
 GLASS_LINE = '#C9F3EE'      # the engraved line along a pane's edge
 GLASS_LINE_CUT = '#0E4152'
 GEM = [(0, '#0E4A5C'), (1, '#6CC7CC')]

@@ -2,8 +2,8 @@
 
 import random
 
-from .palette import (BRASS, BRASS_FRAME, BRASS_FRAME_INNER, FRAME_EDGE, FRAME_GRAIN, FRAME_WOOD, GEM, GLASS, GLASS_DEEP,
-                      GLASS_EDGE, GLASS_LINE, GLASS_LINE_CUT, GLASS_POOL, GLASS_SHAFT, PLATE_GLASS, VEIL)
+from .palette import (BRASS, BRASS_FRAME, BRASS_FRAME_INNER, FRAME_EDGE, FRAME_GRAIN, FRAME_WOOD, GEM, GLASS, GLASS_EDGE,
+                      GLASS_LIGHT, GLASS_LINE, GLASS_LINE_CUT, GLASS_POOL, PLATE_GLASS, VEIL)
 from .shapes import lozenge, plate, plate_shadow
 from .svg import Drawing, numbers
 
@@ -30,15 +30,12 @@ def message_background():
     drawing.path(ring(38, 3), fill=along_frame(BRASS_FRAME_INNER))
     drawing.path(ring(43, 4), fill=GLASS_EDGE)
     glass = ring(46, 4)
-    px, py, pw, ph = x + 46, y + 46, w - 92, h - 92
+    py, ph = y + 46, h - 92
     drawing.path(glass, fill=drawing.linear(0, py, 0, py + ph, GLASS))
-    drawing.path(glass, fill=drawing.radial(px + pw * .30, py + ph * .16, pw * .62, GLASS_POOL))
-    drawing.path(glass, fill=drawing.radial(px + pw * .86, py + ph * .98, pw * .5,
-                                            [(0, GLASS_DEEP, .38), (1, GLASS_DEEP, 0)]))
-    # Bands of refracted light: place and half axes in shares of the pane, strength.
-    for fx, fy, rx, ry, strength in ((.30, .40, .050, .36, .085), (.39, .46, .028, .40, .06), (.47, .40, .060, .36, .06),
-                                     (.62, .42, .030, .37, .05), (.70, .44, .050, .38, .05), (.84, .40, .030, .34, .04)):
-        _shaft(drawing, px + pw * fx, py + ph * fy, pw * rx, ph * ry, strength)
+    # Its light gathers along the edge; where words stand the glass is even.
+    for step in range(12):
+        drawing.path(ring(48 + step * 4.6, 4 + step * .7), stroke=GLASS_LIGHT, width=5.6,
+                     opacity=.30 * (1 - step / 12.) ** 1.6)
     drawing.path(plate(x + 67.6, y + 68, w - 132, h - 132, scoop - 10), stroke=GLASS_LINE_CUT, width=2.4, opacity=.55)
     drawing.path(ring(66, 10), stroke=GLASS_LINE, width=2.2, opacity=.50)
     for cx, cy in ((width / 2, y + 25.5), (width / 2, y + h - 25.5), (x + 25.5, y + h / 2), (x + w - 25.5, y + h / 2)):
@@ -56,14 +53,6 @@ def _frame_grain(drawing, x, y, w, h):
                 drawing.path('M%s %sL%s %s' % numbers(start, line + chance.random() * 2, end, line + chance.random() * 2),
                              stroke=FRAME_GRAIN, width=1.4, opacity=.45)
                 start = end + 30 + chance.random() * 120
-
-
-def _shaft(drawing, cx, cy, rx, ry, strength):
-    """A leaning band of light. The gradient is a circle's, stretched to the ellipse."""
-    fading = [(0, GLASS_SHAFT, strength), (.35, GLASS_SHAFT, strength * .72), (.7, GLASS_SHAFT, strength * .2),
-              (1, GLASS_SHAFT, 0)]
-    light = drawing.radial(0, 0, 1, fading, transform='scale(%s %s)' % numbers(rx, ry))
-    drawing.ellipse(0, 0, rx, ry, fill=light, at=(cx, cy), transform='rotate(9)')
 
 
 def _gems(drawing, cx, cy, across):

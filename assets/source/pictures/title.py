@@ -29,7 +29,7 @@ def title():
     _shafts(drawing)
     _swell(drawing, 0, _FAR_SWELL)
     _swell(drawing, 1, _MIDDLE_SWELL)
-    for x, length, lean in ((X + 58, 420, 1), (X + 92, 300, -1), (X + W - 60, 360, -1), (X + W - 98, 250, 1)):
+    for x, length, lean in ((X + 58, 420, 1), (X + 92, 300, -1), (X + W - 104, 360, -1), (X + W - 142, 250, 1)):
         _kelp(drawing, x, length, lean)
     _swell(drawing, 2, _NEAR_SWELL)     # in front, so that the kelp grows out of the sand
     _bubbles(drawing)

@@ -222,9 +222,7 @@ Light withFillet(const Light& color, double x, double y)
 
 Light field(double x, double y)
 {
-    constexpr double kSeam = 0.5375; // two long boards
-    const bool upper = y > kSeam;
-    const double tone = grain(x + (upper ? 3.7 : 0.0), y, upper ? 911 : 377, 1.0);
+    const double tone = grain(x + 3.7, y, 911, 1.0); // one long board
     Light color = ramp(tone * 0.95 - 0.03, kWalnut);
     color = withFillet(withGrooves(color, x, y), x, y);
     // The raised panel throws its shadow on the field.

@@ -3,6 +3,7 @@
 #include "desktop/qt/Logging.h"
 #include "input/MouseTrail.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScreen>
@@ -198,6 +199,15 @@ bool BoardWidget::event(QEvent* event)
         break;
     }
     return QWidget::event(event);
+}
+
+void BoardWidget::keyPressEvent(QKeyEvent* event)
+{
+    const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
+        || event->key() == Qt::Key_Space;
+    if (!confirms || event->isAutoRepeat() || !m_parts.closePage || !m_parts.closePage()) {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 ListPainter::Surface BoardWidget::surface() const

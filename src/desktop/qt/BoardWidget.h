@@ -27,6 +27,8 @@ public:
         std::function<void(platform::Size)> resized;
         // What the pointer looks like now; an arrow always when nobody says.
         std::function<input::Cursor()> cursor {};
+        // Return or Space: true if they have closed something.
+        std::function<bool()> closePage {};
     };
     explicit BoardWidget(Parts parts, QWidget* parent = nullptr);
     BoardWidget(const BoardWidget&) = delete;
@@ -55,6 +57,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void scheduleFrame();

@@ -19,6 +19,20 @@ QString shortcut(const char* keys)
     return QString::fromLatin1(keys);
 }
 
+// A bar of dark wood with a hair of brass below it, that belongs to the board.
+const char* const kLook = R"(
+QMenuBar { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #33200F, stop:1 #1F1209);
+    color: #F0E2C4; border-bottom: 1px solid #C79A48; }
+QMenuBar::item { background: transparent; padding: 4px 10px; }
+QMenuBar::item:selected { background: #2B6F7B; color: #FFF8E6; }
+QMenu { background: #241509; color: #F0E2C4; border: 1px solid #6B4420; }
+QMenu::item { padding: 4px 26px 4px 30px; }
+QMenu::item:selected { background: #2B6F7B; color: #FFF8E6; }
+QMenu::item:disabled { color: #8A7458; }
+QMenu::indicator { left: 9px; width: 13px; height: 13px; }
+QMenu::separator { height: 1px; background: #6B4420; margin: 4px 10px; }
+)";
+
 void call(const std::function<void()>& action)
 {
     if (action) {
@@ -31,6 +45,7 @@ void call(const std::function<void()>& action)
 GameMenu::GameMenu(platform::Preferences& preferences)
     : m_preferences(preferences)
 {
+    m_bar.setStyleSheet(QString::fromLatin1(kLook));
     buildGameMenu();
     buildEditMenu();
     buildOptionsMenu();
@@ -117,6 +132,7 @@ void GameMenu::buildHelpMenu()
     addItem(menu, tr("&How to Play"), shortcut("F1"), &Actions::howToPlay, &Actions::canOpenPage);
     addItem(menu, tr("&Moves"), shortcut("F2"), &Actions::moves, &Actions::canListMoves);
     addItem(menu, tr("&Taking Back"), {}, &Actions::takingBack, &Actions::canOpenPage);
+    addItem(menu, tr("&Scoring"), {}, &Actions::scoring, &Actions::canOpenPage);
     menu.addSeparator();
     addItem(menu, tr("&About Veyrand"), {}, &Actions::about);
 }

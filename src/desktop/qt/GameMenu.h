@@ -28,6 +28,7 @@ public:
         std::function<void()> howToPlay;
         std::function<void()> takingBack;
         std::function<void()> moves;
+        std::function<void()> scoring;
         std::function<void()> about;
         // Whether the items may be chosen now.
         std::function<bool()> canStartGame;
