@@ -75,7 +75,13 @@ function(veyrand_test name)
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
 
-# veyrand_game_test(NAME): the same, for tests that play whole games.
+# veyrand_headless_test(NAME): the same, for tests that play whole games without a toolkit.
+function(veyrand_headless_test name)
+  veyrand_test(${name} LINK veyrand_headless veyrand_places)
+  add_dependencies(${name} veyrand_data)
+endfunction()
+
+# veyrand_game_test(NAME): the same, for tests that play whole games in a window.
 function(veyrand_game_test name)
   veyrand_test(${name} LINK veyrand_app veyrand_places)
   add_dependencies(${name} veyrand_data)

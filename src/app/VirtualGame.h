@@ -1,32 +1,21 @@
 #pragma once
 
 #include "app/VirtualInstallation.h"
-#include "controller/Game.h"
 #include "desktop/qt/BoardWidget.h"
 #include "desktop/qt/DataFolder.h"
 #include "desktop/qt/GameMenu.h"
-#include "platform/fakes/FixedScreen.h"
-#include "platform/fakes/MemoryWindow.h"
-#include "platform/fakes/NotedLog.h"
-#include "platform/fakes/NotedOverlay.h"
-#include "platform/fakes/NotedQuit.h"
-#include "platform/fakes/RecordedSounds.h"
-#include "platform/fakes/SeededRandom.h"
-#include "platform/fakes/VirtualRunLoop.h"
+#include "headless/HeadlessGame.h"
 
 #include <QEvent>
 #include <QString>
 
-#include <map>
 #include <memory>
-#include <set>
-#include <vector>
 
 namespace veyrand::app {
 
-// A whole game with its real window content, off the screen and in virtual time: real mouse and key
-// events go in, and only wait() moves the clock. Demonstrations, scenarios and tests play on it.
-// Nothing is shared between two of them.
+// A headless game and its real window content, off the screen: real mouse and key events go in, and
+// pictures come out. Demonstrations, scenarios and the tests of what is seen play on it. Nothing is
+// shared between two of them.
 class VirtualGame {
 public:
     struct Options {
@@ -45,8 +34,8 @@ public:
     void launch();
     // Loads the record as a start would, then puts the puzzle on the board as if the catalogue had
     // given it, with no greeting and no music.
-    void play(const progress::CurrentGame::Puzzle& puzzle);
-    void wait(double seconds) { m_runLoop.advance(seconds); }
+    void play(const progress::CurrentGame::Puzzle& puzzle) { m_headless.play(puzzle); }
+    void wait(double seconds) { m_headless.wait(seconds); }
 
     // The left button and the pointer; places are in game heights, origin at the board's lower
     // left. While the button is held the pointer moves in small steps. None of this takes virtual
@@ -59,24 +48,28 @@ public:
     void resize(QSize size);
 
     // The centre of the element under the key; nothing when there is none.
-    [[nodiscard]] std::optional<platform::Point> centreOf(const std::string& key);
+    [[nodiscard]] std::optional<platform::Point> centreOf(const std::string& key)
+    {
+        return m_headless.centreOf(key);
+    }
     // What the widget shows now, painted in full.
     [[nodiscard]] QImage picture();
 
-    [[nodiscard]] controller::Game& game() { return *m_game; }
-    [[nodiscard]] controller::GameController& controller() { return m_game->controller(); }
-    [[nodiscard]] progress::CurrentGame& currentGame() { return m_currentGame; }
-    [[nodiscard]] board::GameData& gameData() { return m_gameData; }
+    [[nodiscard]] headless::HeadlessGame& headless() { return m_headless; }
+    [[nodiscard]] controller::Game& game() { return m_headless.game(); }
+    [[nodiscard]] controller::GameController& controller() { return m_headless.controller(); }
+    [[nodiscard]] progress::CurrentGame& currentGame() { return m_headless.currentGame(); }
+    [[nodiscard]] board::GameData& gameData() { return m_headless.gameData(); }
     [[nodiscard]] desktop::qt::BoardWidget& widget() { return *m_widget; }
     [[nodiscard]] desktop::qt::GameMenu& menu() { return m_menu; }
-    [[nodiscard]] platform::VirtualRunLoop& runLoop() { return m_runLoop; }
+    [[nodiscard]] platform::VirtualRunLoop& runLoop() { return m_headless.runLoop(); }
     [[nodiscard]] platform::Preferences& preferences() { return m_preferences; }
-    [[nodiscard]] platform::RecordedSounds& sounds() { return m_sounds; }
-    [[nodiscard]] const platform::NotedQuit& quit() const { return m_quit; }
-    [[nodiscard]] const platform::NotedLog& log() const { return m_log; }
+    [[nodiscard]] platform::RecordedSounds& sounds() { return m_headless.sounds(); }
+    [[nodiscard]] const platform::NotedQuit& quit() const { return m_headless.quit(); }
+    [[nodiscard]] const platform::NotedLog& log() const { return m_headless.log(); }
     [[nodiscard]] VirtualInstallation& installation() { return m_installation; }
-    [[nodiscard]] const platform::NotedOverlay& overlay() const { return m_overlay; }
-    [[nodiscard]] platform::MemoryWindow& window() { return m_window; }
+    [[nodiscard]] const platform::NotedOverlay& overlay() const { return m_headless.overlay(); }
+    [[nodiscard]] platform::MemoryWindow& window() { return m_headless.window(); }
     // How often the box about the program would have been shown.
     [[nodiscard]] int timesAbout() const { return m_timesAbout; }
 
@@ -84,25 +77,14 @@ private:
     [[nodiscard]] QPointF toWidget(platform::Point place);
     void sendMouse(QEvent::Type type, platform::Point place, Qt::MouseButton button);
 
-    platform::VirtualRunLoop m_runLoop;
     platform::MemoryPreferences m_memory;
     platform::Preferences& m_preferences;
-    platform::SeededRandom m_random;
     desktop::qt::FileResources m_resources;
-    platform::FixedScreen m_screen;
-    platform::RecordedSounds m_sounds;
-    platform::NotedQuit m_quit;
-    platform::NotedLog m_log;
-    platform::NotedOverlay m_overlay;
-    platform::MemoryWindow m_window;
-    VirtualInstallation m_installation;
-    platform::TrackedPointer m_pointer;
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images;
     desktop::qt::GameMenu m_menu;
-    progress::CurrentGame m_currentGame;
-    board::GameData m_gameData;
-    std::unique_ptr<controller::Game> m_game;
+    VirtualInstallation m_installation;
+    headless::HeadlessGame m_headless;
     std::unique_ptr<desktop::qt::BoardWidget> m_widget;
     platform::Point m_place;
     Qt::MouseButtons m_held;

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "app/VirtualGame.h"
 #include "board/LineDrawing.h"
 #include "input/GameView.h"
+#include "platform/SoundEffects.h"
+#include "platform/TrackedPointer.h"
+#include "platform/fakes/RecordedSounds.h"
 #include "platform/fakes/VirtualRunLoop.h"
 #include "support/BoardFakes.h"
 
