@@ -38,7 +38,7 @@ bool holdsAt(std::string_view line, std::size_t column, std::string_view chips)
 }
 
 // The last match that starts at the column; the first match of all when none does.
-Move moveAt(const engine::Theorem& line, unsigned rule, unsigned column)
+Answer moveAt(const engine::Theorem& line, unsigned rule, unsigned column)
 {
     const auto matches = matchesOf(line, rule);
     Move move { rule, 0 };
