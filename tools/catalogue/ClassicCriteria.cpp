@@ -1,5 +1,6 @@
 #include "catalogue/Criteria.h"
 #include "catalogue/Curve.h"
+#include "catalogue/Figures.h"
 #include "progress/Catalogue.h"
 
 #include <algorithm>
@@ -12,19 +13,6 @@ namespace {
 
 constexpr int kFirstLevelOfCurve = 2;
 constexpr std::size_t kMostOfOneSet = 5; // puzzles of a level that need the same late moves
-
-// The ten puzzles of one level.
-using Level = std::array<const Evidence*, progress::kLastStage>;
-
-Level levelOf(const std::vector<Evidence>& evidence, int level)
-{
-    Level puzzles {};
-    for (int stage = 1; stage <= progress::kLastStage; ++stage) {
-        puzzles.at(static_cast<std::size_t>(stage - 1))
-            = &evidence.at(static_cast<std::size_t>(progress::catalogueIndex({ level, stage })));
-    }
-    return puzzles;
-}
 
 std::string levelName(int level)
 {

@@ -1,6 +1,7 @@
 #include "catalogue/Evidence.h"
 
 #include "catalogue/HintPlayer.h"
+#include "catalogue/HumanSolver.h"
 #include "catalogue/Steps.h"
 #include "platform/fakes/SeededRandom.h"
 #include "progress/RuleSets.h"
@@ -29,9 +30,12 @@ public:
         const auto ways = ShortestWays::find(m_reach, packed(puzzle.goal));
         if (!ways) {
             fault("has no solution of " + std::to_string(kMostMoves) + " moves or fewer");
-            return { puzzle, {}, {} };
+            return { puzzle };
         }
-        Evidence evidence { puzzle, measure(*ways, openMoves(highestRule)), {} };
+        Evidence evidence { puzzle, measure(*ways, openMoves(highestRule)) };
+        if (m_game == Game::Classic) {
+            describe(*ways, openMoves(highestRule), evidence);
+        }
         const auto& solution = ways->firstSolution();
         for (std::size_t i = 1; i < solution.size(); ++i) {
             const auto move = moveBetween(ways->lines()[solution[i - 1]].line,
@@ -50,6 +54,17 @@ public:
     }
 
 private:
+    void describe(const ShortestWays& ways, MoveSet open, Evidence& evidence)
+    {
+        const engine::PackedLine root = ways.lines().front().line;
+        const engine::PackedLine goal = ways.lines().back().line;
+        evidence.ideas = ideasOf(ways);
+        evidence.way = wayOf(ways, open);
+        m_board.explore(root, open);
+        evidence.kindness = m_board.kindnessTo(goal);
+        evidence.steps = HumanSolver(root, goal, open).medianSteps();
+    }
+
     void judge(std::size_t entry, const Puzzle& puzzle, const ShortestWays& ways, int highestRule)
     {
         expect(ways.highestRule() <= highestRule, "has a shortest solution with a move not open");
@@ -89,6 +104,7 @@ private:
     std::string m_name;
     Reach m_reach;
     HintSearch m_hints;
+    Board m_board;
 };
 
 std::vector<Evidence> lookAtAll(

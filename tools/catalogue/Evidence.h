@@ -1,5 +1,8 @@
 #pragma once
 
+#include "catalogue/Ideas.h"
+#include "catalogue/Kindness.h"
+#include "catalogue/Likeness.h"
 #include "catalogue/Metrics.h"
 
 #include <string>
@@ -13,8 +16,15 @@ using Faults = std::vector<std::string>;
 // What is known of one puzzle of a catalogue.
 struct Evidence {
     Puzzle puzzle;
-    Metrics metrics;
-    std::vector<Move> solution; // the one the game's search finds; none when there is no solution
+    Metrics metrics {};
+    std::vector<Move>
+        solution {}; // the one the game's search finds; none when there is no solution
+
+    // Of a Classic puzzle only, which stands in a place of its own among the others.
+    IdeaSet ideas = 0;
+    Way way {};
+    unsigned steps = 0; // of the human-like solver
+    Kindness kindness {};
 };
 
 // "2-1", or the number of an Endless puzzle from 0; both with their lines.

@@ -39,6 +39,12 @@ inline constexpr unsigned kMostMoves = 11;
 // The place of an entry of the Classic catalogue, from 1: entry 0 has none.
 [[nodiscard]] Place placeOfEntry(std::size_t entry);
 
+// The digit of a move as the player sees it: the first two indices are crossed.
+[[nodiscard]] inline constexpr char labelOf(unsigned rule)
+{
+    return rule == 0 ? '2' : rule == 1 ? '1' : static_cast<char>('1' + rule);
+}
+
 // How many moves are open where an entry of a catalogue is played, and which.
 enum class Game { Classic, Endless };
 [[nodiscard]] int highestRuleOf(Game game, std::size_t entry);

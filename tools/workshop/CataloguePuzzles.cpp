@@ -6,8 +6,11 @@
 #include "catalogue/Check.h"
 #include "catalogue/ClassicMaker.h"
 #include "catalogue/EndlessMaker.h"
+#include "catalogue/Figures.h"
+#include "catalogue/Finder.h"
 #include "catalogue/Plot.h"
 #include "catalogue/SolutionText.h"
+#include "progress/Catalogue.h"
 
 #include <array>
 #include <fstream>
@@ -63,6 +66,7 @@ struct Arguments {
     std::string out;
     std::string place;
     bool isEndless = false;
+    catalogue::Wanted wanted;
 };
 
 void declareSources(CLI::App& arguments, Arguments& values)
@@ -99,19 +103,61 @@ Json makeEndless(const Arguments& arguments)
         arguments.out);
 }
 
-Json checkFile(const Arguments& arguments)
+template <class Numbers> Json byLevel(const Numbers& numbers)
 {
-    const catalogue::Game game
-        = arguments.isEndless ? catalogue::Game::Endless : catalogue::Game::Classic;
-    const catalogue::Verdict verdict = catalogue::check(game, read(arguments.file), bar("puzzles"));
+    std::string text;
+    for (const auto number : numbers) {
+        text += (text.empty() ? "" : " ") + catalogue::textOfBits(static_cast<double>(number));
+    }
+    return text;
+}
+
+Json summaryOf(const std::vector<catalogue::Evidence>& evidence)
+{
+    const catalogue::Figures figures = catalogue::figuresOf(evidence);
+    Json answer = Json::object();
+    answer["promises kept, level 2 to 11"] = byLevel(figures.kept);
+    answer["median steps, level 2 to 11"] = byLevel(figures.medianSteps);
+    answer["median bits, level 2 to 11"] = byLevel(figures.medianBits);
+    answer["rank correlation with stage"] = byLevel(figures.ranks);
+    answer["levels guessed, of 60"] = figures.guessed;
+    answer["neighbours 8 times apart"] = figures.jumps;
+    answer["with a solution near par, of 100"] = figures.nearPar;
+    answer["wrong steps that are dead, 6-11"] = catalogue::textOfBits(figures.dead);
+    answer["most alike"] = catalogue::textOfBits(figures.alike);
+    return answer;
+}
+
+Json checkOne(catalogue::Game game, const std::string& file)
+{
+    const catalogue::Verdict verdict = catalogue::check(game, read(file), bar("puzzles"));
+    Json answer = Json::object();
+    if (game == catalogue::Game::Classic && verdict.evidence.size() == progress::kClassicEntries) {
+        answer = summaryOf(verdict.evidence);
+    }
     if (!verdict.faults.empty()) {
-        std::string all = arguments.file + ": " + std::to_string(verdict.faults.size()) + " faults";
+        std::string all = file + ": " + std::to_string(verdict.faults.size()) + " faults";
         for (const std::string& fault : verdict.faults) {
             all += "\n  " + fault;
         }
-        throw std::runtime_error(all);
+        throw std::runtime_error(all + (answer.empty() ? "" : '\n' + answer.dump(2)));
     }
-    return std::to_string(verdict.evidence.size()) + " puzzles, every one as it should be";
+    answer["checked"]
+        = std::to_string(verdict.evidence.size()) + " puzzles, every one as it should be";
+    return answer;
+}
+
+// One file, or both catalogues of the game.
+Json checkFiles(const Arguments& arguments)
+{
+    if (!arguments.file.empty()) {
+        return checkOne(arguments.isEndless ? catalogue::Game::Endless : catalogue::Game::Classic,
+            arguments.file);
+    }
+    Json answer = checkOne(catalogue::Game::Classic, arguments.classic);
+    answer["checked"] = answer["checked"].get<std::string>() + "; "
+        + checkOne(catalogue::Game::Endless, arguments.endless)["checked"].get<std::string>();
+    return answer;
 }
 
 Json show(const Arguments& arguments)
@@ -122,12 +168,33 @@ Json show(const Arguments& arguments)
             continue;
         }
         Json answer = Json::object();
-        for (const auto& [name, value] : catalogue::description(entry, puzzles[entry])) {
+        for (const auto& [name, value] : catalogue::description(entry, puzzles)) {
             answer[name] = value;
         }
         return answer;
     }
     throw UsageError(arguments.place + ": no place of the Classic game, such as 7-3");
+}
+
+// One line for each candidate: what a choice is made by.
+Json find(const Arguments& arguments)
+{
+    Json answer = Json::array();
+    for (const catalogue::Portrait& found : catalogue::find(arguments.wanted, bar("roots"))) {
+        const catalogue::Kindness& kindness = found.kindness;
+        std::string lines;
+        for (const std::string& line : found.way.lines) {
+            lines += (lines.empty() ? "" : ",") + line;
+        }
+        answer.push_back(found.puzzle.root + ' ' + found.puzzle.goal + ' '
+            + std::to_string(found.puzzle.moves) + ' ' + std::to_string(found.metrics.solutions)
+            + ' ' + catalogue::textOfBits(found.metrics.bits) + ' ' + std::to_string(found.steps)
+            + ' ' + std::to_string(kindness.oneMore) + ' ' + std::to_string(kindness.twoMore) + ' '
+            + std::to_string(kindness.wrongSteps) + ' ' + std::to_string(kindness.deadSteps) + ' '
+            + std::to_string(found.metrics.needed) + ' ' + std::to_string(found.ideas) + ' '
+            + found.way.moves + ' ' + lines);
+    }
+    return answer;
 }
 
 std::vector<catalogue::Evidence> measure(catalogue::Game game, const std::string& file)
@@ -168,13 +235,27 @@ public:
             ->capture_default_str();
         addOut(*endless);
 
-        CLI::App* checking = add(arguments, "check", "Proves every puzzle of a file", checkFile);
-        checking->add_option("FILE", m_values.file, "Three lines a puzzle, in UTF-8")->required();
+        CLI::App* checking = add(arguments, "check", "Proves every puzzle of a file", checkFiles);
+        checking->add_option("FILE", m_values.file, "Three lines a puzzle; without it, both games");
         checking->add_flag("--endless", m_values.isEndless, "Endless puzzles, not Classic ones");
 
         CLI::App* showing = add(arguments, "show", "One Classic puzzle, all about it", show);
         showing->add_option("PLACE", m_values.place, "Level and stage, such as 7-3")->required();
         showing->add_option("--classic", m_values.classic, "The puzzles")->capture_default_str();
+
+        CLI::App* finding = add(arguments, "find", "What keeps a level's promise there", find);
+        finding->add_option("LEVEL", m_values.wanted.level, "From 2 to 11")
+            ->required()
+            ->check(CLI::Range(2, progress::kLastLevel));
+        finding->add_option("--fewest", m_values.wanted.fewest, "Moves")->capture_default_str();
+        finding->add_option("--most", m_values.wanted.most, "Moves")
+            ->check(CLI::Range(1U, catalogue::kMostMoves))
+            ->capture_default_str();
+        finding->add_option("--one-in", m_values.wanted.oneIn, "How many to pass by for each one")
+            ->check(CLI::PositiveNumber)
+            ->capture_default_str();
+        finding->add_option("--seed", m_values.wanted.seed, "Which to pass by")
+            ->capture_default_str();
 
         CLI::App* certifying = add(arguments, "certify", "Writes the certificate", certify);
         declareSources(*certifying, m_values);
