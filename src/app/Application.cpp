@@ -3,7 +3,6 @@
 #include "app/AboutBox.h"
 #include "app/InstallOffer.h"
 #include "app/MainWindow.h"
-#include "app/MenuActions.h"
 #include "app/Notices.h"
 #include "app/SystemInstallation.h"
 #include "app/UncaughtGuard.h"
@@ -70,7 +69,11 @@ public:
         m_overlay.setMainWindow(m_window);
         m_windowModes.setMainWindow(m_window);
         m_window.setClosingListener([this] { savePlaceOfWindow(); });
-        m_menu.connectActions(menuActions(m_game.controller(), [this] { showAboutBox(m_window); }));
+        m_menu.connectTo(m_game.controller(), [this](controller::MenuItemId id) {
+            if (id == controller::MenuItemId::About) {
+                showAboutBox(m_window);
+            }
+        });
     }
 
     // What keeps the game from being played; empty when nothing does.

@@ -1,7 +1,6 @@
 #include "app/VirtualGame.h"
 
 #include "app/InstallOffer.h"
-#include "app/MenuActions.h"
 #include "headless/SmallSteps.h"
 
 #include <QAction>
@@ -35,7 +34,9 @@ VirtualGame::VirtualGame(const Options& options)
               },
           .journal = options.journal })
 {
-    m_menu.connectActions(menuActions(controller(), [this] { ++m_timesAbout; }));
+    m_menu.connectTo(controller(), [this](controller::MenuItemId id) {
+        m_timesAbout += id == controller::MenuItemId::About ? 1 : 0;
+    });
     m_widget = std::make_unique<desktop::qt::BoardWidget>(
         desktop::qt::BoardWidget::Parts { .layers = game().layers(),
             .view = game().view(),

@@ -1,96 +1,44 @@
 #include "headless/HeadlessMenu.h"
 
-#include "controller/GameController.h"
-#include "progress/PlayerKeys.h"
+#include <algorithm>
 
 namespace veyrand::headless {
 
 namespace {
 
-using Kind = controller::History::Kind;
+using controller::MenuItem;
 
-std::string_view undoText(std::optional<Kind> kind)
+bool isShown(const MenuItem& item)
 {
-    return !kind ? "Undo" : *kind == Kind::Move ? "Undo Move" : "Undo Removal";
+    return item.kind == MenuItem::Kind::Command || item.kind == MenuItem::Kind::Switch;
 }
 
-std::string_view redoText(std::optional<Kind> kind)
+const MenuItem* itemUnder(std::string_view keys)
 {
-    return !kind ? "Redo" : *kind == Kind::Move ? "Redo Move" : "Redo Removal";
+    for (const MenuItem& item : controller::menuItems()) {
+        const bool isIts = std::find(item.keys.begin(), item.keys.end(), keys) != item.keys.end();
+        if (!keys.empty() && isIts) {
+            return &item;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace
 
 void HeadlessMenu::connectTo(controller::GameController& controller)
 {
-    const auto canStart = [&controller] { return controller.canStartGame(); };
-    const auto canOpen = [&controller] { return controller.canOpenPage(); };
-    const auto canList = [&controller] { return controller.canListMoves(); };
-    const auto canUndo = [&controller] { return controller.history().canUndo(); };
-    const auto canRedo = [&controller] { return controller.history().canRedo(); };
-    m_items = {
-        { "Classic Game", "Ctrl+N", [&controller] { controller.flow().newClassicGame(); },
-            canStart },
-        { "Endless Game", "Ctrl+E", [&controller] { controller.flow().newEndlessGame(); },
-            canStart },
-        { "Quit", "Ctrl+Q", [&controller] { controller.context().quit.terminate(); } },
-        { "Undo", "Ctrl+Z", [&controller] { controller.history().undo(); }, canUndo,
-            [&controller] { return undoText(controller.history().undoes()); } },
-        { "Redo", "Ctrl+Shift+Z", [&controller] { controller.history().redo(); }, canRedo,
-            [&controller] { return redoText(controller.history().redoes()); } },
-        { "", "Ctrl+Y", [&controller] { controller.history().redo(); }, canRedo },
-        { "Music", "Ctrl+M",
-            [this, &controller] {
-                toggle(progress::kPlayMusicKey);
-                controller.musicMenuClick();
-            } },
-        { "Sound Effects", "Ctrl+Shift+M", [this] { toggle(progress::kPlayEffectsKey); } },
-        setting("Answers", &progress::Settings::answers, controller),
-        setting("Say Why", &progress::Settings::sayWhy, controller),
-        setting("Remember a Press", &progress::Settings::rememberPress, controller),
-        setting("Forgiving Clicks", &progress::Settings::forgivingClicks, controller),
-        setting("Keep Unfinished Puzzles", &progress::Settings::keepUnfinishedPuzzles, controller),
-        { "Full Screen", "F11", [&controller] { controller.toggleFullscreen(); } },
-        { "", "Esc", [&controller] { controller.escape(); } },
-        { "How to Play", "F1", [&controller] { controller.showHowToPlay(); }, canOpen },
-        { "Moves", "F2", [&controller] { controller.pages().show("movesMessageWindow"); },
-            canList },
-        { "Taking Back", "", [&controller] { controller.pages().show("takingBackMessageWindow"); },
-            canOpen },
-        { "Scoring", "", [&controller] { controller.pages().show("scoringMessageWindow"); },
-            canOpen },
-        { "About Veyrand", "", [this] { ++m_timesAbout; } },
-    };
+    m_choices.connectTo(controller, [this](controller::MenuItemId id) {
+        m_timesAbout += id == controller::MenuItemId::About ? 1 : 0;
+    });
 }
 
-HeadlessMenu::Item HeadlessMenu::setting(
-    std::string_view text, bool progress::Settings::*which, controller::GameController& controller)
+std::vector<std::string> HeadlessMenu::items() const
 {
-    return { text, "", [this, which, &controller] {
-                progress::Settings settings = progress::readSettings(m_preferences);
-                settings.*which = !(settings.*which);
-                progress::writeSettings(m_preferences, settings);
-                controller.answers().settingsChanged();
-                controller.kept().settingsChanged();
-            } };
-}
-
-bool HeadlessMenu::musicOn() const
-{
-    return m_preferences.boolForKey(progress::kPlayMusicKey);
-}
-
-bool HeadlessMenu::effectsOn() const
-{
-    return m_preferences.boolForKey(progress::kPlayEffectsKey);
-}
-
-std::vector<std::string_view> HeadlessMenu::items() const
-{
-    std::vector<std::string_view> texts;
-    for (const Item& item : m_items) {
-        if (!item.text.empty()) {
-            texts.push_back(textOf(item));
+    std::vector<std::string> texts;
+    for (const MenuItem& item : controller::menuItems()) {
+        if (isShown(item)) {
+            texts.push_back(controller::plainMenuText(m_choices.textOf(item)));
         }
     }
     return texts;
@@ -98,9 +46,9 @@ std::vector<std::string_view> HeadlessMenu::items() const
 
 bool HeadlessMenu::trigger(std::string_view text)
 {
-    for (const Item& item : m_items) {
-        if (!text.empty() && textOf(item) == text) {
-            return choose(item);
+    for (const MenuItem& item : controller::menuItems()) {
+        if (isShown(item) && controller::plainMenuText(m_choices.textOf(item)) == text) {
+            return m_choices.choose(item);
         }
     }
     return false;
@@ -108,42 +56,13 @@ bool HeadlessMenu::trigger(std::string_view text)
 
 bool HeadlessMenu::triggerKeys(std::string_view keys)
 {
-    const Item* const item = itemUnder(keys);
-    return item != nullptr && choose(*item);
+    const MenuItem* const item = itemUnder(keys);
+    return item != nullptr && m_choices.choose(*item);
 }
 
 bool HeadlessMenu::knowsKeys(std::string_view keys) const
 {
     return itemUnder(keys) != nullptr;
-}
-
-const HeadlessMenu::Item* HeadlessMenu::itemUnder(std::string_view keys) const
-{
-    for (const Item& item : m_items) {
-        if (!keys.empty() && item.keys == keys) {
-            return &item;
-        }
-    }
-    return nullptr;
-}
-
-std::string_view HeadlessMenu::textOf(const Item& item)
-{
-    return item.textNow ? item.textNow() : item.text;
-}
-
-bool HeadlessMenu::choose(const Item& item)
-{
-    if (item.isEnabled && !item.isEnabled()) {
-        return false;
-    }
-    item.choose();
-    return true;
-}
-
-void HeadlessMenu::toggle(std::string_view key)
-{
-    m_preferences.setValue(key, !m_preferences.boolForKey(key));
 }
 
 } // namespace veyrand::headless

@@ -1,0 +1,60 @@
+#include "controller/MenuChoices.h"
+
+#include "progress/PlayerKeys.h"
+
+#include <utility>
+
+namespace veyrand::controller {
+
+using progress::Settings;
+
+void MenuChoices::connectTo(GameController& game, std::function<void(MenuItemId)> others)
+{
+    m_game = &game;
+    m_others = std::move(others);
+}
+
+bool MenuChoices::musicOn() const
+{
+    return m_preferences.boolForKey(progress::kPlayMusicKey);
+}
+
+bool MenuChoices::effectsOn() const
+{
+    return m_preferences.boolForKey(progress::kPlayEffectsKey);
+}
+
+bool MenuChoices::mayChoose(const MenuItem& item) const
+{
+    return m_game == nullptr || item.mayChoose == nullptr || item.mayChoose(*m_game);
+}
+
+bool MenuChoices::isOn(const MenuItem& item) const
+{
+    return item.setting != nullptr && progress::readSettings(m_preferences).*item.setting;
+}
+
+const char* MenuChoices::textOf(const MenuItem& item) const
+{
+    return m_game == nullptr || item.textNow == nullptr ? item.text : item.textNow(*m_game);
+}
+
+bool MenuChoices::choose(const MenuItem& item)
+{
+    if (!mayChoose(item)) {
+        return false;
+    }
+    if (item.setting != nullptr) {
+        Settings settings = progress::readSettings(m_preferences);
+        settings.*item.setting = !(settings.*item.setting);
+        progress::writeSettings(m_preferences, settings);
+    }
+    if (m_game != nullptr && item.choose != nullptr) {
+        item.choose(*m_game);
+    } else if (m_others && item.setting == nullptr) {
+        m_others(item.id);
+    }
+    return true;
+}
+
+} // namespace veyrand::controller

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controller/MenuTable.h"
+#include "platform/Menu.h"
+
+#include <functional>
+
+namespace veyrand::controller {
+
+// The menu of one game behind whatever shows it: what may be chosen now, what is on, and what a
+// choice does. The switches are the player's saved choices. Until a game is there, choosing a
+// command does nothing, and a switch only saves the choice.
+class MenuChoices final : public platform::Menu {
+public:
+    explicit MenuChoices(platform::Preferences& preferences)
+        : m_preferences(preferences)
+    {
+    }
+
+    // What the table leaves to whoever shows the menu, such as windows of its own, goes to the
+    // function.
+    void connectTo(GameController& game, std::function<void(MenuItemId)> others);
+
+    [[nodiscard]] bool musicOn() const override;
+    [[nodiscard]] bool effectsOn() const override;
+
+    [[nodiscard]] bool mayChoose(const MenuItem& item) const;
+    // Whether a switch with a setting is on.
+    [[nodiscard]] bool isOn(const MenuItem& item) const;
+    // The text for now, with its ampersand.
+    [[nodiscard]] const char* textOf(const MenuItem& item) const;
+    // Turns a switch round, then does what the item does. False when it may not be chosen now.
+    bool choose(const MenuItem& item);
+
+private:
+    platform::Preferences& m_preferences;
+    GameController* m_game = nullptr;
+    std::function<void(MenuItemId)> m_others;
+};
+
+} // namespace veyrand::controller

@@ -1,0 +1,196 @@
+#include "controller/MenuTable.h"
+
+#include "controller/GameController.h"
+
+#include <algorithm>
+
+namespace veyrand::controller {
+
+namespace {
+
+using progress::Settings;
+using Kind = MenuItem::Kind;
+using Step = std::optional<History::Kind>;
+
+constexpr std::array kTitles {
+    MenuTitle { MenuId::Game, "&Game" },
+    MenuTitle { MenuId::Edit, "&Edit" },
+    MenuTitle { MenuId::Options, "&Options" },
+    MenuTitle { MenuId::Help, "&Help" },
+};
+
+bool canStart(GameController& game)
+{
+    return game.canStartGame();
+}
+
+bool canOpenPage(GameController& game)
+{
+    return game.canOpenPage();
+}
+
+void redo(GameController& game)
+{
+    game.history().redo();
+}
+
+// What Undo and Redo would do now.
+
+const char* undoText(GameController& game)
+{
+    const Step step = game.history().undoes();
+    return !step ? "&Undo" : *step == History::Kind::Move ? "&Undo Move" : "&Undo Removal";
+}
+
+const char* redoText(GameController& game)
+{
+    const Step step = game.history().redoes();
+    return !step ? "&Redo" : *step == History::Kind::Move ? "&Redo Move" : "&Redo Removal";
+}
+
+void applySettings(GameController& game)
+{
+    game.answers().settingsChanged();
+    game.kept().settingsChanged();
+}
+
+constexpr MenuItem separator(MenuId menu)
+{
+    return { .id = MenuItemId::Separator, .menu = menu, .kind = Kind::Separator };
+}
+
+constexpr MenuItem setting(MenuItemId id, const char* text, bool Settings::*which)
+{
+    return { .id = id,
+        .menu = MenuId::Options,
+        .kind = Kind::Switch,
+        .text = text,
+        .setting = which,
+        .choose = applySettings };
+}
+
+template <class Choose, class MayChoose>
+constexpr MenuItem page(
+    MenuItemId id, const char* text, std::string_view keys, Choose choose, MayChoose mayChoose)
+{
+    return { .id = id,
+        .menu = MenuId::Help,
+        .text = text,
+        .keys = { keys },
+        .choose = choose,
+        .mayChoose = mayChoose };
+}
+
+constexpr std::array kItems {
+    MenuItem { .id = MenuItemId::ClassicGame,
+        .menu = MenuId::Game,
+        .text = "&Classic Game",
+        .keys = { "Ctrl+N" },
+        .choose = [](GameController& game) { game.flow().newClassicGame(); },
+        .mayChoose = canStart },
+    MenuItem { .id = MenuItemId::EndlessGame,
+        .menu = MenuId::Game,
+        .text = "&Endless Game",
+        .keys = { "Ctrl+E" },
+        .choose = [](GameController& game) { game.flow().newEndlessGame(); },
+        .mayChoose = canStart },
+    separator(MenuId::Game),
+    MenuItem { .id = MenuItemId::Quit,
+        .menu = MenuId::Game,
+        .text = "&Quit",
+        .keys = { "Ctrl+Q" },
+        .choose = [](GameController& game) { game.context().quit.terminate(); } },
+
+    MenuItem { .id = MenuItemId::Undo,
+        .menu = MenuId::Edit,
+        .text = "&Undo",
+        .keys = { "Ctrl+Z" },
+        .choose = [](GameController& game) { game.history().undo(); },
+        .mayChoose = [](GameController& game) { return game.history().canUndo(); },
+        .textNow = undoText },
+    MenuItem { .id = MenuItemId::Redo,
+        .menu = MenuId::Edit,
+        .text = "&Redo",
+        .keys = { "Ctrl+Shift+Z", "Ctrl+Y" }, // the second is what other desktops press for it
+        .choose = redo,
+        .mayChoose = [](GameController& game) { return game.history().canRedo(); },
+        .textNow = redoText },
+
+    MenuItem { .id = MenuItemId::Music,
+        .menu = MenuId::Options,
+        .kind = Kind::Switch,
+        .text = "&Music",
+        .keys = { "Ctrl+M" },
+        .setting = &Settings::music,
+        .choose = [](GameController& game) { game.musicMenuClick(); } },
+    MenuItem { .id = MenuItemId::SoundEffects,
+        .menu = MenuId::Options,
+        .kind = Kind::Switch,
+        .text = "&Sound Effects",
+        .keys = { "Ctrl+Shift+M" },
+        .setting = &Settings::effects },
+    separator(MenuId::Options),
+    setting(MenuItemId::Answers, "&Answers", &Settings::answers),
+    setting(MenuItemId::SayWhy, "Sa&y Why", &Settings::sayWhy),
+    setting(MenuItemId::RememberPress, "&Remember a Press", &Settings::rememberPress),
+    setting(MenuItemId::ForgivingClicks, "F&orgiving Clicks", &Settings::forgivingClicks),
+    separator(MenuId::Options),
+    setting(MenuItemId::KeepUnfinishedPuzzles, "&Keep Unfinished Puzzles",
+        &Settings::keepUnfinishedPuzzles),
+    separator(MenuId::Options),
+    MenuItem { .id = MenuItemId::FullScreen,
+        .menu = MenuId::Options,
+        .kind = Kind::Switch,
+        .text = "&Full Screen",
+        .keys = { "F11" },
+        .choose = [](GameController& game) { game.toggleFullscreen(); } },
+    // What everybody presses to get out.
+    MenuItem { .id = MenuItemId::Leave,
+        .menu = MenuId::Options,
+        .kind = Kind::Hidden,
+        .keys = { "Esc" },
+        .choose = [](GameController& game) { game.escape(); } },
+
+    page(
+        MenuItemId::HowToPlay, "&How to Play", "F1",
+        [](GameController& game) { game.showHowToPlay(); }, canOpenPage),
+    page(
+        MenuItemId::Moves, "&Moves", "F2",
+        [](GameController& game) { game.pages().show("movesMessageWindow"); },
+        [](GameController& game) { return game.canListMoves(); }),
+    page(
+        MenuItemId::TakingBack, "&Taking Back", {},
+        [](GameController& game) { game.pages().show("takingBackMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::Scoring, "&Scoring", {},
+        [](GameController& game) { game.pages().show("scoringMessageWindow"); }, canOpenPage),
+    separator(MenuId::Help),
+    MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
+};
+
+} // namespace
+
+std::span<const MenuTitle> menuTitles()
+{
+    return kTitles;
+}
+
+std::span<const MenuItem> menuItems()
+{
+    return kItems;
+}
+
+const MenuItem& menuItem(MenuItemId id)
+{
+    return *std::find_if(
+        kItems.begin(), kItems.end(), [id](const MenuItem& item) { return item.id == id; });
+}
+
+std::string plainMenuText(std::string_view text)
+{
+    std::string plain(text);
+    plain.erase(std::remove(plain.begin(), plain.end(), '&'), plain.end());
+    return plain;
+}
+
+} // namespace veyrand::controller
