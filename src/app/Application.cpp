@@ -51,6 +51,7 @@ public:
                      .quit = m_quit,
                      .overlay = m_overlay,
                      .window = m_windowModes,
+                     .alerts = m_installation.installation().alerts,
                      .offerInstallation =
                          [this](std::function<void()> done) {
                              offerInstallation(m_installation.installation(), std::move(done));

@@ -28,6 +28,7 @@ VirtualGame::VirtualGame(const Options& options)
           .resources = &m_resources,
           .textMetrics = &m_font,
           .menu = &m_menu,
+          .alerts = &m_installation.alerts,
           .offerInstallation =
               [this](std::function<void()> done) {
                   offerInstallation(m_installation.installation(), std::move(done));

@@ -62,6 +62,7 @@ void Dialogues::answer(Question question, bool startAnew)
     switch (question) {
     case Question::ClassicGame:
         if (startAnew) {
+            m_controller.previous().keep(progress::Mode::Classic);
             m_controller.kept().forget(progress::Mode::Classic);
             flow.setStageAndLevelAndScore(1, 1, 0, GameFlow::HintStatus::Reset);
         }
@@ -70,6 +71,7 @@ void Dialogues::answer(Question question, bool startAnew)
         return startAnew ? flow.returnToMenu() : m_controller.messageWindowClick();
     case Question::EndlessGame:
         if (startAnew) {
+            m_controller.previous().keep(progress::Mode::Endless);
             m_controller.kept().forget(progress::Mode::Endless);
             flow.resetEndlessScore();
         }

@@ -21,6 +21,7 @@ struct GamePorts {
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
     platform::Window& window;
+    platform::Alerts& alerts;
     std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
     platform::Journal* journal = nullptr; // null: no puzzle outlasts the board
 };
@@ -58,6 +59,7 @@ public:
             .quit = ports.quit,
             .overlay = ports.overlay,
             .window = ports.window,
+            .alerts = ports.alerts,
             .offerInstallation = ports.offerInstallation,
             .journal = ports.journal }
         , m_controller(m_context)

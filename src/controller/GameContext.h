@@ -4,6 +4,7 @@
 #include "board/Tempo.h"
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
+#include "platform/Alerts.h"
 #include "platform/Journal.h"
 #include "platform/Log.h"
 #include "platform/OverlayWindow.h"
@@ -36,6 +37,7 @@ struct GameContext {
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
     platform::Window& window;
+    platform::Alerts& alerts;
     // Calls its argument when the offer to install the game is answered. Without one nothing is
     // offered.
     std::function<void(std::function<void()>)> offerInstallation;

@@ -14,6 +14,7 @@ GameController::GameController(GameContext& context)
     , m_history(*this)
     , m_flow(*this)
     , m_kept(*this)
+    , m_previous(*this)
     , m_lines(*this)
     , m_moves(*this)
     , m_titlePage(context)
@@ -31,6 +32,7 @@ void GameController::awake(platform::Size viewSize)
 {
     updateContentViewFrame(viewSize);
     m_kept.recoverAll();
+    m_previous.finishChanging();
     m_titlePage.createTitleAndStartButtons();
 }
 

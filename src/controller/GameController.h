@@ -10,6 +10,7 @@
 #include "controller/Messages.h"
 #include "controller/Moves.h"
 #include "controller/Pages.h"
+#include "controller/PreviousGames.h"
 #include "controller/ProofLines.h"
 #include "controller/TitlePage.h"
 #include "controller/Tutorial.h"
@@ -44,6 +45,7 @@ public:
     [[nodiscard]] History& history() { return m_history; }
     [[nodiscard]] GameFlow& flow() { return m_flow; }
     [[nodiscard]] KeptGames& kept() { return m_kept; }
+    [[nodiscard]] PreviousGames& previous() { return m_previous; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
     [[nodiscard]] Messages& messages() { return m_messages; }
     [[nodiscard]] Pages& pages() { return m_pages; }
@@ -92,6 +94,7 @@ private:
     History m_history;
     GameFlow m_flow;
     KeptGames m_kept;
+    PreviousGames m_previous;
     ProofLines m_lines;
     Moves m_moves;
     TitlePage m_titlePage;

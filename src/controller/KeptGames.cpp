@@ -4,7 +4,6 @@
 #include "progress/PlayerRecord.h"
 #include "progress/Settings.h"
 
-#include <stdexcept>
 #include <utility>
 
 namespace veyrand::controller {
@@ -17,21 +16,6 @@ namespace {
 
 // A journal that has grown to this is begun anew with a shorter list.
 constexpr std::size_t kMostLines = 1000;
-
-// What comes to this state, a line each.
-std::vector<std::string> journalOf(
-    const Replay& replay, std::string_view player, play::JournalWriter& writer)
-{
-    std::vector<std::string> lines { writer.head(player) };
-    Replay again;
-    for (const play::Action& action : replay.compact()) {
-        if (const std::string fault = again.apply(action); !fault.empty()) {
-            throw std::logic_error(fault);
-        }
-        lines.push_back(writer.line({ action, again.lastLine() }));
-    }
-    return lines;
-}
 
 } // namespace
 
@@ -205,7 +189,8 @@ void KeptGames::add(const play::Action& action)
 void KeptGames::write(Mode mode, const Replay& replay)
 {
     File& file = fileOf(mode);
-    const auto lines = journalOf(replay, progress::currentPlayer(m_game.preferences), file.writer);
+    const auto lines
+        = play::journalOf(replay, progress::currentPlayer(m_game.preferences), file.writer);
     file.lines = lines.size();
     file.mayAppend = true;
     failed(mode, m_game.journal->begin(nameOf(mode), lines));
@@ -237,6 +222,21 @@ void KeptGames::forget(Mode mode)
     m_solvedAtLaunch = m_solvedAtLaunch && mode != Mode::Classic;
     if (m_game.journal != nullptr) {
         m_game.journal->remove(nameOf(mode));
+    }
+}
+
+const Replay* KeptGames::keptOf(Mode mode) const
+{
+    const auto& kept = m_files.at(indexOf(mode)).kept;
+    return kept ? &*kept : nullptr;
+}
+
+void KeptGames::replace(Mode mode, const std::optional<Replay>& puzzle)
+{
+    forget(mode);
+    if (puzzle && m_isOn) {
+        fileOf(mode).kept = puzzle;
+        write(mode, *puzzle);
     }
 }
 

@@ -34,6 +34,13 @@ public:
     // Nothing is to be found again of this mode.
     void forget(Mode mode);
 
+    // What is kept of the mode while another puzzle, or none, is on the board; null for nothing.
+    [[nodiscard]] const play::Replay* keptOf(Mode mode) const;
+    // Another game takes the place of what was kept; the record has been saved.
+    void replace(Mode mode, const std::optional<play::Replay>& puzzle);
+    // What the player's record says of the mode.
+    [[nodiscard]] play::Standing standingOf(Mode mode) const;
+
     // What was kept of the mode, and not again; the record has been loaded.
     [[nodiscard]] std::optional<play::Replay> take(Mode mode);
     // How the next Classic puzzle is to be greeted: whether the last game ended between two.
@@ -41,6 +48,8 @@ public:
 
     void settingsChanged();
 
+    // Tells the player, and the log, what went wrong.
+    void report(const std::string& message);
     // Where whatever goes wrong is told, in words for the player; what went wrong before is told
     // now.
     void setReporter(std::function<void(const std::string&)> report);
@@ -59,9 +68,9 @@ private:
 
     [[nodiscard]] bool isWanted() const;
     [[nodiscard]] const play::Replay* inPlay() const; // null when there is none
-    [[nodiscard]] File& fileOf(Mode mode) { return m_files.at(mode == Mode::Endless ? 1 : 0); }
+    [[nodiscard]] static std::size_t indexOf(Mode mode) { return mode == Mode::Endless ? 1 : 0; }
+    [[nodiscard]] File& fileOf(Mode mode) { return m_files.at(indexOf(mode)); }
     [[nodiscard]] std::string nameOf(Mode mode) const;
-    [[nodiscard]] play::Standing standingOf(Mode mode) const;
     void recover(Mode mode);
     void recoverFrom(Mode mode, const std::string& contents);
     void found(Mode mode, play::Recovery recovery, const play::JournalText& text, bool isWhole);
@@ -70,7 +79,6 @@ private:
 
     void write(Mode mode, const play::Replay& replay);
     void failed(Mode mode, const std::string& fault);
-    void report(const std::string& message);
 
     GameController& m_controller;
     GameContext& m_game;

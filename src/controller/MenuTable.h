@@ -17,6 +17,7 @@ enum class MenuItemId {
     Separator,
     ClassicGame,
     EndlessGame,
+    BringBack,
     Quit,
     Undo,
     Redo,

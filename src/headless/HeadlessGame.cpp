@@ -46,6 +46,7 @@ HeadlessGame::HeadlessGame(const Options& options)
     , m_random(options.seed)
     , m_resources(options.resources != nullptr ? *options.resources : noResources())
     , m_screen(options.screen)
+    , m_alerts(options.alerts != nullptr ? *options.alerts : m_ownAlerts)
     , m_menu(m_preferences)
     , m_currentGame(m_preferences, m_random, m_resources)
     , m_gameData(m_screen)
@@ -60,6 +61,7 @@ HeadlessGame::HeadlessGame(const Options& options)
                  .quit = m_quit,
                  .overlay = m_overlay,
                  .window = m_window,
+                 .alerts = m_alerts,
                  .offerInstallation = options.offerInstallation,
                  .journal = options.journal },
           m_currentGame, m_gameData)

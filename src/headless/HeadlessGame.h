@@ -7,6 +7,7 @@
 #include "platform/TrackedPointer.h"
 #include "platform/fakes/FixedScreen.h"
 #include "platform/fakes/MemoryWindow.h"
+#include "platform/fakes/NotedAlerts.h"
 #include "platform/fakes/NotedLog.h"
 #include "platform/fakes/NotedOverlay.h"
 #include "platform/fakes/NotedQuit.h"
@@ -39,6 +40,7 @@ public:
         const platform::Resources* resources = nullptr; // outlives the game; null: there are none
         const platform::TextMetrics* textMetrics = nullptr; // null for letters of one width
         const platform::Menu* menu = nullptr; // null for the menu below
+        platform::NotedAlerts* alerts = nullptr; // outlives the game; null for those below
         std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
         platform::Journal* journal = nullptr; // outlives the game; null: nothing is kept
     };
@@ -91,6 +93,7 @@ public:
     [[nodiscard]] const platform::NotedLog& log() const { return m_log; }
     [[nodiscard]] const platform::NotedOverlay& overlay() const { return m_overlay; }
     [[nodiscard]] platform::MemoryWindow& window() { return m_window; }
+    [[nodiscard]] platform::NotedAlerts& alerts() { return m_alerts; }
 
 private:
     [[nodiscard]] platform::Point inView(platform::Point place);
@@ -107,6 +110,8 @@ private:
     platform::NotedLog m_log;
     platform::NotedOverlay m_overlay;
     platform::MemoryWindow m_window;
+    platform::NotedAlerts m_ownAlerts;
+    platform::NotedAlerts& m_alerts;
     platform::TrackedPointer m_pointer;
     EvenLetters m_letters;
     HeadlessMenu m_menu;

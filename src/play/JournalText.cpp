@@ -2,10 +2,12 @@
 
 #include "play/ActionText.h"
 #include "play/Fnv.h"
+#include "play/Replay.h"
 
 #include <array>
 #include <charconv>
 #include <cstdio>
+#include <stdexcept>
 
 namespace veyrand::play {
 
@@ -177,6 +179,20 @@ std::string JournalWriter::line(const JournalEntry& entry)
         text += std::string(kLastLineMark) + entry.lastLine;
     }
     return checked(std::move(text));
+}
+
+std::vector<std::string> journalOf(
+    const Replay& replay, std::string_view player, JournalWriter& writer)
+{
+    std::vector<std::string> lines { writer.head(player) };
+    Replay again;
+    for (const Action& action : replay.compact()) {
+        if (const std::string fault = again.apply(action); !fault.empty()) {
+            throw std::logic_error(fault);
+        }
+        lines.push_back(writer.line({ action, again.lastLine() }));
+    }
+    return lines;
 }
 
 JournalText readJournal(std::string_view text, std::string_view player)

@@ -38,11 +38,18 @@ public:
     [[nodiscard]] std::string head(std::string_view player);
     [[nodiscard]] std::string line(const JournalEntry& entry);
 
-private:
+    // Any text as a line, with its check.
     [[nodiscard]] std::string checked(std::string text);
 
+private:
     std::string m_check;
 };
+
+class Replay;
+// The lines of a journal that comes to the same as the replay, the head first; the writer goes on
+// behind them.
+[[nodiscard]] std::vector<std::string> journalOf(
+    const Replay& replay, std::string_view player, JournalWriter& writer);
 
 struct JournalText {
     enum class State {

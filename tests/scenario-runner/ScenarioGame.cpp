@@ -392,6 +392,38 @@ QString ScenarioGame::hash()
         session != nullptr ? session->hash() : play::Replay().hash(), 16, 16, QLatin1Char('0'));
 }
 
+QJSValue ScenarioGame::alert()
+{
+    const auto& alerts = game().installation().alerts;
+    if (!alerts.isOpen()) {
+        return QJSValue::NullValue;
+    }
+    const platform::Alert& shown = alerts.alert();
+    QJSValue value = m_engine.newObject();
+    value.setProperty(QStringLiteral("message"), QString::fromStdString(shown.message));
+    value.setProperty(QStringLiteral("text"), QString::fromStdString(shown.informativeText));
+    value.setProperty(QStringLiteral("buttons"),
+        toScript(m_engine,
+            shown.alternateButton.empty()
+                ? std::vector<std::string> { shown.defaultButton }
+                : std::vector<std::string> { shown.defaultButton, shown.alternateButton }));
+    return value;
+}
+
+void ScenarioGame::answer(const QString& button)
+{
+    using Button = platform::AlertAnswer::Button;
+    auto& alerts = game().installation().alerts;
+    const std::string text = button.toStdString();
+    if (!alerts.isOpen()
+        || (alerts.alert().defaultButton != text && alerts.alert().alternateButton != text)) {
+        m_engine.throwError(QStringLiteral("nothing asks for \"%1\"").arg(button));
+        return;
+    }
+    alerts.answer(
+        { .button = alerts.alert().defaultButton == text ? Button::Default : Button::Alternate });
+}
+
 QJSValue ScenarioGame::sounds()
 {
     return toScript(m_engine, game().sounds().takePlayed());

@@ -69,6 +69,8 @@ public:
     Q_INVOKABLE bool blocked();
     Q_INVOKABLE QJSValue actions();
     Q_INVOKABLE QString hash();
+    Q_INVOKABLE QJSValue alert();
+    Q_INVOKABLE void answer(const QString& button);
     Q_INVOKABLE QJSValue sounds();
     Q_INVOKABLE QJSValue music();
     Q_INVOKABLE QJSValue preference(const QString& key);
