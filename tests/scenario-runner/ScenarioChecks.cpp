@@ -52,10 +52,21 @@ void ScenarioChecks::report(bool passed, const QString& message, const QString& 
     QTextStream(stdout) << placeIn(stack) << ": " << message << Qt::endl;
 }
 
-void ScenarioChecks::scriptFailed(const QString& file, int line, const QString& message)
+// What an operation of the game throws is thrown from outside the script, by one of its lines.
+void ScenarioChecks::scriptFailed(const QJSValue& error)
 {
     ++m_failed;
-    QTextStream(stdout) << file << ':' << line << ": " << message << Qt::endl;
+    QString place = placeIn(error.property(QStringLiteral("stack")).toString());
+    if (place == m_scriptFile) {
+        place += QLatin1Char(':') + error.property(QStringLiteral("lineNumber")).toString();
+    }
+    QTextStream(stdout) << place << ": " << error.toString() << Qt::endl;
+}
+
+void ScenarioChecks::fileFailed(const QString& file, const QString& message)
+{
+    ++m_failed;
+    QTextStream(stdout) << file << ":0: " << message << Qt::endl;
 }
 
 // The innermost frame of the script itself: "function@file:line" a line of the stack.

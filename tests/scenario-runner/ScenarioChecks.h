@@ -15,8 +15,9 @@ public:
 
     // Called by the prelude with the stack of the place that checks.
     Q_INVOKABLE void report(bool passed, const QString& message, const QString& stack);
-    // A script that broke off: counts as one failure.
-    void scriptFailed(const QString& file, int line, const QString& message);
+    // A script that broke off with the error, or could not be read: counts as one failure.
+    void scriptFailed(const QJSValue& error);
+    void fileFailed(const QString& file, const QString& message);
 
     [[nodiscard]] int passed() const { return m_passed; }
     [[nodiscard]] int failed() const { return m_failed; }

@@ -1,5 +1,6 @@
+#include "QtStage.h"
 #include "ScenarioChecks.h"
-#include "ScenarioGame.h"
+#include "ScriptBridge.h"
 #include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
@@ -32,23 +33,25 @@ QSize toSize(const std::string& text)
     return size;
 }
 
-void runScript(const QString& fileName, const scenario::ScenarioGame::Settings& settings,
+void runScript(const QString& fileName, const scenario::QtStage::Settings& settings,
     scenario::ScenarioChecks& checks)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        checks.scriptFailed(fileName, 0, file.errorString());
+        checks.fileFailed(fileName, file.errorString());
         return;
     }
     QJSEngine engine;
     engine.installExtensions(QJSEngine::ConsoleExtension);
-    scenario::ScenarioGame game(engine, settings);
+    scenario::Scenario scenario([&settings](const scenario::ScenarioStage::Launch& launch) {
+        return std::make_unique<scenario::QtStage>(settings, launch);
+    });
+    scenario::ScriptBridge bridge(engine, scenario);
+    bridge.install();
     checks.installIn(engine, fileName);
-    engine.globalObject().setProperty(QStringLiteral("game"), engine.newQObject(&game));
     const QJSValue result = engine.evaluate(QString::fromUtf8(file.readAll()), fileName);
     if (result.isError()) {
-        checks.scriptFailed(result.property(QStringLiteral("fileName")).toString(),
-            result.property(QStringLiteral("lineNumber")).toInt(), result.toString());
+        checks.scriptFailed(result);
     }
 }
 
@@ -78,7 +81,7 @@ int main(int argc, char* argv[])
     }
     QApplication application(argc, argv);
     const QSize screenSize = toSize(screen);
-    const scenario::ScenarioGame::Settings settings { .screen
+    const scenario::QtStage::Settings settings { .screen
         = { .width = static_cast<double>(screenSize.width()),
             .height = static_cast<double>(screenSize.height()) },
         .window = toSize(window),

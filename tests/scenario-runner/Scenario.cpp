@@ -1,0 +1,217 @@
+#include "Scenario.h"
+
+#include "progress/PlayerKeys.h"
+
+#include <stdexcept>
+
+namespace veyrand::scenario {
+
+using progress::CurrentGame;
+
+ScenarioStage& Scenario::onStage()
+{
+    if (m_hasEnded) {
+        throw std::runtime_error("the game has ended; game.restart() starts it on what it saved");
+    }
+    if (!m_stage) {
+        startWith({});
+    }
+    return *m_stage;
+}
+
+void Scenario::startWith(const Json& options)
+{
+    m_launch = { .seed = static_cast<std::uint32_t>(number(field(options, "seed", 1))),
+        .preferences = toContents(field(options, "preferences", Json::object())) };
+    const Json record = field(options, "record", {});
+    if (record.is_object()) {
+        const auto& values = m_launch.preferences.values;
+        const auto defaults = progress::registeredDefaults().values;
+        const auto& named = values.contains(progress::kPlayerNameKey) ? values : defaults;
+        m_launch.preferences.records.insert_or_assign(
+            progress::playerRecordKey(platform::stringForKey(named, progress::kPlayerNameKey)),
+            toRecord(record));
+    }
+    end();
+    m_preferences = std::make_unique<platform::MemoryPreferences>();
+    m_journal = isTrue(field(options, "journal", false))
+        ? std::make_unique<platform::MemoryJournal>()
+        : nullptr;
+    m_launch.store = m_preferences.get();
+    m_launch.journal = m_journal.get();
+    relaunch();
+    m_launch.preferences = {}; // they stand in the store, as far as nobody has changed them
+}
+
+void Scenario::relaunch()
+{
+    end();
+    m_hasEnded = false;
+    m_hasQuit = false;
+    m_stage = m_makeStage(m_launch);
+    m_stage->launch();
+}
+
+void Scenario::end()
+{
+    m_stage.reset();
+    m_hasEnded = true;
+}
+
+Json Scenario::start(const Arguments& arguments)
+{
+    startWith(arguments.at(0));
+    return {};
+}
+
+Json Scenario::quit(const Arguments& /*arguments*/)
+{
+    game().controller().context().quit.terminate();
+    const std::string trouble = game().controller().kept().lastWords();
+    end();
+    m_hasQuit = true;
+    if (!trouble.empty()) {
+        throw std::runtime_error(trouble);
+    }
+    return {};
+}
+
+Json Scenario::kill(const Arguments& /*arguments*/)
+{
+    static_cast<void>(onStage());
+    end();
+    return {};
+}
+
+Json Scenario::restart(const Arguments& /*arguments*/)
+{
+    if (m_preferences) {
+        relaunch();
+    } else {
+        startWith({});
+    }
+    return {};
+}
+
+Json Scenario::play(const Arguments& arguments)
+{
+    const Json& puzzle = arguments.at(0);
+    game().play({ .root = text(field(puzzle, "root", "YR")),
+        .goal = text(field(puzzle, "goal", "YRG")),
+        .par = static_cast<int>(number(field(puzzle, "par", 2))),
+        .level = static_cast<int>(number(field(puzzle, "level", 1))),
+        .stage = static_cast<int>(number(field(puzzle, "stage", 1))),
+        .mode = isTrue(field(puzzle, "endless", false)) ? CurrentGame::Mode::Endless
+                                                        : CurrentGame::Mode::Classic });
+    return {};
+}
+
+Json Scenario::show(const Arguments& arguments)
+{
+    const std::string page = arguments.text(0);
+    if (page == "loadOverlayWindow") {
+        game().controller().loadOverlayWindow();
+    } else if (!game().controller().pages().show(page)) {
+        throw std::runtime_error("there is no page \"" + page + "\"");
+    }
+    return {};
+}
+
+Json Scenario::wait(const Arguments& arguments)
+{
+    game().wait(arguments.number(0));
+    return {};
+}
+
+platform::Point Scenario::place(const Json& target)
+{
+    if (target.is_array()) {
+        const Arguments place(target);
+        return { .x = place.number(0), .y = place.number(1) };
+    }
+    const auto centre = game().centreOf(text(target));
+    if (!centre) {
+        throw std::runtime_error("nothing on the board has the key \"" + text(target) + '"');
+    }
+    return *centre;
+}
+
+Json Scenario::move(const Arguments& arguments)
+{
+    onStage().move(place(arguments.at(0)));
+    return {};
+}
+
+Json Scenario::press(const Arguments& arguments)
+{
+    onStage().press(place(arguments.at(0)), toModifiers(arguments.at(1)));
+    return {};
+}
+
+Json Scenario::release(const Arguments& arguments)
+{
+    onStage().release(place(arguments.at(0)));
+    return {};
+}
+
+Json Scenario::click(const Arguments& arguments)
+{
+    const platform::Point at = place(arguments.at(0));
+    onStage().press(at, toModifiers(arguments.at(1)));
+    onStage().release(at);
+    return {};
+}
+
+Json Scenario::drag(const Arguments& arguments)
+{
+    const platform::Point start = place(arguments.at(0));
+    const platform::Point end = place(arguments.at(1));
+    onStage().press(start, {});
+    onStage().release(end);
+    return {};
+}
+
+Json Scenario::key(const Arguments& arguments)
+{
+    onStage().key(arguments.text(0));
+    return {};
+}
+
+Json Scenario::resize(const Arguments& arguments)
+{
+    onStage().resize(static_cast<int>(arguments.number(0)), static_cast<int>(arguments.number(1)));
+    return {};
+}
+
+Json Scenario::menu(const Arguments& arguments)
+{
+    const std::string item = arguments.text(0);
+    if (!onStage().chooseMenuItem(item)) {
+        throw std::runtime_error("the menu has no item \"" + item + "\" that can be chosen now");
+    }
+    return {};
+}
+
+Json Scenario::screenshot(const Arguments& arguments)
+{
+    const std::string fault = onStage().screenshot(arguments.text(0));
+    if (!fault.empty()) {
+        throw std::runtime_error(fault);
+    }
+    return {};
+}
+
+Json Scenario::answer(const Arguments& arguments)
+{
+    using Button = platform::AlertAnswer::Button;
+    const std::string text = arguments.text(0);
+    auto& alerts = game().alerts();
+    const bool isDefault = alerts.isOpen() && alerts.alert().defaultButton == text;
+    if (!alerts.isOpen() || (!isDefault && alerts.alert().alternateButton != text)) {
+        throw std::runtime_error("nothing asks for \"" + text + '"');
+    }
+    alerts.answer({ .button = isDefault ? Button::Default : Button::Alternate });
+    return {};
+}
+
+} // namespace veyrand::scenario
