@@ -110,6 +110,31 @@ INSTANTIATE_TEST_SUITE_P(Distances, Batch,
     testing::Values(Question { "distances YR --length 3", "[1, 2, 2]" },
         Question { "distances \"\" --length 3", "[1]" }));
 
+INSTANTIATE_TEST_SUITE_P(Practice, Batch,
+    testing::Values(Question { "code YR YRRG", R"("3373NECJ")" },
+        Question { "code --read 3373NECJ", R"({"start": "YR", "goal": "YRRG"})" },
+        Question { "code --read veyrand:3373-necj", R"({"start": "YR", "goal": "YRRG"})" },
+        Question { "code --read 3373NECI",
+            R"({"error": "\"I\", letter 8, cannot stand in a puzzle code."})" },
+        Question { "code YR", R"({"error": "code takes START and GOAL, or --read CODE"})" },
+        Question {
+            "verdict YRRRRRR YGG", R"({"par": 2, "solutions": 2, "needed": [3], "bits": 3.58})" },
+        Question {
+            "verdict YR GRY", R"({"par": 2, "solutions": 1, "needed": [2, 5], "bits": 2.0})" },
+        Question { "verdict YB YR", R"({"unreachable": true})" },
+        Question { "verdict YYR YR", R"({"error": "a start line has one yellow chip: YYR"})" }));
+
+TEST(PracticeCommands, KnowThePuzzleOfADay)
+{
+    const std::string data = " --data " + test::dataFolder();
+    const Json day = ask("daily 2026-11-21" + data);
+    EXPECT_EQ(day, ask("daily 2027-11-27" + data)); // 53 weeks later
+    const Json verdict
+        = ask("verdict " + day["start"].get<std::string>() + ' ' + day["goal"].get<std::string>());
+    EXPECT_EQ(day["par"], verdict["par"]);
+    EXPECT_EQ(ask("daily 2026-11-31" + data)["error"], "2026-11-31: no date, such as 2026-11-21");
+}
+
 TEST(BatchErrors, AreAnsweredAndTheNextLineGoesOn)
 {
     std::istringstream in("nonsense\n\nsolve YR\ntree YR --children few\nmatches Y\xC3\xA9\n"

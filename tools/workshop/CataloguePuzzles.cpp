@@ -5,6 +5,7 @@
 #include "catalogue/Certificate.h"
 #include "catalogue/Check.h"
 #include "catalogue/ClassicMaker.h"
+#include "catalogue/DailyMaker.h"
 #include "catalogue/EndlessMaker.h"
 #include "catalogue/Figures.h"
 #include "catalogue/Finder.h"
@@ -101,6 +102,22 @@ Json makeEndless(const Arguments& arguments)
     return deliver(
         catalogue::endlessPuzzles(arguments.seed, read(arguments.classic), bar("puzzles")),
         arguments.out);
+}
+
+// The week it begins with stays the same for ever: a day's puzzle is its place in the list.
+Json makeDaily(const Arguments& arguments)
+{
+    constexpr const char* kFirstMonday = "2026-01-05";
+    catalogue::Puzzles taken = read(arguments.classic);
+    const catalogue::Puzzles endless = read(arguments.endless);
+    taken.insert(taken.end(), endless.begin(), endless.end());
+    const catalogue::Puzzles puzzles = catalogue::dailyPuzzles(arguments.seed, taken, bar("roots"));
+    const std::string text = catalogue::dailyText(puzzles, kFirstMonday);
+    if (arguments.out.empty()) {
+        return text;
+    }
+    write(arguments.out, text);
+    return std::to_string(puzzles.size()) + " puzzles in " + arguments.out;
 }
 
 template <class Numbers> Json byLevel(const Numbers& numbers)
@@ -234,6 +251,11 @@ public:
         endless->add_option("--classic", m_values.classic, "Puzzles whose goals not to use again")
             ->capture_default_str();
         addOut(*endless);
+
+        CLI::App* daily = add(arguments, "daily", "Makes the puzzles of the days", makeDaily);
+        daily->add_option("--seed", m_values.seed, "What they depend on")->capture_default_str();
+        declareSources(*daily, m_values);
+        addOut(*daily);
 
         CLI::App* checking = add(arguments, "check", "Proves every puzzle of a file", checkFiles);
         checking->add_option("FILE", m_values.file, "Three lines a puzzle; without it, both games");

@@ -9,7 +9,7 @@ const std::vector<CommandEntry>& allCommands()
     static const std::vector<CommandEntry> kCommands = [] {
         std::vector<CommandEntry> commands;
         for (auto group : { lineCommands(), analysisCommands(), boardCommands(),
-                 catalogueCommands(), puzzleCommands(), replayCommands() }) {
+                 catalogueCommands(), puzzleCommands(), replayCommands(), practiceCommands() }) {
             std::move(group.begin(), group.end(), std::back_inserter(commands));
         }
         return commands;

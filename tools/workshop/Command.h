@@ -52,6 +52,7 @@ template <class C> CommandEntry entry(std::string name, std::string help)
 [[nodiscard]] std::vector<CommandEntry> catalogueCommands();
 [[nodiscard]] std::vector<CommandEntry> puzzleCommands();
 [[nodiscard]] std::vector<CommandEntry> replayCommands();
+[[nodiscard]] std::vector<CommandEntry> practiceCommands();
 
 [[nodiscard]] const std::vector<CommandEntry>& allCommands();
 
