@@ -4,6 +4,7 @@
 #include "app/InstallOffer.h"
 #include "app/MainWindow.h"
 #include "app/Notices.h"
+#include "app/PressKey.h"
 #include "app/SystemInstallation.h"
 #include "app/UncaughtGuard.h"
 #include "app/WaitingBox.h"
@@ -64,7 +65,10 @@ public:
               .images = m_images,
               .resized = [this](platform::Size size) { resized(size); },
               .cursor = [this] { return m_game.controller().answers().cursor(); },
-              .closePage = [this] { return m_game.controller().closePage(); } })
+              .key =
+                  [this](const desktop::qt::BoardWidget::KeyPress& press) {
+                      return pressKey(m_game.controller(), press);
+                  } })
         , m_window(m_menu, m_board)
     {
         m_overlay.setMainWindow(m_window);

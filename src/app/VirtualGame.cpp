@@ -1,6 +1,8 @@
 #include "app/VirtualGame.h"
 
 #include "app/InstallOffer.h"
+#include "app/PressKey.h"
+#include "board/Times.h"
 #include "headless/SmallSteps.h"
 
 #include <QAction>
@@ -8,6 +10,8 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMouseEvent>
+#include <QPointingDevice>
+#include <QTouchEvent>
 
 namespace veyrand::app {
 
@@ -49,7 +53,10 @@ VirtualGame::VirtualGame(const Options& options)
                     controller().windowDidResize();
                 },
             .cursor = [this] { return controller().answers().cursor(); },
-            .closePage = [this] { return controller().closePage(); } });
+            .key =
+                [this](const desktop::qt::BoardWidget::KeyPress& press) {
+                    return pressKey(controller(), press);
+                } });
     m_widget->setAttribute(Qt::WA_DontShowOnScreen);
     m_widget->resize(options.window);
     m_widget->show();
@@ -95,6 +102,49 @@ void VirtualGame::click(Point place)
 {
     press(place);
     release(place);
+}
+
+void VirtualGame::touch(Point place)
+{
+    sendTouch(QEventPoint::Pressed, place);
+    sendTouch(QEventPoint::Released, place);
+}
+
+void VirtualGame::touchDrag(Point from, Point to)
+{
+    sendTouch(QEventPoint::Pressed, from);
+    for (const Point step : headless::smallSteps(from, to)) {
+        sendTouch(QEventPoint::Updated, step);
+    }
+    sendTouch(QEventPoint::Released, to);
+}
+
+void VirtualGame::longPress(Point place)
+{
+    sendTouch(QEventPoint::Pressed, place);
+    wait(board::times::kLongPress);
+    sendTouch(QEventPoint::Released, place);
+}
+
+void VirtualGame::rightClick(Point place)
+{
+    move(place);
+    sendMouse(QEvent::MouseButtonPress, place, Qt::RightButton);
+    sendMouse(QEvent::MouseButtonRelease, place, Qt::RightButton);
+}
+
+void VirtualGame::sendTouch(QEventPoint::State state, Point place)
+{
+    static const QPointingDevice kScreen(QStringLiteral("touch screen"), 1,
+        QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
+        QInputDevice::Capability::Position, 1, 0);
+    const QPointF position = toWidget(place);
+    const QEventPoint finger(0, state, position, QPointF(m_widget->mapToGlobal(position)));
+    const QEvent::Type type = state == QEventPoint::Pressed ? QEvent::TouchBegin
+        : state == QEventPoint::Released                    ? QEvent::TouchEnd
+                                                            : QEvent::TouchUpdate;
+    QTouchEvent event(type, &kScreen, Qt::NoModifier, { finger });
+    QApplication::sendEvent(m_widget.get(), &event);
 }
 
 void VirtualGame::key(const QString& sequence)

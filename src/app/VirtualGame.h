@@ -7,6 +7,7 @@
 #include "headless/HeadlessGame.h"
 
 #include <QEvent>
+#include <QEventPoint>
 #include <QString>
 
 #include <memory>
@@ -44,6 +45,11 @@ public:
     void press(platform::Point place, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void release(platform::Point place);
     void click(platform::Point place);
+    // One finger. A long press takes as long as it takes; nothing else takes virtual time.
+    void touch(platform::Point place);
+    void touchDrag(platform::Point from, platform::Point to);
+    void longPress(platform::Point place);
+    void rightClick(platform::Point place);
     void key(const QString& sequence);
     void resize(QSize size);
 
@@ -75,6 +81,7 @@ public:
 
 private:
     [[nodiscard]] QPointF toWidget(platform::Point place);
+    void sendTouch(QEventPoint::State state, platform::Point place);
     void sendMouse(QEvent::Type type, platform::Point place, Qt::MouseButton button);
 
     platform::MemoryPreferences m_memory;

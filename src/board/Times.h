@@ -27,6 +27,7 @@ inline constexpr double kMergeBlock = 1.5; // likewise, of a merge of reds
 inline constexpr double kDeleteBlock = 0.95;
 inline constexpr double kBlockPoll = 0.1;
 inline constexpr double kButtonBlock = 0.5; // at every tempo
+inline constexpr double kLongPress = 0.5; // at every tempo
 inline constexpr double kDoubleClick = 0.4; // from the first press to the second; at every tempo
 inline constexpr double kReading = 1.0; // of a page or note that has just opened; at every tempo
 

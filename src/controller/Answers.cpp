@@ -48,7 +48,8 @@ Answers::Answers(GameController& controller)
     m_game.view.setOnlooker(this);
     m_game.view.setHabits([this] {
         return input::GameView::Habits { .rememberPress = m_settings.rememberPress,
-            .forgivingClicks = m_settings.forgivingClicks };
+            .forgivingClicks = m_settings.forgivingClicks,
+            .liftByClick = m_settings.liftByClick };
     });
     m_game.layers.extras().setDirector([this] { direct(); });
 }
@@ -103,6 +104,7 @@ Answers::Situation Answers::situation() const
     Situation now;
     now.isOn = m_settings.answers;
     now.whisper = m_whisper;
+    now.focus = m_controller.focus().shown();
     if (!now.isOn) {
         return now;
     }
@@ -143,6 +145,7 @@ void Answers::direct()
         addPraise(wanted);
     }
     addWords(wanted);
+    addFocus(wanted);
     m_game.layers.extras().want(std::move(wanted));
 }
 

@@ -5,6 +5,7 @@
 #include "controller/Tips.h"
 #include "input/Cursor.h"
 #include "input/Onlooker.h"
+#include "input/Stops.h"
 #include "play/Gesture.h"
 #include "play/Refusal.h"
 #include "progress/Settings.h"
@@ -53,6 +54,7 @@ private:
         std::string held;
         std::string dragged;
         std::string whisper;
+        std::optional<input::Stop> focus;
         std::string celebration;
         std::string page;
         std::size_t words = 0; // lines of the message on show
@@ -70,6 +72,7 @@ private:
     void addHands(std::vector<present::Extra>& wanted) const;
     void addPraise(std::vector<present::Extra>& wanted) const;
     void addWords(std::vector<present::Extra>& wanted) const;
+    void addFocus(std::vector<present::Extra>& wanted) const;
     [[nodiscard]] std::string thingUnderPointer() const;
     [[nodiscard]] std::string doomedBy(const std::string& thing) const;
     [[nodiscard]] std::optional<present::ExtraRect> placeOf(const std::string& key) const;

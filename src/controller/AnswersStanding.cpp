@@ -4,6 +4,7 @@
 #include "controller/Legality.h"
 #include "present/CelebrationPictures.h"
 #include "present/ExtraPictures.h"
+#include "present/FocusPictures.h"
 
 // What stands on the board for as long as the situation is the same.
 
@@ -103,6 +104,15 @@ void Answers::addWords(std::vector<Extra>& wanted) const
     }
     if (!text.empty()) {
         wanted.push_back(present::tipFor(m_shown.thing, *place, text, m_game.layers.textMetrics()));
+    }
+}
+
+void Answers::addFocus(std::vector<Extra>& wanted) const
+{
+    if (m_shown.focus) {
+        const input::Stop& stop = *m_shown.focus;
+        wanted.push_back(present::focusRing(
+            stop.key, { .x = stop.x, .y = stop.y, .width = stop.width, .height = stop.height }));
     }
 }
 

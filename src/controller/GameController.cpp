@@ -3,6 +3,7 @@
 #include "board/Buttons.h"
 #include "controller/Legality.h"
 #include "controller/OverlayFrame.h"
+#include "play/Decide.h"
 
 #include <utility>
 
@@ -23,6 +24,7 @@ GameController::GameController(GameContext& context)
     , m_dialogues(*this)
     , m_tutorial(*this)
     , m_fullScreen(*this)
+    , m_focus(context.view, context.board.gameData.gameObjects(), *this)
     , m_answers(*this)
 {
     m_context.view.setGestureTarget(*this);
@@ -86,9 +88,25 @@ bool GameController::closePage()
     return true;
 }
 
+bool GameController::key(std::string_view keys, Press press)
+{
+    const auto command = input::commandFor(keys);
+    if (!command || (press == Press::Repeated && !input::movesFocus(command->verb))) {
+        return false;
+    }
+    if (input::isSingleLetter(keys) && !progress::readSettings(m_context.preferences).spokenKeys) {
+        return false;
+    }
+    const bool taken = m_focus.perform(*command);
+    m_answers.handsChanged();
+    return taken;
+}
+
 void GameController::escape()
 {
-    if (dialogueState() != 0) {
+    if (m_focus.putBack()) {
+        m_answers.handsChanged();
+    } else if (dialogueState() != 0) {
         if (!m_context.view.block().blockClick()) {
             m_dialogues.leave();
         }
@@ -174,6 +192,11 @@ void GameController::messageWindowClick()
 bool GameController::isMove(unsigned row, unsigned column) const
 {
     return !whyNoClick(*this, row, column);
+}
+
+std::vector<play::Gesture> GameController::actions() const
+{
+    return play::actions(m_moves.position());
 }
 
 std::optional<unsigned> GameController::rowToDrag() const

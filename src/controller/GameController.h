@@ -14,6 +14,7 @@
 #include "controller/ProofLines.h"
 #include "controller/TitlePage.h"
 #include "controller/Tutorial.h"
+#include "input/Focus.h"
 
 #include <functional>
 
@@ -34,7 +35,11 @@ public:
     // Closes a page or note as a press would, which nothing does in its first second. True if one
     // is up, whether or not it goes now.
     bool closePage();
-    // The same, or a question is left without an answer, or else full-screen mode is.
+    // A key on the board, as menus spell it: "Ctrl+Right", "H". True if the game has a use for it.
+    enum class Press { First, Repeated };
+    bool key(std::string_view keys, Press press = Press::First);
+    // What is in the hand is put back, or a page closes, or a question is left without an answer,
+    // or else full-screen mode is.
     void escape();
 
     [[nodiscard]] GameContext& context() const { return m_context; }
@@ -52,6 +57,7 @@ public:
     [[nodiscard]] Dialogues& dialogues() { return m_dialogues; }
     [[nodiscard]] Tutorial& tutorial() { return m_tutorial; }
     [[nodiscard]] Answers& answers() { return m_answers; }
+    [[nodiscard]] input::Focus& focus() { return m_focus; }
     [[nodiscard]] const FullScreen& fullScreen() const { return m_fullScreen; }
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
@@ -80,6 +86,7 @@ public:
     void buttonClick(const std::string& key) override;
     void messageWindowClick() override;
     [[nodiscard]] bool isMove(unsigned row, unsigned column) const override;
+    [[nodiscard]] std::vector<play::Gesture> actions() const override;
     [[nodiscard]] std::optional<unsigned> rowToDrag() const override;
     [[nodiscard]] std::optional<std::vector<unsigned>> areasToTrack(
         unsigned row, unsigned column) const override;
@@ -103,6 +110,7 @@ private:
     Dialogues m_dialogues;
     Tutorial m_tutorial;
     FullScreen m_fullScreen;
+    input::Focus m_focus;
     Answers m_answers;
 };
 

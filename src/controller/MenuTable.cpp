@@ -139,6 +139,7 @@ constexpr std::array kItems {
     setting(MenuItemId::SayWhy, "Sa&y Why", &Settings::sayWhy),
     setting(MenuItemId::RememberPress, "&Remember a Press", &Settings::rememberPress),
     setting(MenuItemId::ForgivingClicks, "F&orgiving Clicks", &Settings::forgivingClicks),
+    setting(MenuItemId::LiftByClick, "&Lift by Click", &Settings::liftByClick),
     separator(MenuId::Options),
     setting(MenuItemId::KeepUnfinishedPuzzles, "&Keep Unfinished Puzzles",
         &Settings::keepUnfinishedPuzzles),

@@ -27,6 +27,7 @@ enum class MenuItemId {
     SayWhy,
     RememberPress,
     ForgivingClicks,
+    LiftByClick,
     KeepUnfinishedPuzzles,
     FullScreen,
     Leave,

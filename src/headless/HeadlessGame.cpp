@@ -1,5 +1,6 @@
 #include "headless/HeadlessGame.h"
 
+#include "board/Times.h"
 #include "headless/SmallSteps.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
@@ -65,6 +66,7 @@ HeadlessGame::HeadlessGame(const Options& options)
                  .offerInstallation = options.offerInstallation,
                  .journal = options.journal },
           m_currentGame, m_gameData)
+    , m_touch(m_game.view(), m_game.layers(), m_pointer)
     , m_resizer([this](platform::Size size) { resize(size); })
     , m_viewSize(options.view)
 {
@@ -121,6 +123,43 @@ void HeadlessGame::click(Point place)
 {
     press(place);
     release(place);
+}
+
+void HeadlessGame::touch(Point place)
+{
+    m_touch.began(inView(place));
+    m_touch.ended(inView(place));
+}
+
+void HeadlessGame::touchDrag(Point from, Point to)
+{
+    m_touch.began(inView(from));
+    for (const Point step : smallSteps(from, to)) {
+        m_touch.moved(inView(step));
+    }
+    m_touch.ended(inView(to));
+}
+
+void HeadlessGame::longPress(Point place)
+{
+    m_touch.began(inView(place));
+    wait(board::times::kLongPress);
+    m_touch.ended(inView(place));
+}
+
+void HeadlessGame::rightClick(Point place)
+{
+    move(place);
+    m_game.view().rightMouseDown(moveTo(place));
+}
+
+void HeadlessGame::key(std::string_view keys)
+{
+    if (m_menu.knowsKeys(keys)) {
+        m_menu.triggerKeys(keys);
+    } else {
+        controller().key(keys);
+    }
 }
 
 void HeadlessGame::leave()

@@ -3,6 +3,7 @@
 #include "controller/Game.h"
 #include "headless/EvenLetters.h"
 #include "headless/HeadlessMenu.h"
+#include "input/Touch.h"
 #include "platform/MemoryPreferences.h"
 #include "platform/TrackedPointer.h"
 #include "platform/fakes/FixedScreen.h"
@@ -69,8 +70,13 @@ public:
     void leave();
     // The release of a press will not come.
     void cancelGesture() { m_game.view().cancelGesture(); }
-    // Chooses the menu item under the keys; nothing else listens to keys.
-    void key(std::string_view keys) { m_menu.triggerKeys(keys); }
+    // One finger. A long press takes as long as it takes.
+    void touch(platform::Point place);
+    void touchDrag(platform::Point from, platform::Point to);
+    void longPress(platform::Point place);
+    void rightClick(platform::Point place);
+    // Chooses the menu item under the keys, or else does what they do on the board.
+    void key(std::string_view keys);
     // The view gets another size (points), under a pointer that rests.
     void resize(platform::Size size);
     // Whoever shows the view does the resizing: full screen and zoom then call this instead.
@@ -118,6 +124,7 @@ private:
     progress::CurrentGame m_currentGame;
     board::GameData m_gameData;
     controller::Game m_game;
+    input::Touch m_touch;
     std::function<void(platform::Size)> m_resizer;
     platform::Size m_viewSize;
     platform::Point m_place;

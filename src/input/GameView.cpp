@@ -2,6 +2,7 @@
 
 #include "board/ElementKey.h"
 #include "board/Times.h"
+#include "input/Stops.h"
 
 #include <cmath>
 #include <utility>
@@ -14,7 +15,6 @@ using board::ElementKey;
 namespace {
 
 constexpr double kDragThreshold = 3.0; // points, along either axis
-constexpr float kDraggedOpacity = 0.5F;
 
 bool contains(const board::ObjectTable& table, board::ButtonAction button)
 {
@@ -39,13 +39,26 @@ GameView::GameView(const Parts& parts)
 
 void GameView::mouseDown(const MouseEvent& event)
 {
-    cancelGesture();
+    tellPointerUsed();
+    if (m_lift != Lift::ByPointer) {
+        cancelGesture();
+    }
+    ++m_presses;
+    m_liftIsFresh = false;
+    m_isTouch = event.isTouch;
     m_held = Hover::Button::Held;
     if (m_onlooker != nullptr) {
         m_onlooker->pressBegins();
     }
     if (m_block.blockClick() || m_target == nullptr) {
-        losePress(event);
+        if (losePress(keyHit(event.location), event.hasModifier)) {
+            m_lost = event.location;
+        }
+        return;
+    }
+    if (m_lift == Lift::ByPointer) {
+        m_click = true; // it drops the chip, or puts it back
+        m_position = event.location;
         return;
     }
     m_remembered.clear();
@@ -64,25 +77,55 @@ void GameView::mouseDown(const MouseEvent& event)
         m_lastPressed = keyHit(event.location);
         m_lastPressTime = m_runLoop.now();
         holdDown(m_lastPressed);
+        awaitLongPress(event);
         tellHandsChanged();
     }
 }
 
-void GameView::losePress(const MouseEvent& event)
+// True if it is remembered, should it be let go where it was pressed.
+bool GameView::losePress(const std::string& key, bool hasModifier)
 {
-    const std::string key = keyHit(event.location);
     const bool isSecondOfTwo
         = key == m_lastPressed && m_runLoop.now() - m_lastPressTime < times::kDoubleClick;
     m_lastPressed = key;
     m_lastPressTime = m_runLoop.now();
-    if (event.hasModifier || m_overlay == Overlay::Page) {
-        return;
-    }
-    if (board::isChipKey(key) && !isSecondOfTwo) {
-        m_lost = event.location;
+    if (hasModifier || m_overlay == Overlay::Page) {
+        return false;
     }
     if (m_onlooker != nullptr) {
         m_onlooker->pressLost(key);
+    }
+    return board::isChipKey(key) && !isSecondOfTwo;
+}
+
+void GameView::activate(const std::string& key)
+{
+    cancelGesture();
+    if (m_onlooker != nullptr) {
+        m_onlooker->pressBegins();
+    }
+    if (m_block.blockClick() || m_target == nullptr) {
+        if (losePress(key, false)) {
+            m_remembered = key;
+        }
+        return;
+    }
+    m_remembered.clear();
+    if (m_overlay == Overlay::Page) {
+        m_target->messageWindowClick();
+        return;
+    }
+    if (m_overlay == Overlay::Note) {
+        const std::string note = m_gameData.gameObjects().contains(key) ? key : std::string();
+        m_target->messageWindowClick();
+        if (note == kMessageKey || m_overlay == Overlay::Page) {
+            return;
+        }
+    }
+    m_lastPressed = key;
+    m_lastPressTime = m_runLoop.now();
+    if (m_gameData.gameObjects().contains(key)) {
+        mouseClick({}, key);
     }
 }
 
@@ -95,7 +138,7 @@ void GameView::mouseDragged(const MouseEvent& event)
         if (originLayer() == nullptr) {
             abandonDrag();
         } else {
-            m_dragImage.moveTo(onBackground(event.location));
+            carry(event.location);
         }
     }
     followPointer();
@@ -103,7 +146,8 @@ void GameView::mouseDragged(const MouseEvent& event)
 
 void GameView::followPointer()
 {
-    m_hover.pointerMoved(m_held);
+    // To what can be dropped on, a lifted chip is one that is dragged.
+    m_hover.pointerMoved(m_lift == Lift::ByPointer ? Hover::Button::Held : m_held);
     if (m_onlooker != nullptr) {
         m_onlooker->pointerMoved();
     }
@@ -113,11 +157,19 @@ void GameView::mouseUp(const MouseEvent& event)
 {
     m_held = Hover::Button::Up; // whatever the game's answer opens has no gesture to cancel
     letGo();
+    if (m_lift == Lift::ByPointer) {
+        settleLift(event);
+        return;
+    }
     if (m_drag) {
-        endDrag(event);
+        endDrag(event, keyHit(event.location));
     } else if (m_click) {
         const std::string pressed = keyHit(m_position);
         if (!pressed.empty() && pressed == keyHit(event.location)) {
+            if (liftsByClick(pressed) && lift(pressed, Lift::ByPointer)) {
+                stayLifted();
+                return;
+            }
             mouseClick(event, pressed);
         }
     }
@@ -128,13 +180,29 @@ void GameView::mouseUp(const MouseEvent& event)
 // Moves come with the button up only when its release went elsewhere.
 void GameView::mouseMoved()
 {
-    cancelGesture();
+    const auto place = m_pointer.position();
+    if (place != m_pointerSeen) {
+        tellPointerUsed();
+    }
+    if (m_lift == Lift::ByPointer && place) {
+        carry(*place);
+    } else {
+        cancelGesture();
+    }
     followPointer();
+}
+
+void GameView::tellPointerUsed()
+{
+    m_pointerSeen = m_pointer.position();
+    if (m_pointerUsed) {
+        m_pointerUsed();
+    }
 }
 
 void GameView::cancelGesture()
 {
-    if (m_held == Hover::Button::Up) {
+    if (m_held == Hover::Button::Up && m_lift == Lift::None) {
         return;
     }
     letGo();
@@ -162,6 +230,7 @@ void GameView::finishGesture()
 {
     m_click = false;
     m_drag.reset();
+    m_lift = Lift::None;
     m_blockDrag = false;
     m_lost.reset();
     m_held = Hover::Button::Up;
@@ -196,120 +265,6 @@ bool GameView::hasMoved(platform::Point location) const
         || std::abs(location.y - m_position.y) >= kDragThreshold;
 }
 
-void GameView::tryToStartDrag(platform::Point location)
-{
-    const std::string key = keyHit(location);
-    if (!board::isChipKey(key)) {
-        return; // a later move tries again
-    }
-    const unsigned row = board::rowForKey(key);
-    const auto targets = m_target->areasToTrack(row, board::columnForKey(key));
-    if (m_target->rowToDrag() != row || !targets) {
-        m_blockDrag = true;
-        if (m_onlooker != nullptr) {
-            m_onlooker->dragRefused(key);
-        }
-        return;
-    }
-    startLayerDrag(key, m_position);
-    m_hover.createTrackingAreas(row, *targets);
-    tellHandsChanged();
-}
-
-void GameView::startLayerDrag(const std::string& key, platform::Point position)
-{
-    const board::GameObjectPtr chip = m_gameData.gameObjects().objectForKey(key);
-    present::GameObjectLayer* const layer = m_layers.layerForKey(key);
-    if (!chip || layer == nullptr) {
-        return;
-    }
-    m_drag = Drag { key, chip };
-    const board::GameObjectPtr measure
-        = m_gameData.gameObjects().objectForKey(board::generateKeyChipKey(0, 0));
-    const double side = (measure ? measure->width() : board::kChipSize) * m_gameData.gameHeight();
-    m_dragImage.createDragImageLayer(chip->imageName(), onBackground(position), side);
-    layer->setOpacity(kDraggedOpacity);
-}
-
-void GameView::endDrag(const MouseEvent& event)
-{
-    present::GameObjectLayer* const origin = originLayer();
-    if (origin == nullptr) {
-        abandonDrag();
-        return;
-    }
-    const platform::PointF home = origin->position();
-    const std::string originKey = m_drag->originKey;
-    m_hover.flushTrackingAreas();
-    m_dragImage.fadeOut();
-    const std::string droppedOn = keyHit(event.location);
-    const bool moved = dropOnKey(event, originKey, droppedOn);
-    if (!moved) {
-        m_dragImage.flyTo(home);
-    }
-    // The chips of the line that was played on lose their glow: the line before the new one, if
-    // any.
-    const unsigned newLines = moved ? 1 : 0;
-    if (const unsigned count = m_target->lineCount(); count > newLines) {
-        const unsigned row = count - 1 - newLines;
-        m_hover.turnOffEffectsForRow(row, m_target->lengthOfRow(row));
-    }
-    if (present::GameObjectLayer* const chip = originLayer()) {
-        chip->setOpacity(1.0F);
-    }
-    m_dragImage.removeAfterFade();
-    if (!moved) {
-        missedDrop(event, originKey, droppedOn);
-    }
-}
-
-// What happened on the way is settled by now, so a click may follow.
-void GameView::missedDrop(const MouseEvent& event, const std::string& from, const std::string& to)
-{
-    if (from != to) {
-        if (m_onlooker != nullptr) {
-            m_onlooker->dropMissed(from, to);
-        }
-    } else if (m_habits && m_habits().forgivingClicks) {
-        mouseClick(event, from);
-    } else if (m_onlooker != nullptr) {
-        m_onlooker->clickMissed(from);
-    }
-}
-
-void GameView::takeBackDrag()
-{
-    present::GameObjectLayer* const origin = originLayer();
-    if (origin == nullptr) {
-        abandonDrag();
-        return;
-    }
-    m_hover.flushTrackingAreas();
-    m_dragImage.fadeOut();
-    m_dragImage.flyTo(origin->position());
-    m_dragImage.removeAfterFade();
-    const unsigned row = board::rowForKey(m_drag->originKey);
-    m_hover.turnOffEffectsForRow(row, m_target->lengthOfRow(row));
-    origin->setOpacity(1.0F);
-}
-
-// The chip that is dragged has gone, or another has taken its key: there is nothing left to drop.
-void GameView::abandonDrag()
-{
-    m_hover.flushTrackingAreas();
-    m_dragImage.fadeOut();
-    m_dragImage.removeAfterFade();
-    m_drag.reset();
-    m_click = false;
-}
-
-present::GameObjectLayer* GameView::originLayer() const
-{
-    const board::GameObjectPtr chip = m_gameData.gameObjects().objectForKey(m_drag->originKey);
-    return chip && chip == m_drag->originChip.lock() ? m_layers.layerForKey(m_drag->originKey)
-                                                     : nullptr;
-}
-
 void GameView::mouseClick(const MouseEvent& event, const std::string& key)
 {
     // The block starts before the game answers, so that the game may lengthen it.
@@ -330,23 +285,6 @@ void GameView::mouseClick(const MouseEvent& event, const std::string& key)
     case ElementKey::Kind::Other:
         return;
     }
-}
-
-bool GameView::dropOnKey(const MouseEvent& event, const std::string& from, const std::string& to)
-{
-    const ElementKey origin = board::parsedKey(from);
-    const ElementKey place = board::parsedKey(to);
-    if (place.kind != ElementKey::Kind::Chip || origin.row != place.row
-        || origin.column == place.column) {
-        return false;
-    }
-    m_block.setDelay(paced(times::kChipBlock));
-    const bool moved
-        = m_target->mouseDrag(event, *origin.row, *origin.column, *place.row, *place.column);
-    if (moved) {
-        m_block.blockAndPollAfter(paced(times::kChipBlock));
-    }
-    return moved;
 }
 
 double GameView::paced(double seconds) const
@@ -395,6 +333,11 @@ std::string GameView::keyHeld() const
 std::string GameView::keyDragged() const
 {
     return m_drag ? m_drag->originKey : std::string();
+}
+
+std::string GameView::keyLifted() const
+{
+    return m_lift != Lift::None ? keyDragged() : std::string();
 }
 
 void GameView::establishButtonTracking()

@@ -29,6 +29,9 @@ public:
         bool rememberPress = false;
         // A chip that is let go over itself counts as clicked.
         bool forgivingClicks = false;
+        // A right click, a long press, or a click on a chip that can only be dragged lifts the chip
+        // off its place; the next click drops it.
+        bool liftByClick = false;
     };
     explicit GameView(const Parts& parts);
 
@@ -36,6 +39,8 @@ public:
     void setOnlooker(Onlooker* onlooker) { m_onlooker = onlooker; }
     // What the player has chosen; asked whenever it matters.
     void setHabits(std::function<Habits()> habits) { m_habits = std::move(habits); }
+    // Called whenever the mouse or a finger is used.
+    void setPointerListener(std::function<void()> listener) { m_pointerUsed = std::move(listener); }
 
     // Events of the left button, in the order in which they happen; and the pointer's free
     // movement.
@@ -43,11 +48,19 @@ public:
     void mouseDragged(const MouseEvent& event);
     void mouseUp(const MouseEvent& event);
     void mouseMoved();
+    void rightMouseDown(const MouseEvent& event);
     // The pointer is outside; the button may be held there.
     void pointerLeft() { followPointer(); }
     // The release will not come, or would mean nothing: the window has gone, another has the
     // pointer, a box wants an answer first. A chip in the hand goes back, and the press was none.
     void cancelGesture();
+
+    // A press and release on an element, without a pointer: by a key, by a reader.
+    void activate(const std::string& key);
+    // The chip is taken up without a pointer and carried over another; false when it may not be.
+    bool liftByKey(const std::string& key);
+    void carryTo(const std::string& key); // nothing happens when none is lifted
+    void drop(const std::string& key);
 
     [[nodiscard]] Overlay overlay() const { return m_overlay; }
     void setOverlay(Overlay overlay) { m_overlay = overlay; }
@@ -63,6 +76,8 @@ public:
     [[nodiscard]] std::optional<platform::PointF> pointerPlace() const; // in the view's points
     [[nodiscard]] std::string keyHeld() const;
     [[nodiscard]] std::string keyDragged() const;
+    // The chip that is in the hand with no button held.
+    [[nodiscard]] std::string keyLifted() const;
 
     void establishButtonTracking() override;
     // After the window changed size or mode: tracks what is on the screen now.
@@ -71,6 +86,8 @@ public:
     void turnOnAllHovers();
 
 private:
+    // How a chip came into the hand other than by a drag.
+    enum class Lift { None, ByKey, ByPointer };
     struct Drag {
         std::string originKey;
         std::weak_ptr<board::GameObject> originChip;
@@ -85,7 +102,15 @@ private:
     void letGo();
     void tryToStartDrag(platform::Point location);
     void startLayerDrag(const std::string& key, platform::Point position);
-    void endDrag(const MouseEvent& event);
+    void carry(platform::Point location);
+    void endDrag(const MouseEvent& event, const std::string& droppedOn);
+    bool lift(const std::string& key, Lift how);
+    [[nodiscard]] bool liftsByClick(const std::string& key) const;
+    [[nodiscard]] bool isTarget(const std::string& key) const;
+    void awaitLongPress(const MouseEvent& event);
+    void settleLift(const MouseEvent& event);
+    void stayLifted();
+    void tellPointerUsed();
     void takeBackDrag();
     void abandonDrag();
     void finishGesture();
@@ -94,7 +119,7 @@ private:
     void blockEnded();
     void followPointer();
     void tellHandsChanged() const;
-    void losePress(const MouseEvent& event);
+    bool losePress(const std::string& key, bool hasModifier);
     void rememberPress(const MouseEvent& release);
     void playRememberedPress();
     void missedDrop(const MouseEvent& event, const std::string& from, const std::string& to);
@@ -105,6 +130,7 @@ private:
     GestureTarget* m_target = nullptr;
     Onlooker* m_onlooker = nullptr;
     std::function<Habits()> m_habits;
+    std::function<void()> m_pointerUsed;
     platform::RunLoop& m_runLoop;
     const platform::Pointer& m_pointer;
     InputBlock m_block;
@@ -116,6 +142,11 @@ private:
     std::string m_lastPressed;
     double m_lastPressTime = -1.0;
     std::optional<Drag> m_drag;
+    Lift m_lift = Lift::None;
+    bool m_liftIsFresh = false; // by the press that still goes on
+    bool m_isTouch = false; // the last press
+    unsigned m_presses = 0; // counts them, so that a late call knows its own
+    std::optional<platform::Point> m_pointerSeen; // where the pointer was last heard of
     std::string m_heldKey; // of the button that looks pressed
     Hover::Button m_held = Hover::Button::Up;
     bool m_click = false; // a press that may become a click or a drag

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Geometry.h"
+#include "play/Gesture.h"
 
 #include <optional>
 #include <string>
@@ -13,6 +14,7 @@ namespace veyrand::input {
 struct MouseEvent {
     platform::Point location;
     bool hasModifier = false; // Shift, Control, Option (Alt) or Command
+    bool isTouch = false; // a finger: it hides what lies under it, and has no hover
 };
 
 // What the game view asks of the game: the answers to its gestures, and what it may track. Rows and
@@ -34,6 +36,9 @@ public:
     virtual void messageWindowClick() = 0;
     // Whether a click there would be a move now.
     [[nodiscard]] virtual bool isMove(unsigned row, unsigned column) const = 0;
+
+    // Every click and every drop that is a move now.
+    [[nodiscard]] virtual std::vector<play::Gesture> actions() const = 0;
 
     // The only row whose chips may be dragged; none while there is no line.
     [[nodiscard]] virtual std::optional<unsigned> rowToDrag() const = 0;

@@ -34,6 +34,7 @@ public:
         return playableRow == row && column == moveColumn;
     }
 
+    [[nodiscard]] std::vector<play::Gesture> actions() const override { return moves; }
     [[nodiscard]] std::optional<unsigned> rowToDrag() const override { return playableRow; }
     [[nodiscard]] std::optional<std::vector<unsigned>> areasToTrack(
         unsigned /*row*/, unsigned /*column*/) const override
@@ -49,6 +50,7 @@ public:
     std::function<void()> whenAsked; // runs inside every call
     std::optional<unsigned> playableRow = 1;
     std::optional<std::vector<unsigned>> targets = std::vector<unsigned> { 1 };
+    std::vector<play::Gesture> moves;
     unsigned lines = 2;
     unsigned moveColumn = 0;
     bool acceptsDrags = false;
@@ -155,6 +157,8 @@ protected:
     [[nodiscard]] FakeGame& target() { return m_target; }
     [[nodiscard]] FakeMenu& menu() { return m_menu; }
     [[nodiscard]] GameView& view() { return m_view; }
+    [[nodiscard]] present::BoardLayers& layers() { return m_layers; }
+    [[nodiscard]] platform::TrackedPointer& pointer() { return m_pointer; }
     [[nodiscard]] board::ObjectTable& table() { return m_gameData.gameObjects(); }
     [[nodiscard]] board::LineDrawing& lines() { return m_lines; }
     [[nodiscard]] bool blocked() { return m_view.block().blockClick(); }

@@ -23,6 +23,13 @@ public:
     void move(platform::Point place) override { m_game.move(place); }
     void press(platform::Point place, const std::vector<std::string>& modifiers) override;
     void release(platform::Point place) override { m_game.release(place); }
+    void touch(platform::Point place) override { m_game.touch(place); }
+    void touchDrag(platform::Point from, platform::Point to) override
+    {
+        m_game.touchDrag(from, to);
+    }
+    void longPress(platform::Point place) override { m_game.longPress(place); }
+    void rightClick(platform::Point place) override { m_game.rightClick(place); }
     void key(const std::string& keys) override { m_game.key(QString::fromStdString(keys)); }
     void resize(int width, int height) override { m_game.resize({ width, height }); }
     bool chooseMenuItem(const std::string& text) override

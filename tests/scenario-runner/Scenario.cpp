@@ -171,6 +171,31 @@ Json Scenario::drag(const Arguments& arguments)
     return {};
 }
 
+Json Scenario::touch(const Arguments& arguments)
+{
+    onStage().touch(place(arguments.at(0)));
+    return {};
+}
+
+Json Scenario::touchDrag(const Arguments& arguments)
+{
+    const platform::Point start = place(arguments.at(0));
+    onStage().touchDrag(start, place(arguments.at(1)));
+    return {};
+}
+
+Json Scenario::longPress(const Arguments& arguments)
+{
+    onStage().longPress(place(arguments.at(0)));
+    return {};
+}
+
+Json Scenario::rightClick(const Arguments& arguments)
+{
+    onStage().rightClick(place(arguments.at(0)));
+    return {};
+}
+
 Json Scenario::key(const Arguments& arguments)
 {
     onStage().key(arguments.text(0));

@@ -46,6 +46,10 @@ private:
     Json release(const Arguments& arguments);
     Json click(const Arguments& arguments);
     Json drag(const Arguments& arguments);
+    Json touch(const Arguments& arguments);
+    Json touchDrag(const Arguments& arguments);
+    Json longPress(const Arguments& arguments);
+    Json rightClick(const Arguments& arguments);
     Json key(const Arguments& arguments);
     Json resize(const Arguments& arguments);
     Json menu(const Arguments& arguments);
@@ -56,6 +60,7 @@ private:
     Json textOf(const Arguments& arguments);
     Json layer(const Arguments& arguments);
 
+    Json focus(const Arguments& arguments);
     Json cursor(const Arguments& arguments);
     Json tip(const Arguments& arguments);
     Json whisper(const Arguments& arguments);

@@ -59,6 +59,12 @@ Json Scenario::layer(const Arguments& arguments)
         { "glow", static_cast<double>(layer->glow()) } };
 }
 
+Json Scenario::focus(const Arguments& /*arguments*/)
+{
+    const auto stop = game().controller().focus().shown();
+    return stop ? Json(stop->key) : Json();
+}
+
 Json Scenario::cursor(const Arguments& /*arguments*/)
 {
     return input::nameOf(game().controller().answers().cursor());
@@ -266,9 +272,12 @@ const std::vector<Scenario::Operation>& Scenario::table()
         { "kill", &Scenario::kill }, { "restart", &Scenario::restart }, { "wait", &Scenario::wait },
         { "move", &Scenario::move }, { "press", &Scenario::press },
         { "release", &Scenario::release }, { "click", &Scenario::click },
-        { "drag", &Scenario::drag }, { "key", &Scenario::key }, { "resize", &Scenario::resize },
-        { "menu", &Scenario::menu }, { "screenshot", &Scenario::screenshot },
-        { "keys", &Scenario::keys }, { "object", &Scenario::object }, { "text", &Scenario::textOf },
+        { "drag", &Scenario::drag }, { "touch", &Scenario::touch },
+        { "touchDrag", &Scenario::touchDrag }, { "longPress", &Scenario::longPress },
+        { "rightClick", &Scenario::rightClick }, { "focus", &Scenario::focus },
+        { "key", &Scenario::key }, { "resize", &Scenario::resize }, { "menu", &Scenario::menu },
+        { "screenshot", &Scenario::screenshot }, { "keys", &Scenario::keys },
+        { "object", &Scenario::object }, { "text", &Scenario::textOf },
         { "layer", &Scenario::layer }, { "cursor", &Scenario::cursor }, { "tip", &Scenario::tip },
         { "whisper", &Scenario::whisper }, { "extras", &Scenario::extras },
         { "lines", &Scenario::lines }, { "goal", &Scenario::goal }, { "par", &Scenario::par },

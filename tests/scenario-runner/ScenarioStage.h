@@ -33,6 +33,11 @@ public:
     virtual void move(platform::Point place) = 0;
     virtual void press(platform::Point place, const std::vector<std::string>& modifiers) = 0;
     virtual void release(platform::Point place) = 0;
+    // One finger; a long press takes the time it takes.
+    virtual void touch(platform::Point place) = 0;
+    virtual void touchDrag(platform::Point from, platform::Point to) = 0;
+    virtual void longPress(platform::Point place) = 0;
+    virtual void rightClick(platform::Point place) = 0;
     virtual void key(const std::string& keys) = 0;
     virtual void resize(int width, int height) = 0; // points
     // False when there is no such item, or it may not be chosen now.

@@ -7,8 +7,8 @@ be soft is made of gradients and stacked outlines, as everywhere.
 import math
 import random
 
-from .palette import (BRASS, BRASS_EDGE, BRASS_PLATE, CHIP, EXTRA_DARK, IVORY_PLATE, LIMIT, RIBBON, RIBBON_EDGE, SHADOW,
-                      SHINE, WARM_LIGHT)
+from .palette import (BRASS, BRASS_EDGE, BRASS_PLATE, CHIP, EXTRA_DARK, FOCUS_EDGE, IVORY, IVORY_PLATE, LIMIT, RIBBON,
+                      RIBBON_EDGE, SHADOW, SHINE, WARM_LIGHT)
 from .shapes import plate, plate_shadow, scalloped_disc
 from .svg import UNITS_PER_HEIGHT, Drawing, number, numbers
 
@@ -104,6 +104,30 @@ def limit_row():
         drawing.path(_box(0, y, FIELD, 6), fill=drawing.linear(
             0, 0, FIELD, 0, [(0, LIMIT, 1), (.8, LIMIT, .8), (1, LIMIT, 0)]))
     return drawing
+
+
+# --- where the keyboard stands: light between two dark lines, so that it is seen on any ground. A little
+# larger than what it goes round.
+
+FOCUS_ROOM = 18      # outside the light's middle
+FOCUS_DARK, FOCUS_LIGHT = 17, 8.4
+
+
+def _focus(width, height, data):
+    drawing = Drawing(width + 2 * FOCUS_ROOM, height + 2 * FOCUS_ROOM)
+    path = data(FOCUS_ROOM, FOCUS_ROOM)
+    drawing.path(path, stroke=FOCUS_EDGE, width=FOCUS_DARK)
+    drawing.path(path, stroke=IVORY, width=FOCUS_LIGHT)
+    return drawing
+
+
+def focus_round(radius):
+    return _focus(2 * radius, 2 * radius, lambda x, y: 'M%s %sa%s %s 0 1 0 %s 0a%s %s 0 1 0 %s 0Z' % numbers(
+        x, y + radius, radius, radius, 2 * radius, radius, radius, -2 * radius))
+
+
+def focus_plate(width, height, scoop, top=None, bottom=None):
+    return _focus(width, height, lambda x, y: plate(x, y, width, height, scoop, top, bottom))
 
 
 # --- plates for words: drawn in steps of width, so that their corners are never stretched
@@ -290,6 +314,11 @@ def pictures():
         'RowLight': row_light, 'RowFlash': row_flash, 'Ring': ring, 'Halo': halo, 'Shine': shine, 'LimitEdge': limit_edge,
         'LimitRing': limit_ring, 'LimitRow': limit_row, 'BrassPlate': brass_plate, 'LineGlow': line_glow,
         'Spark': spark,
+        'FocusStone': lambda: focus_round(83), 'FocusDelete': lambda: focus_round(58),
+        'FocusPanel': lambda: focus_plate(322, 160, 21), 'FocusTitle': lambda: focus_plate(582, 262, 26),
+        'FocusAnswer': lambda: focus_plate(862, 254, 26),
+        'FocusHarder': lambda: focus_plate(418, 196, 21, bottom=0),
+        'FocusEasier': lambda: focus_plate(418, 196, 21, top=0),
     }
     for turn, name in ((0, 'Up'), (2, 'Down'), (3, 'Left')):
         known['TipNose' + name] = lambda turn=turn: tip_nose(turn)

@@ -83,6 +83,7 @@ SHINE = '#FFFFFF'
 # --- what the view adds while the board is played on
 WARM_LIGHT = '#FFE9A8'
 LIMIT = '#FFD98A'
+FOCUS_EDGE = '#120802'
 EXTRA_DARK = '#1A0D04'
 IVORY_PLATE = [(0, '#FFFBF0'), (1, '#F1E4C6')]
 BRASS_PLATE = [(0, '#F7E3AC'), (.5, '#E6C67A'), (1, '#CFA557')]

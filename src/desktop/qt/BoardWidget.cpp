@@ -4,9 +4,11 @@
 #include "input/MouseTrail.h"
 
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScreen>
+#include <QTouchEvent>
 
 #include <cmath>
 
@@ -35,8 +37,10 @@ BoardWidget::BoardWidget(Parts parts, QWidget* parent)
     : QWidget(parent)
     , m_parts(std::move(parts))
     , m_painter(m_parts.images)
+    , m_touch(m_parts.view, m_parts.layers, m_parts.pointer)
 {
     setMouseTracking(true);
+    setAttribute(Qt::WA_AcceptTouchEvents);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: black lies behind everything
     setMinimumSize(480, 300);
@@ -131,6 +135,8 @@ void BoardWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton) {
         m_dragged = press.location;
         m_parts.view.mouseDown(press);
+    } else if (event->button() == Qt::RightButton) {
+        m_parts.view.rightMouseDown(press);
     }
     showCursor();
 }
@@ -195,19 +201,61 @@ bool BoardWidget::event(QEvent* event)
     case QEvent::UngrabMouse:
         cancelGesture();
         break;
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        return touch(*static_cast<QTouchEvent*>(event));
     default:
         break;
     }
     return QWidget::event(event);
 }
 
+// The first finger plays; what others do is not looked at.
+bool BoardWidget::touch(const QTouchEvent& event)
+{
+    if (event.type() == QEvent::TouchCancel) {
+        m_touch.cancelled();
+        return true;
+    }
+    if (event.points().isEmpty()) {
+        return true;
+    }
+    const QEventPoint& finger = event.points().first();
+    const platform::Point place = gamePoint(mapFromGlobal(finger.globalPosition()));
+    switch (finger.state()) {
+    case QEventPoint::Pressed:
+        m_touch.began(place);
+        break;
+    case QEventPoint::Updated:
+        m_touch.moved(place);
+        break;
+    case QEventPoint::Released:
+        m_touch.ended(place);
+        break;
+    default:
+        break;
+    }
+    return true;
+}
+
 void BoardWidget::keyPressEvent(QKeyEvent* event)
 {
-    const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-        || event->key() == Qt::Key_Space;
-    if (!confirms || event->isAutoRepeat() || !m_parts.closePage || !m_parts.closePage()) {
+    const QKeyCombination keys(
+        event->modifiers() & ~Qt::KeypadModifier, static_cast<Qt::Key>(event->key()));
+    const KeyPress press { .keys
+        = QKeySequence(keys).toString(QKeySequence::PortableText).toStdString(),
+        .isRepeated = event->isAutoRepeat() };
+    if (!m_parts.key || !m_parts.key(press)) {
         QWidget::keyPressEvent(event);
     }
+}
+
+// Tab goes round on the board; the menus have Alt.
+bool BoardWidget::focusNextPrevChild(bool /*next*/)
+{
+    return false;
 }
 
 ListPainter::Surface BoardWidget::surface() const

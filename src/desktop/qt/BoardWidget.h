@@ -2,14 +2,16 @@
 
 #include "desktop/qt/ListPainter.h"
 #include "input/Cursor.h"
-#include "input/GameView.h"
+#include "input/Touch.h"
 #include "platform/TrackedPointer.h"
 
 #include <QTimer>
+#include <QTouchEvent>
 #include <QWidget>
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace veyrand::desktop::qt {
 
@@ -18,6 +20,10 @@ namespace veyrand::desktop::qt {
 // all while nothing does.
 class BoardWidget final : public QWidget {
 public:
+    struct KeyPress {
+        std::string keys; // as menus spell it: "Ctrl+Right"
+        bool isRepeated = false; // it is held down
+    };
     struct Parts {
         present::BoardLayers& layers;
         input::GameView& view;
@@ -27,8 +33,8 @@ public:
         std::function<void(platform::Size)> resized;
         // What the pointer looks like now; an arrow always when nobody says.
         std::function<input::Cursor()> cursor {};
-        // Return or Space: true if they have closed something.
-        std::function<bool()> closePage {};
+        // A key that no menu has: true if the game has a use for it.
+        std::function<bool(const KeyPress&)> key {};
     };
     explicit BoardWidget(Parts parts, QWidget* parent = nullptr);
     BoardWidget(const BoardWidget&) = delete;
@@ -58,6 +64,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void scheduleFrame();
@@ -65,12 +72,14 @@ private:
     [[nodiscard]] ListPainter::Surface surface() const;
     [[nodiscard]] platform::Point gamePoint(QPointF position) const;
     [[nodiscard]] input::MouseEvent track(const QMouseEvent& event);
+    bool touch(const QTouchEvent& event);
     void findPointerAgain();
     void followTo(const QMouseEvent& event);
     void showCursor();
 
     Parts m_parts;
     ListPainter m_painter;
+    input::Touch m_touch;
     present::DisplayList m_shown;
     QTimer m_frameTimer;
     std::optional<QPointF> m_pointerOnDesktop;
