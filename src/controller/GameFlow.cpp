@@ -18,10 +18,6 @@ namespace {
 constexpr int kLastLevel = 11;
 constexpr int kLastStage = 10;
 
-// Pars in lines, the start line included.
-constexpr int kEasiestPar = 3;
-constexpr int kHardestPar = 12;
-
 bool isOnePlaceOfTheGame(int level, int stage)
 {
     return level >= 1 && level <= kLastLevel && stage >= 1 && stage <= kLastStage;

@@ -11,6 +11,10 @@ namespace veyrand::controller {
 
 class GameController;
 
+// The pars between which Easier and Harder go, in lines, the start line included.
+inline constexpr int kEasiestPar = 3;
+inline constexpr int kHardestPar = 12;
+
 // Starts, continues and advances games, holds the puzzle in play, hands it every action, and saves
 // progress to the player's record after every puzzle.
 class GameFlow {

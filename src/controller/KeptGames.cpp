@@ -81,7 +81,7 @@ void KeptGames::recoverFrom(Mode mode, const std::string& contents)
     }
     if (text.state == State::Foreign) {
         m_game.log.write("The journal " + nameOf(mode) + " is of another player");
-        m_game.journal->keepAside(nameOf(mode), "aside");
+        static_cast<void>(m_game.journal->keepAside(nameOf(mode), "aside"));
         return;
     }
     Recovery recovery
@@ -123,7 +123,7 @@ void KeptGames::found(Mode mode, Recovery recovery, const play::JournalText& tex
     case Recovery::Found::Misfit:
         m_game.log.write("The journal " + nameOf(mode)
             + " is not of the puzzle at which the record stands, and is kept aside");
-        m_game.journal->keepAside(nameOf(mode), "aside");
+        static_cast<void>(m_game.journal->keepAside(nameOf(mode), "aside"));
         return;
     case Recovery::Found::Nothing:
     case Recovery::Found::AlreadySaved:

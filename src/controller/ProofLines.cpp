@@ -49,8 +49,8 @@ void ProofLines::calculateScore()
 void ProofLines::clearProof(unsigned firstRow, unsigned count, DeleteButtons buttons)
 {
     engine::Proof& proof = *m_controller.proof();
-    const auto first = proof.lines().begin() + firstRow;
-    const std::vector<engine::Theorem> lines(first, first + count);
+    const auto first = proof.lines().begin() + static_cast<std::ptrdiff_t>(firstRow);
+    const std::vector<engine::Theorem> lines(first, first + static_cast<std::ptrdiff_t>(count));
     for (unsigned i = 0; i < count; ++i) {
         proof.removeLine(firstRow);
     }

@@ -11,9 +11,6 @@ namespace veyrand::controller {
 
 namespace {
 
-// In lines, the start line included, as the Endless game counts its pars.
-constexpr int kEasiestPar = 3;
-constexpr int kHardestPar = 12;
 constexpr int kPuzzlesOfALevel = 10;
 
 std::string counted(long number, const char* one, const char* many)

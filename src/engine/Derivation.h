@@ -86,7 +86,7 @@ void derive(const Moves& moves, const typename Moves::Line& root, const TreeLimi
         std::size_t count = kept.count;
         for (std::size_t c = 0; c < looked; ++c) {
             // Written behind the last line either way, where it stays only if the count grows.
-            const Line& child = children.begin()[c];
+            const Line& child = children.begin()[static_cast<std::ptrdiff_t>(c)];
             lines[count] = child;
             parents[count] = static_cast<std::uint32_t>(i);
             const bool isNew = seen.insert(child);

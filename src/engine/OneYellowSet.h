@@ -27,7 +27,7 @@ public:
     {
         const std::uint64_t index = indexOf(line);
         const std::uint64_t bit = std::uint64_t { 1 } << (index % kWordBits);
-        std::uint64_t& word = m_bits[index / kWordBits];
+        std::uint64_t& word = m_bits[static_cast<std::size_t>(index / kWordBits)];
         const bool isNew = (word & bit) == 0;
         word |= bit;
         return isNew;

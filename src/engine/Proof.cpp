@@ -42,7 +42,7 @@ bool Proof::removeLine(unsigned index)
     if (index >= m_lines.size()) {
         return false;
     }
-    m_lines.erase(m_lines.begin() + index);
+    m_lines.erase(m_lines.begin() + static_cast<std::ptrdiff_t>(index));
     return true;
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 using progress::Mode;
 
-constexpr std::string_view kMagic = "veyrand-previous ";
+constexpr std::string_view kRecordMagic = "veyrand-previous ";
 
 std::string_view nameOf(Mode mode)
 {
@@ -21,9 +21,9 @@ std::string_view nameOf(Mode mode)
 std::string recordLine(const PreviousGame& game, std::string_view player)
 {
     const Standing& standing = game.standing;
-    return std::string(kMagic) + std::to_string(kActionFormat) + ' ' + percentEncoded(player) + ' '
-        + std::string(nameOf(standing.mode)) + ' ' + std::to_string(standing.place.level) + '-'
-        + std::to_string(standing.place.stage) + ' ' + std::to_string(standing.score) + ' '
+    return std::string(kRecordMagic) + std::to_string(kActionFormat) + ' ' + percentEncoded(player)
+        + ' ' + std::string(nameOf(standing.mode)) + ' ' + std::to_string(standing.place.level)
+        + '-' + std::to_string(standing.place.stage) + ' ' + std::to_string(standing.score) + ' '
         + std::to_string(standing.endlessPar) + ' ' + (game.knowsHints ? '1' : '0');
 }
 
@@ -41,7 +41,7 @@ template <class Number> bool take(std::string_view& text, char end, Number& numb
 // Whatever is not as recordLine writes it is found out by writing it anew.
 std::optional<PreviousGame> gameOf(std::string_view line, std::string_view player, Mode mode)
 {
-    const std::string head = std::string(kMagic) + std::to_string(kActionFormat) + ' '
+    const std::string head = std::string(kRecordMagic) + std::to_string(kActionFormat) + ' '
         + percentEncoded(player) + ' ' + std::string(nameOf(mode)) + ' ';
     if (line.substr(0, head.size()) != head) {
         return std::nullopt;
@@ -88,8 +88,8 @@ std::vector<PreviousGame> previousGamesIn(
         }
         text.remove_prefix(std::min(end + 1, text.size()));
         // Its journal goes as far as the next record.
-        const std::string next = '\n' + std::string(kMagic);
-        const std::size_t size = text.substr(0, kMagic.size()) == kMagic
+        const std::string next = '\n' + std::string(kRecordMagic);
+        const std::size_t size = text.substr(0, kRecordMagic.size()) == kRecordMagic
             ? 0
             : std::min(
                 text.find(next) == std::string_view::npos ? text.size() : text.find(next) + 1,

@@ -12,7 +12,6 @@ using namespace extras;
 
 namespace {
 
-constexpr double kShadowRoom = 0.010; // round every plate
 constexpr double kPlateX = 1.095;
 constexpr double kPlateY = 0.455;
 constexpr double kPlateWidth = 0.560;
@@ -50,11 +49,6 @@ std::string nameOfStone(char letter)
 double turnOf(unsigned column)
 {
     return kDustColumn * static_cast<double>(column);
-}
-
-std::string rowKey(unsigned row)
-{
-    return "row-" + std::to_string(row);
 }
 
 } // namespace

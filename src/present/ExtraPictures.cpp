@@ -49,11 +49,6 @@ ExtraRect squareAt(const ExtraRect& place, double side)
     return { .x = place.x, .y = place.y, .width = side, .height = side };
 }
 
-std::string rowKey(unsigned row)
-{
-    return "row-" + std::to_string(row);
-}
-
 void touchRow(Extra& extra, unsigned row, unsigned length, double opacity)
 {
     for (unsigned column = 0; column < length; ++column) {
@@ -63,6 +58,11 @@ void touchRow(Extra& extra, unsigned row, unsigned length, double opacity)
 }
 
 } // namespace
+
+std::string rowKey(unsigned row)
+{
+    return "row-" + std::to_string(row);
+}
 
 ExtraRect placeOfChip(unsigned column, unsigned row)
 {

@@ -11,6 +11,11 @@ namespace veyrand::present {
 // What each kind of extra looks like: which pictures lie where, which things of the board it
 // touches, how it comes and goes. Values only; when they are shown is another's business.
 
+inline constexpr double kShadowRoom = 0.010; // round every plate
+
+// The key of what lies over a whole row.
+[[nodiscard]] std::string rowKey(unsigned row);
+
 // The line that is played on is lit, at a share of its strength; the lines above it rest.
 [[nodiscard]] Extra rowInPlay(unsigned row, double share = 1.0);
 [[nodiscard]] Extra restingRow(unsigned row, unsigned length);

@@ -23,7 +23,6 @@ constexpr int kWhisperWidest = 560;
 constexpr int kWhisperStep = 40;
 constexpr std::array kTipHeights { 56, 92, 128 };
 
-constexpr double kShadowRoom = 0.010; // round every plate
 constexpr double kTipEm = 0.028;
 constexpr double kTipPitch = 0.036;
 constexpr double kTipPadding = 0.044; // of both sides together
