@@ -9,6 +9,7 @@
 #include "app/UncaughtGuard.h"
 #include "app/WaitingBox.h"
 #include "controller/Game.h"
+#include "controller/ReplayShow.h"
 #include "desktop/posix/UserJournal.h"
 #include "desktop/qt/DataFolder.h"
 #include "desktop/qt/FilePreferences.h"
@@ -18,12 +19,19 @@
 #include "desktop/qt/QtRunLoop.h"
 #include "desktop/qt/QtWindow.h"
 #include "desktop/qt/SystemPorts.h"
+#include "play/Recording.h"
 #include "progress/Misunderstood.h"
 #include "progress/PlayerKeys.h"
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
 #include <QTextStream>
+
+#include <memory>
+#include <optional>
 
 namespace veyrand::app {
 
@@ -32,8 +40,13 @@ namespace {
 // The real ports and the one game on them, in the order in which they need each other.
 class Application {
 public:
-    explicit Application(const QString& dataFolder)
-        : m_preferences(desktop::qt::FilePreferences::usualFile(), progress::misunderstood)
+    // Whether what is played is the player's own, and kept.
+    enum class Games { Kept, Shown };
+
+    Application(const QString& dataFolder, const QString& preferences, Games games)
+        : m_preferences(preferences, progress::misunderstood)
+        , m_journal(
+              games == Games::Kept ? std::make_unique<desktop::posix::UserJournal>() : nullptr)
         , m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
         , m_installation(m_preferences)
@@ -57,7 +70,7 @@ public:
                          [this](std::function<void()> done) {
                              offerInstallation(m_installation.installation(), std::move(done));
                          },
-                     .journal = m_preferences.isHeldElsewhere() ? nullptr : m_journal.journal() },
+                     .journal = journal() },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -100,6 +113,26 @@ public:
         m_game.controller().kept().setReporter([this](const std::string& message) {
             showTrouble(m_window, QString::fromStdString(message));
         });
+    }
+
+    // Instead of a game: the list of actions, in a window that answers to no press.
+    void show(const QString& name, std::vector<play::Action> actions)
+    {
+        using controller::MenuItemId;
+        m_menu.connectTo(
+            { MenuItemId::Quit, MenuItemId::Leave, MenuItemId::FullScreen }, [this](MenuItemId id) {
+                if (id == MenuItemId::FullScreen) {
+                    m_game.controller().toggleFullscreen();
+                } else {
+                    m_window.close();
+                }
+            });
+        m_board.setEnabled(false);
+        m_window.setFocus(); // or the menu bar would have it, and keep Esc for itself
+        m_window.setWindowTitle(QStringLiteral("%1 \u2013 Veyrand").arg(name));
+        m_window.open({});
+        m_show.emplace(m_game.controller(), std::move(actions));
+        m_show->start();
     }
 
     // The application's own loop has ended by now, and what is asked here still needs one to be
@@ -148,6 +181,11 @@ private:
         return preferences;
     }
 
+    [[nodiscard]] platform::Journal* journal()
+    {
+        return m_journal && !m_preferences.isHeldElsewhere() ? m_journal->journal() : nullptr;
+    }
+
     void resized(platform::Size size)
     {
         m_game.controller().updateContentViewFrame(size);
@@ -163,7 +201,7 @@ private:
 
     desktop::qt::QtRunLoop m_runLoop;
     desktop::qt::FilePreferences m_preferences;
-    desktop::posix::UserJournal m_journal;
+    std::unique_ptr<desktop::posix::UserJournal> m_journal; // null when nothing is kept
     desktop::qt::OpenAlSounds m_sounds;
     desktop::qt::SystemRandom m_random;
     desktop::qt::FileResources m_resources;
@@ -181,13 +219,56 @@ private:
     controller::Game m_game;
     desktop::qt::BoardWidget m_board;
     MainWindow m_window;
+    std::optional<controller::ReplayShow> m_show;
 };
+
+// What the game can be told of a file that holds a journal.
+play::Recording recordingIn(const QString& file)
+{
+    desktop::posix::PosixDisk disk;
+    auto contents = disk.read(file.toStdString(), platform::Journal::kMostBytes);
+    if (!contents.bytes) {
+        return { {}, contents.fault.empty() ? "there is no such file" : std::move(contents.fault) };
+    }
+    return play::readRecording(*contents.bytes);
+}
 
 } // namespace
 
+int showJournal(const QString& dataFolder, const QString& file)
+{
+    play::Recording recording = recordingIn(file);
+    if (!recording.fault.empty()) {
+        QTextStream(stderr)
+            << QStringLiteral("veyrand: %1: %2").arg(file, QString::fromStdString(recording.fault))
+            << Qt::endl;
+        return EXIT_FAILURE;
+    }
+    std::vector<play::Action> actions;
+    for (play::JournalEntry& entry : recording.entries) {
+        actions.push_back(std::move(entry.action));
+    }
+    // The player's settings, but a record of its own.
+    const QTemporaryDir folder;
+    const QString preferences = folder.filePath(QStringLiteral("preferences.json"));
+    QFile::copy(desktop::qt::FilePreferences::usualFile(), preferences);
+    Application application(dataFolder, preferences, Application::Games::Shown);
+    if (const std::string fault = application.fault(); !fault.empty()) {
+        QTextStream(stderr) << QString::fromStdString(fault) << Qt::endl;
+        return EXIT_FAILURE;
+    }
+    application.show(QFileInfo(file).fileName(), std::move(actions));
+    const int status = GuardedApplication::failure() ? EXIT_FAILURE : QApplication::exec();
+    if (const auto reason = GuardedApplication::failure()) {
+        application.giveUp(*reason);
+    }
+    return status;
+}
+
 int runGame(const QString& dataFolder)
 {
-    Application application(dataFolder);
+    Application application(
+        dataFolder, desktop::qt::FilePreferences::usualFile(), Application::Games::Kept);
     if (const std::string fault = application.fault(); !fault.empty()) {
         const QString message = QStringLiteral("The game cannot be played: %1/%2")
                                     .arg(dataFolder, QString::fromStdString(fault).trimmed());

@@ -30,7 +30,7 @@ struct Pictures {
     [[nodiscard]] bool wanted() const { return demoFolder || galleryFolder; }
 };
 
-int run(const Pictures& pictures)
+int run(const Pictures& pictures, const std::optional<std::string>& journal)
 {
     const QString dataFolder = veyrand::desktop::qt::findDataFolder();
     if (dataFolder.isEmpty()) {
@@ -38,7 +38,7 @@ int run(const Pictures& pictures)
                                                "beside %1 and VEYRAND_DATA names no folder")
                                     .arg(QCoreApplication::applicationDirPath());
         QTextStream(stderr) << message << Qt::endl;
-        if (!pictures.wanted()) {
+        if (!pictures.wanted() && !journal) {
             veyrand::app::tellAndWait(message);
         }
         return 1;
@@ -53,7 +53,8 @@ int run(const Pictures& pictures)
             { pictures.gallerySize.at(0), pictures.gallerySize.at(1) });
     }
     QApplication::setWindowIcon(veyrand::desktop::qt::applicationIcon(dataFolder));
-    return veyrand::app::runGame(dataFolder);
+    return journal ? veyrand::app::showJournal(dataFolder, QString::fromStdString(*journal))
+                   : veyrand::app::runGame(dataFolder);
 }
 
 // Pictures and sounds are taken and given back in large pieces. Left to itself the C library keeps
@@ -94,6 +95,13 @@ int start(int argc, char** argv)
         ->type_name("WIDTHxHEIGHT")
         ->default_str("1440x900")
         ->needs(gallery);
+    std::optional<std::string> journal;
+    options
+        .add_option(
+            "--replay", journal, "Show the game that the journal FILE holds, as it was played")
+        ->type_name("FILE")
+        ->excludes(demo)
+        ->excludes(gallery);
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -106,7 +114,7 @@ int start(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral(VEYRAND_ID)); // whose icon the desktop shows
-    return run(pictures);
+    return run(pictures, journal);
 }
 
 } // namespace

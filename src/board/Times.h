@@ -35,6 +35,9 @@ inline constexpr double kReading = 1.0; // of a page or note that has just opene
 inline constexpr double kNextLineComesBack = 0.06; // after the one above it
 inline constexpr double kNextDing = 0.1; // no sooner than this after the last one, at every tempo
 
+// A game that is shown again, from one action's rest to the next.
+inline constexpr double kBetweenShownActions = 0.6;
+
 // Hints.
 inline constexpr double kPiecesFly = 0.75; // until they have become a line
 inline constexpr double kWalkBackStep = 0.5; // a bad line

@@ -217,6 +217,9 @@ void GameFlow::startMusic()
 
 void GameFlow::puzzleFinished()
 {
+    if (m_successor) {
+        return m_successor();
+    }
     const CurrentGame& game = m_game.currentGame;
     if (!game.endlessGame() && game.level() == kLastLevel && game.stage() == kLastStage) {
         finishClassicGame();
@@ -291,7 +294,8 @@ void GameFlow::cleanUpProofForPar(int par)
         [this, row = m_controller.lineCount() - 1] { m_game.board.goal.goalMetAtRow(row); });
     updateRecord({ .endlessPar = newPar });
     m_game.currentGame.setEndlessPar(newPar);
-    performWithThisProof(times::kLeftForNextPuzzle, [this] { nextLevel(); });
+    performWithThisProof(
+        times::kLeftForNextPuzzle, [this] { m_successor ? m_successor() : nextLevel(); });
 }
 
 void GameFlow::regenerateBoard()

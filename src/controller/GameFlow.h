@@ -64,15 +64,20 @@ public:
     void resetEndlessScore();
     [[nodiscard]] std::string playerName() const;
 
+    // The puzzle as the list of actions left it, without a sound; its record has been loaded.
+    void resume(play::Replay kept);
+    // Gives the Endless puzzle up for one of another par, in lines.
+    void cleanUpProofForPar(int par);
+    // Called where the next puzzle, or the game's end, would follow on one that is over.
+    void setSuccessor(std::function<void()> successor) { m_successor = std::move(successor); }
+
 private:
     [[nodiscard]] play::Puzzle puzzleInPlay() const;
     void startClassicGame(Pages::Arrival arrival);
     void loadClassicPuzzle();
     void layOutKeptOrNewPuzzle();
-    void resume(play::Replay kept);
     void repairPosition();
     void finishClassicGame();
-    void cleanUpProofForPar(int par);
     void startMusic();
     void saveEndlessScore();
     void updateRecord(const progress::PlayerRecordChange& change);
@@ -80,6 +85,7 @@ private:
     GameController& m_controller;
     GameContext& m_game;
     std::optional<play::Session> m_session;
+    std::function<void()> m_successor; // none: what the game has next
 };
 
 } // namespace veyrand::controller

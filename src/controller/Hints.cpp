@@ -52,13 +52,23 @@ void Hints::hintClick()
         return;
     }
     const auto decision = play::decideHint(proof, stage(), kPrice);
-    const auto* const hint = std::get_if<play::Hint>(&decision);
-    if (hint == nullptr) {
-        return;
+    if (const auto* const hint = std::get_if<play::Hint>(&decision)) {
+        apply(*hint);
     }
-    const auto answer = m_controller.flow().apply(*hint);
+}
+
+void Hints::give(const play::Hint& hint)
+{
+    m_game.currentGame.addToScore(-kPrice);
+    apply(hint);
+    m_game.board.panel.drawCounters();
+}
+
+void Hints::apply(const play::Hint& hint)
+{
+    const auto answer = m_controller.flow().apply(hint);
     if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
-        show(hint->kind, *outcome);
+        show(hint.kind, *outcome);
     }
 }
 
@@ -105,8 +115,11 @@ void Hints::placePieces()
 {
     m_game.effects.play(platform::Effect::Chimes);
     const engine::HintHelper helper(m_controller.proof());
-    m_game.board.hints.drawHint(helper.nextTheorem().value().theorem(),
-        helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
+    // A game that is shown again may say so where there are none.
+    if (const auto next = helper.nextTheorem()) {
+        m_game.board.hints.drawHint(
+            next->theorem(), helper.nextTheoremAsMatrix().value(), m_controller.lineCount());
+    }
     // Asked for before the block's own call, so that the line stands when the block ends.
     m_controller.flow().performWithThisProof(times::kPiecesFly, [this] { completeHint(); });
     m_game.view.block().blockAtLeast(m_game.tempo.delay(times::kPiecesFly));

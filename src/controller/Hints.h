@@ -20,6 +20,9 @@ public:
     // One click's worth of hint, its price already taken.
     void hintClick();
 
+    // A hint that has been decided elsewhere, paid for here.
+    void give(const play::Hint& hint);
+
     // 0 none given on this line, 1 the last good line is marked, 2 the next line's pieces are
     // shown.
     [[nodiscard]] int hintMode() const { return static_cast<int>(stage()); }
@@ -38,6 +41,7 @@ public:
 private:
     [[nodiscard]] bool isFirstHintOfPlayer();
     [[nodiscard]] play::HintStage stage() const;
+    void apply(const play::Hint& hint);
     void show(play::Hint::Kind kind, const play::Outcome& outcome);
     void showPieces();
     void drawPieces();

@@ -2,6 +2,7 @@
 
 #include "progress/PlayerKeys.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace veyrand::controller {
@@ -11,6 +12,13 @@ using progress::Settings;
 void MenuChoices::connectTo(GameController& game, std::function<void(MenuItemId)> others)
 {
     m_game = &game;
+    m_others = std::move(others);
+}
+
+void MenuChoices::connectTo(std::vector<MenuItemId> only, std::function<void(MenuItemId)> others)
+{
+    m_game = nullptr;
+    m_only = std::move(only);
     m_others = std::move(others);
 }
 
@@ -26,6 +34,9 @@ bool MenuChoices::effectsOn() const
 
 bool MenuChoices::mayChoose(const MenuItem& item) const
 {
+    if (m_only) {
+        return std::find(m_only->begin(), m_only->end(), item.id) != m_only->end();
+    }
     return m_game == nullptr || item.mayChoose == nullptr || item.mayChoose(*m_game);
 }
 

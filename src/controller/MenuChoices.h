@@ -4,6 +4,8 @@
 #include "platform/Menu.h"
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace veyrand::controller {
 
@@ -21,6 +23,9 @@ public:
     // function.
     void connectTo(GameController& game, std::function<void(MenuItemId)> others);
 
+    // Nothing but these may be chosen, and goes to the function: there is no game to play.
+    void connectTo(std::vector<MenuItemId> only, std::function<void(MenuItemId)> others);
+
     [[nodiscard]] bool musicOn() const override;
     [[nodiscard]] bool effectsOn() const override;
 
@@ -35,6 +40,7 @@ public:
 private:
     platform::Preferences& m_preferences;
     GameController* m_game = nullptr;
+    std::optional<std::vector<MenuItemId>> m_only; // none: all
     std::function<void(MenuItemId)> m_others;
 };
 

@@ -72,14 +72,8 @@ bool Moves::perform(const play::Gesture& gesture)
         m_controller.answers().refused(gesture, std::get<play::Refusal>(decision));
         return false;
     }
-    make(std::get<play::Move>(*action), gesture);
-    return true;
-}
-
-void Moves::make(const play::Move& move, const play::Gesture& gesture)
-{
-    const std::string lineBefore = m_controller.proof()->lines().back().theorem();
-    auto choreography = board::choreographyOf(move, lineBefore);
+    const auto& move = std::get<play::Move>(*action);
+    auto choreography = board::choreographyOf(move, m_controller.proof()->lines().back().theorem());
     // Two neighbouring blues have no match of their own: another pair's chips fall. The board shows
     // the gesture all the same, and ends as the line reads.
     if (const auto* const drag = std::get_if<play::Drag>(&gesture);
@@ -87,6 +81,18 @@ void Moves::make(const play::Move& move, const play::Gesture& gesture)
         choreography.column = std::min(drag->from, drag->to);
         choreography.endingColumn = std::max(drag->from, drag->to);
     }
+    make(move, choreography);
+    return true;
+}
+
+void Moves::make(const play::Move& move)
+{
+    make(move, board::choreographyOf(move, m_controller.proof()->lines().back().theorem()));
+}
+
+void Moves::make(const play::Move& move, const board::Choreography& choreography)
+{
+    const std::string lineBefore = m_controller.proof()->lines().back().theorem();
     static_cast<void>(m_controller.flow().apply(move)); // decided, so it is granted
     const unsigned newRow = m_controller.lineCount() - 1;
     show(choreography, lineBefore, newRow);

@@ -27,6 +27,9 @@ public:
     // What the gestures are held against. It refers to the proof in play.
     [[nodiscard]] play::Position position() const;
 
+    // A move that has been decided elsewhere.
+    void make(const play::Move& move);
+
     // The animation of the move that made the row's line; input stays blocked for as long as it
     // takes.
     void show(const board::Choreography& choreography, const std::string& lineBefore, unsigned row);
@@ -35,7 +38,7 @@ public:
 
 private:
     bool perform(const play::Gesture& gesture);
-    void make(const play::Move& move, const play::Gesture& gesture);
+    void make(const play::Move& move, const board::Choreography& choreography);
     void settleAfter(double seconds, unsigned row);
     void playNoRuleApplied() const;
 

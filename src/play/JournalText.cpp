@@ -13,7 +13,6 @@ namespace veyrand::play {
 
 namespace {
 
-constexpr std::string_view kMagic = "veyrand-actions ";
 constexpr std::string_view kLastLineMark = " = ";
 constexpr std::string_view kCheckMark = " #";
 constexpr std::size_t kCheckDigits = 8;
@@ -36,7 +35,8 @@ std::string checkOf(std::string_view before, std::string_view line)
 
 std::string headOf(std::string_view player)
 {
-    return std::string(kMagic) + std::to_string(kActionFormat) + ' ' + percentEncoded(player);
+    return std::string(kJournalMagic) + std::to_string(kActionFormat) + ' '
+        + percentEncoded(player);
 }
 
 struct CheckedLine {
@@ -73,10 +73,10 @@ std::optional<JournalEntry> entryOf(std::string_view text)
 
 bool isOfNewerFormat(std::string_view head)
 {
-    if (head.substr(0, kMagic.size()) != kMagic) {
+    if (head.substr(0, kJournalMagic.size()) != kJournalMagic) {
         return false;
     }
-    head.remove_prefix(kMagic.size());
+    head.remove_prefix(kJournalMagic.size());
     int format = 0;
     const auto [stop, fault] = std::from_chars(head.data(), head.data() + head.size(), format);
     return fault == std::errc() && format > kActionFormat && stop != head.data() + head.size()
@@ -118,7 +118,7 @@ JournalText readLines(std::string_view text, const std::optional<std::string>& w
         return damagedAt(std::move(found), 1);
     }
     if (wantedHead ? checkedHead->text != *wantedHead
-                   : checkedHead->text.substr(0, kMagic.size()) != kMagic) {
+                   : checkedHead->text.substr(0, kJournalMagic.size()) != kJournalMagic) {
         found.state = JournalText::State::Foreign;
         return found;
     }

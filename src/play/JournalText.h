@@ -14,6 +14,8 @@ namespace veyrand::play {
 // chips it left last, each line with a check that goes on from the one before. docs/actions.md
 // describes it.
 
+inline constexpr std::string_view kJournalMagic = "veyrand-actions ";
+
 // The file of a player's game in one mode: "New-classic.txt". All but letters and digits of the
 // name are written as %XX, so that any name makes a file's.
 [[nodiscard]] std::string journalName(std::string_view player, progress::Mode mode);

@@ -151,7 +151,7 @@ std::optional<CodedPuzzle> puzzleOf(const Digits& digits)
     for (std::size_t i = 0; i < payload; ++i) {
         value = value * kPrime + digits[i + 1];
     }
-    const std::uint64_t lengths = value % kLengths;
+    const auto lengths = static_cast<std::size_t>(value % kLengths);
     const std::size_t rootLength = lengths / kMostChips + 1;
     const std::size_t chips = rootLength + lengths % kMostChips + 1;
     if (payload != payloadFor(chips) || value >= valuesFor(chips)) {

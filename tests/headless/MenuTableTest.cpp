@@ -74,6 +74,22 @@ TEST(MenuChoices, HandOnWhatTheTableLeavesToTheWindow)
     EXPECT_EQ(asked, std::vector { MenuItemId::About });
 }
 
+TEST(MenuChoices, MayBeNarrowedToWhatNeedsNoPlayer)
+{
+    headless::HeadlessGame game({});
+    std::vector<MenuItemId> asked;
+    MenuChoices choices(game.preferences());
+    choices.connectTo(game.controller(), {});
+    choices.connectTo(
+        { MenuItemId::Quit, MenuItemId::Leave }, [&](MenuItemId id) { asked.push_back(id); });
+    EXPECT_TRUE(choices.choose(menuItem(MenuItemId::Leave)));
+    EXPECT_FALSE(choices.choose(menuItem(MenuItemId::ClassicGame)));
+    EXPECT_FALSE(choices.choose(menuItem(MenuItemId::SoundEffects)));
+    EXPECT_TRUE(choices.choose(menuItem(MenuItemId::Quit)));
+    EXPECT_EQ(asked, (std::vector { MenuItemId::Leave, MenuItemId::Quit }));
+    EXPECT_FALSE(game.quit().terminated());
+}
+
 TEST(MenuChoices, NameTheStepThatUndoTakesBack)
 {
     headless::HeadlessGame game({});

@@ -2,7 +2,7 @@
 #include "FileResources.h"
 #include "platform/Journal.h"
 #include "play/ActionText.h"
-#include "play/JournalText.h"
+#include "play/Recording.h"
 #include "play/Replay.h"
 
 #include <array>
@@ -29,44 +29,28 @@ public:
     // A row for each action: the state's hash after it, its text, and the last line.
     Json run() override
     {
-        const play::JournalText journal = read();
         Json answer = Json::array();
         play::Replay replay;
-        for (const play::JournalEntry& entry : journal.entries) {
-            const std::string text = play::print(entry.action);
-            std::string fault = replay.apply(entry.action);
-            if (fault.empty() && !entry.lastLine.empty() && entry.lastLine != replay.lastLine()) {
-                fault = "it led to " + replay.lastLine();
-            }
-            if (!fault.empty()) {
-                throw std::runtime_error(m_file + ": line " + std::to_string(answer.size() + 2)
-                    + ", \"" + text + "\": " + fault);
-            }
-            answer.push_back({ hexadecimal(replay.hash()), text, replay.lastLine() });
+        for (const play::JournalEntry& entry : read()) {
+            static_cast<void>(replay.apply(entry.action)); // which has been tried
+            answer.push_back(
+                { hexadecimal(replay.hash()), play::print(entry.action), replay.lastLine() });
         }
         return answer;
     }
 
 private:
-    [[nodiscard]] play::JournalText read() const
+    [[nodiscard]] std::vector<play::JournalEntry> read() const
     {
         const auto contents = bytesOf(m_file);
         if (!contents) {
             throw std::runtime_error(m_file + ": cannot be read");
         }
-        play::JournalText journal = play::readJournal(*contents);
-        using State = play::JournalText::State;
-        if (journal.state == State::Newer) {
-            throw std::runtime_error(m_file + ": a later version of the game has written it");
+        play::Recording recording = play::readRecording(*contents);
+        if (!recording.fault.empty()) {
+            throw std::runtime_error(m_file + ": " + recording.fault);
         }
-        if (journal.state != State::Whole) {
-            throw std::runtime_error(
-                m_file + ": line " + std::to_string(journal.damagedLine) + " is damaged");
-        }
-        if (journal.entries.empty()) {
-            throw std::runtime_error(m_file + ": no journal");
-        }
-        return journal;
+        return std::move(recording.entries);
     }
 
     std::string m_file;

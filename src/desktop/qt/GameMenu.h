@@ -22,6 +22,12 @@ public:
         m_choices.connectTo(game, std::move(others));
     }
 
+    void connectTo(std::vector<controller::MenuItemId> only,
+        std::function<void(controller::MenuItemId)> others)
+    {
+        m_choices.connectTo(std::move(only), std::move(others));
+    }
+
     [[nodiscard]] bool musicOn() const override { return m_choices.musicOn(); }
     [[nodiscard]] bool effectsOn() const override { return m_choices.effectsOn(); }
     // What the Full Screen item shows.
