@@ -103,6 +103,9 @@ void KeptGames::found(Mode mode, Recovery recovery, const play::JournalText& tex
 {
     switch (recovery.found) {
     case Recovery::Found::InPlay: {
+        if (recovery.standing != standingOf(mode)) {
+            save(recovery.standing); // which it could not be when the puzzle began
+        }
         File& file = fileOf(mode);
         file.kept = std::move(recovery.replay);
         if (isWhole) {
@@ -163,7 +166,14 @@ const Replay* KeptGames::inPlay() const
 
 void KeptGames::begin()
 {
-    const Mode mode = inPlay()->puzzle()->mode;
+    const play::Puzzle& puzzle = *inPlay()->puzzle();
+    const Mode mode = puzzle.mode;
+    const File& file = fileOf(mode);
+    // A record on the disk that still stands at the puzzle before needs the way from there to here.
+    if (m_isOn && file.mayAppend && file.lastPurse == puzzle.saved && m_recordIsSaved
+        && !m_recordIsSaved()) {
+        return append(mode, puzzle);
+    }
     fileOf(mode) = File();
     if (m_isOn) {
         write(mode, *inPlay());
@@ -181,7 +191,15 @@ void KeptGames::add(const play::Action& action)
     if (file.lines >= kMostLines && !replay.isOver()) {
         return write(mode, replay);
     }
+    append(mode, action);
+}
+
+void KeptGames::append(Mode mode, const play::Action& action)
+{
+    const Replay& replay = *inPlay();
+    File& file = fileOf(mode);
     ++file.lines;
+    file.lastPurse = replay.isOver() ? std::optional(replay.purse()) : std::nullopt;
     failed(mode,
         m_game.journal->append(nameOf(mode), file.writer.line({ action, replay.lastLine() })));
 }

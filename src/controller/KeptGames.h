@@ -47,6 +47,9 @@ public:
     [[nodiscard]] bool takeSolvedAtLaunch();
 
     void settingsChanged();
+    // Asked before a puzzle's journal begins: whether the record that leads to it has been saved.
+    // By itself it has.
+    void setRecordTest(std::function<bool()> isSaved) { m_recordIsSaved = std::move(isSaved); }
 
     // Tells the player, and the log, what went wrong.
     void report(const std::string& message);
@@ -64,6 +67,7 @@ private:
         play::JournalWriter writer {};
         std::size_t lines = 0;
         bool mayAppend = false;
+        std::optional<std::int64_t> lastPurse {}; // once the puzzle written last is over
     };
 
     [[nodiscard]] bool isWanted() const;
@@ -78,6 +82,7 @@ private:
     void setAside(Mode mode, std::string_view reason, const std::string& why);
 
     void write(Mode mode, const play::Replay& replay);
+    void append(Mode mode, const play::Action& action);
     void failed(Mode mode, const std::string& fault);
 
     GameController& m_controller;
@@ -86,6 +91,7 @@ private:
     bool m_isOn = false;
     bool m_solvedAtLaunch = false;
     std::string m_fault; // of the last write, until one succeeds
+    std::function<bool()> m_recordIsSaved;
     std::function<void(const std::string&)> m_report;
     std::vector<std::string> m_unreported;
 };

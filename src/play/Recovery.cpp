@@ -52,49 +52,109 @@ bool hasItsPar(const Standing& record, const Replay& replay)
         || record.endlessPar == replay.leftFor();
 }
 
-Recovery::Found foundFor(
-    const Standing& record, const Catalogue& catalogue, const Recovery& recovery)
-{
-    using Found = Recovery::Found;
-    const Replay& replay = recovery.replay;
-    if (!replay.puzzle()) {
-        return Found::Nothing;
+// Goes through a journal. One puzzle follows another where the record could not be saved in
+// between: so it may stand at any of them.
+class Reading {
+public:
+    Reading(const Standing& record, const Catalogue& catalogue)
+        : m_record(record)
+        , m_standing(record)
+        , m_catalogue(catalogue)
+    {
     }
-    if (!isInCatalogue(*replay.puzzle(), catalogue)) {
-        return Found::Misfit;
+
+    // What is wrong with the entry, and then nothing has changed; empty when nothing is.
+    [[nodiscard]] std::string add(const JournalEntry& entry)
+    {
+        const auto* const puzzle = std::get_if<Puzzle>(&entry.action);
+        if (puzzle != nullptr && m_replay.puzzle() && !follows(*puzzle)) {
+            return "it does not follow from what went before";
+        }
+        Replay next = m_replay;
+        std::string fault = next.apply(entry.action);
+        if (fault.empty() && !entry.lastLine.empty() && entry.lastLine != next.lastLine()) {
+            fault = "it led to another line: " + next.lastLine();
+        }
+        if (fault.empty()) {
+            if (puzzle != nullptr) {
+                begin(*puzzle);
+            }
+            m_replay = std::move(next);
+        }
+        return fault;
     }
-    if (isBegunAt(record, *replay.puzzle()) && hasItsPar(record, replay)) {
-        return replay.isSolved() ? Found::Solved : replay.leftFor() ? Found::Left : Found::InPlay;
+
+    [[nodiscard]] Recovery result() const
+    {
+        Recovery recovery;
+        recovery.replay = m_replay;
+        if (m_replay.puzzle()) {
+            recovery.standing
+                = m_replay.isOver() ? standingAfter(m_replay, m_standing) : m_standing;
+        }
+        recovery.found = found(recovery.standing);
+        return recovery;
     }
-    return replay.isOver() && record == recovery.standing ? Found::AlreadySaved : Found::Misfit;
-}
+
+private:
+    [[nodiscard]] bool follows(const Puzzle& puzzle) const
+    {
+        return m_replay.isOver() && isInCatalogue(*m_replay.puzzle(), m_catalogue)
+            && puzzle.mode == m_replay.puzzle()->mode && puzzle.saved == m_replay.purse()
+            && (puzzle.mode == Mode::Endless
+                || puzzle.place == progress::nextPlace(m_replay.puzzle()->place));
+    }
+
+    void begin(const Puzzle& puzzle)
+    {
+        if (m_isPastRecord) {
+            m_standing = standingAfter(m_replay, m_standing);
+        }
+        m_isPastRecord = m_isPastRecord || isBegunAt(m_record, puzzle);
+    }
+
+    [[nodiscard]] Recovery::Found found(const Standing& after) const
+    {
+        using Found = Recovery::Found;
+        if (!m_replay.puzzle()) {
+            return Found::Nothing;
+        }
+        if (!isInCatalogue(*m_replay.puzzle(), m_catalogue)) {
+            return Found::Misfit;
+        }
+        if (isBegunAt(m_standing, *m_replay.puzzle()) && hasItsPar(m_standing, m_replay)) {
+            return m_replay.isSolved() ? Found::Solved
+                : m_replay.leftFor()   ? Found::Left
+                                       : Found::InPlay;
+        }
+        return m_replay.isOver() && m_record == after ? Found::AlreadySaved : Found::Misfit;
+    }
+
+    Standing m_record;
+    Standing m_standing; // of the record once what went before the puzzle at hand is saved
+    const Catalogue& m_catalogue;
+    Replay m_replay;
+    bool m_isPastRecord = false;
+};
 
 } // namespace
 
 Recovery recover(
     const Standing& record, const Catalogue& catalogue, const std::vector<JournalEntry>& entries)
 {
-    Recovery recovery;
+    Reading reading(record, catalogue);
+    std::size_t replayed = 0;
+    std::string fault;
     for (const JournalEntry& entry : entries) {
-        const bool isSecondPuzzle
-            = recovery.replayed > 0 && std::holds_alternative<Puzzle>(entry.action);
-        Replay next = recovery.replay;
-        recovery.fault = isSecondPuzzle ? "a journal holds one puzzle" : next.apply(entry.action);
-        if (recovery.fault.empty() && !entry.lastLine.empty()
-            && entry.lastLine != next.lastLine()) {
-            recovery.fault = "it led to another line: " + next.lastLine();
-        }
-        if (!recovery.fault.empty()) {
+        fault = reading.add(entry);
+        if (!fault.empty()) {
             break;
         }
-        recovery.replay = std::move(next);
-        ++recovery.replayed;
+        ++replayed;
     }
-    if (recovery.replay.puzzle()) {
-        recovery.standing
-            = recovery.replay.isOver() ? standingAfter(recovery.replay, record) : record;
-    }
-    recovery.found = foundFor(record, catalogue, recovery);
+    Recovery recovery = reading.result();
+    recovery.replayed = replayed;
+    recovery.fault = std::move(fault);
     return recovery;
 }
 

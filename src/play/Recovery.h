@@ -20,7 +20,7 @@ struct Standing {
 struct Recovery {
     enum class Found {
         Nothing,
-        InPlay, // `replay` goes on
+        InPlay, // `replay` goes on, and the record is to say `standing`, as it mostly does
         Solved, // the record is to say `standing`, the next puzzle is to come
         Left, // the same, for an Endless puzzle that was given up
         AlreadySaved, // and the record says so

@@ -1,5 +1,7 @@
 #include "app/VirtualGame.h"
+#include "engine/HintHelper.h"
 #include "platform/fakes/MemoryJournal.h"
+#include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
 #include "support/Places.h"
@@ -24,9 +26,14 @@ class KeptGamesTest : public ::testing::Test {
 protected:
     KeptGamesTest()
     {
-        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
-            { .level = 2, .stage = 4, .score = 310, .firstHintClick = true });
+        saveRecord(2, 4, 310);
         launch();
+    }
+
+    void saveRecord(int level, int stage, int score)
+    {
+        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+            { .level = level, .stage = stage, .score = score, .firstHintClick = true });
     }
 
     // As after a kill.
@@ -54,6 +61,32 @@ protected:
         const auto row = m_game->controller().lineCount() - 1;
         m_game->controller().moves().mouseDrag(row, 1, row, 3);
         m_game->wait(3.0);
+    }
+
+    // The next move of a shortest way.
+    void playBestMove()
+    {
+        const auto proof = m_game->controller().proof();
+        m_game->controller().messages().dismiss();
+        const auto gesture
+            = play::gestureFor({ .lines = proof->lines(), .goal = proof->goal(), .open = 7 },
+                engine::HintHelper(proof).nextTheorem().value().theorem());
+        if (const auto* const drag = std::get_if<play::Drag>(&gesture.value())) {
+            m_game->controller().moves().mouseDrag(
+                drag->fromRow, drag->from, drag->toRow, drag->to);
+        } else {
+            const auto& click = std::get<play::Click>(*gesture);
+            m_game->controller().moves().mouseClick(click.row, click.column);
+        }
+        m_game->wait(8.0);
+    }
+    // To the next puzzle's start.
+    void solve()
+    {
+        for (const auto proof = m_game->controller().proof();
+             m_game->controller().proof() == proof;) {
+            playBestMove();
+        }
     }
 
     [[nodiscard]] KeptGames& kept() { return m_game->controller().kept(); }
@@ -212,6 +245,83 @@ TEST_F(KeptGamesTest, AFailedWriteIsToldOnceAndAgainAtTheEnd)
     EXPECT_THAT(lines(), ElementsAre("YRRRR"));
     mergeReds();
     EXPECT_EQ(kept().lastWords(), "");
+}
+
+// The preferences' disk is full, the journal's is not.
+TEST_F(KeptGamesTest, ARecordThatCouldNotBeSavedIsMadeGoodByTheJournal)
+{
+    const auto saved
+        = m_preferences.record(progress::playerRecordKey(progress::kDefaultPlayerName));
+    kept().setRecordTest([] { return false; });
+    goOn();
+    mergeReds();
+    m_game->controller().deleteClick(1);
+    m_game->wait(3.0);
+    solve();
+    EXPECT_EQ(m_game->currentGame().stage(), 5);
+    solve();
+    EXPECT_EQ(m_game->currentGame().stage(), 6);
+    playBestMove();
+    const auto before = lines();
+    const auto score = m_game->currentGame().score();
+    ASSERT_GT(before.size(), 1U);
+
+    // What the disk still says: 2-4.
+    m_preferences.setRecord(progress::playerRecordKey(progress::kDefaultPlayerName), *saved);
+    launch();
+    goOn();
+    EXPECT_EQ(m_game->currentGame().stage(), 6);
+    EXPECT_EQ(m_game->currentGame().score(), score);
+    EXPECT_EQ(lines(), before);
+    EXPECT_THAT(m_told, IsEmpty());
+    EXPECT_THAT(names(), ElementsAre(kFile));
+
+    // Had it been saved on the way, nothing would count twice.
+    saveRecord(2, 5, 310 + 150);
+    launch();
+    goOn();
+    EXPECT_EQ(m_game->currentGame().stage(), 6);
+    EXPECT_EQ(m_game->currentGame().score(), score);
+    EXPECT_EQ(lines(), before);
+}
+
+TEST_F(KeptGamesTest, AnEndOnTheTitlePageLosesNothing)
+{
+    goOn();
+    mergeReds();
+    const auto before = lines();
+    m_game->controller().flow().returnToMenu();
+    launch();
+    goOn();
+    EXPECT_EQ(lines(), before);
+    // Nor one before anything was chosen there.
+    launch();
+    launch();
+    goOn();
+    EXPECT_EQ(lines(), before);
+}
+
+TEST_F(KeptGamesTest, AnEndUnderAQuestionLosesNothing)
+{
+    goOn();
+    mergeReds();
+    const auto before = lines();
+    // The question whether to go on, or to begin anew.
+    m_game->controller().flow().returnToMenu();
+    m_game->wait(1.0);
+    m_game->controller().flow().newClassicGame();
+    m_game->wait(1.0);
+    ASSERT_NE(m_game->controller().dialogues().dialogueState(), 0);
+    launch();
+    goOn();
+    EXPECT_EQ(lines(), before);
+    // The one whether to leave for the title page, and the page of too few points.
+    m_game->controller().pages().show("stopHintClick");
+    m_game->wait(1.0);
+    launch();
+    goOn();
+    EXPECT_EQ(lines(), before);
+    EXPECT_THAT(m_told, IsEmpty());
 }
 
 TEST_F(KeptGamesTest, ALongJournalIsBegunAnew)

@@ -191,6 +191,42 @@ TEST(Recovery, GoesAsFarAsAGameCanHaveGone)
     EXPECT_EQ(none.fault, "no puzzle has been begun");
 }
 
+// One puzzle follows another where the record could not be saved: it may stand at any of them.
+TEST(Recovery, GoesOnFromWhereverTheRecordStands)
+{
+    const std::vector<std::string> played { kPuzzle, "move 2 0", "move 1 0",
+        "puzzle 5-5 YR Y 2 620 0", "move 1 0", "hint back 1" };
+    for (const Standing& record : { kClassic, saved(kClassic, 620, { 5, 5 }) }) {
+        const Recovery recovery = recovered(record, played);
+        EXPECT_EQ(recovery.found, Found::InPlay);
+        EXPECT_EQ(recovery.standing, saved(kClassic, 620, { 5, 5 }));
+        EXPECT_EQ(recovery.replay.purse(), 570);
+    }
+    EXPECT_EQ(recovered(saved(kClassic, 630, { 5, 5 }), played).found, Found::Misfit);
+    const Recovery draws
+        = recovered(kEndless, { kDraw, "leave 6", "puzzle endless YGR YGRGR 6 300 0", "move 1 0" });
+    EXPECT_EQ(draws.found, Found::Solved);
+    EXPECT_EQ(draws.standing.endlessPar, 6);
+    EXPECT_EQ(draws.standing.score, 300 + 50 + 40);
+}
+
+TEST(Recovery, NoPuzzleFollowsOneThatIsNotOverOrLedElsewhere)
+{
+    const auto fault = [](std::initializer_list<const char*> actions) {
+        std::vector<JournalEntry> entries;
+        for (const char* const action : actions) {
+            entries.push_back({ *parse(action), {} });
+        }
+        return recover(kClassic, classic(), entries).fault;
+    };
+    EXPECT_EQ(fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle 5-5 YR Y 2 620 0" }), "");
+    EXPECT_NE(fault({ kPuzzle.c_str(), "move 2 0", "puzzle 5-5 YR Y 2 470 0" }), "");
+    EXPECT_NE(fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle 5-6 YR Y 2 620 0" }), "");
+    EXPECT_NE(fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle 5-5 YR Y 2 630 0" }), "");
+    EXPECT_NE(
+        fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle endless YRRR YGG 5 620 0" }), "");
+}
+
 TEST(Recovery, WhatWasSpentBeforeIsStillSpent)
 {
     const Recovery recovery

@@ -39,6 +39,9 @@ public:
         return m_lock.outcome() == FileLock::Outcome::HeldElsewhere;
     }
 
+    // Whether what was set last is on the disk.
+    [[nodiscard]] bool isSaved() const { return m_failure.isEmpty(); }
+
     // Where whatever goes wrong is reported, in words for the user; what went wrong before is
     // reported now. It all goes to the log in any case.
     void setReporter(std::function<void(const QString&)> report);
