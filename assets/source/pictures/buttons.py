@@ -132,12 +132,25 @@ def _board_and_style(drawing, board, enamel, seed):
     return RAISED
 
 
-def side_button(word, icon, enamel, seed):
+SIDE_LETTERING, SIDE_WORD_ROOM = 56, 176
+HALF_LETTERING, HALF_WORD_ROOM = 74, 268
+
+
+def side_lettering(words):
+    """The size at which all of the words fit beside their signs: the buttons stand below one another."""
+    return min(lettering.size_that_fits(word, SIDE_LETTERING, 1, SIDE_WORD_ROOM) for word in words)
+
+
+def half_lettering(words):
+    return min(lettering.size_that_fits(word, HALF_LETTERING, 2, HALF_WORD_ROOM) for word in words)
+
+
+def side_button(word, icon, size, enamel, seed):
     """Hint, Moves and Menu beside the board. No enamel gives the bare face."""
     width, height, margin = 300, .06880733944954 * UNITS_PER_HEIGHT, 9
     drawing = Drawing(width, height)
     style = _board_and_style(drawing, Board(margin, margin - 2, width - 2 * margin, height - 2 * margin, 15), enamel, seed)
-    size, icon_middle, word_left = 56, 58, 102     # the same on all three: one column of signs, one of words
+    icon_middle, word_left = 58, 102     # the same on all three: one column of signs, one of words
     data, _ = lettering.outline(word, size, 1)
     middle = height / 2 - 2
     lettering.engraved(drawing, icon, icon_middle, middle - 1, style, 1.8, rule='evenodd', scale=.84)
@@ -163,24 +176,23 @@ def dialogue_button(words, enamel, seed):
     return large_button(words, enamel, seed, width=846, height=236, size=98, side_room=160)
 
 
-def harder_half(enamel, seed):
+def harder_half(word, size, enamel, seed):
     """The upper half of the plate that Harder and Easier share; its lower edge is straight."""
     margin, height = 9, .08703703703704 * UNITS_PER_HEIGHT
     board = Board(margin, margin, 400 - 2 * margin, height - margin - 1.5, 18, bottom=0)
-    return _half('Harder', UP, board, height, (margin + height - 1.5) / 2, -3, enamel, seed)
+    return _half(word, size, UP, board, height, (margin + height - 1.5) / 2, -3, enamel, seed)
 
 
-def easier_half(enamel, seed):
+def easier_half(word, size, enamel, seed):
     margin, height = 9, .08703703703704 * UNITS_PER_HEIGHT
     board = Board(margin, 1.5, 400 - 2 * margin, height - margin - 5, 18, top=0)
-    return _half('Easier', DOWN, board, height, (1.5 + height - margin - 3) / 2, 3, enamel, seed)
+    return _half(word, size, DOWN, board, height, (1.5 + height - margin - 3) / 2, 3, enamel, seed)
 
 
-def _half(word, icon, board, height, middle, icon_shift, enamel, seed):
+def _half(word, size, icon, board, height, middle, icon_shift, enamel, seed):
     width = 400
     drawing = Drawing(width, height)
     style = _board_and_style(drawing, board, enamel, seed)
-    size = 74
     data, word_width = lettering.outline(word, size, 2)
     left = (width - (60 + 18 + word_width)) / 2
     lettering.engraved(drawing, icon, left + 30, middle + icon_shift, style, 1.8, rule='evenodd')

@@ -16,13 +16,14 @@ def brass_letters(drawing, top, bottom):
 def caption(word, width=400.0, height=120.0):
     drawing = Drawing(width, height)
     middle_x, middle_y = width / 2, height / 2
-    data, word_width = lettering.outline(word, LETTERING, 4)
-    left, base = middle_x - word_width / 2, lettering.baseline(middle_y, LETTERING)
+    size = lettering.size_that_fits(word, LETTERING, 4, RULES_SPAN - 110)
+    data, word_width = lettering.outline(word, size, 4)
+    left, base = middle_x - word_width / 2, lettering.baseline(middle_y, size)
     # The groove goes all round the letters: on light grain brass alone would be too pale to read.
     drawing.path(data, fill=GROOVE, opacity=.8, at=(left, base), stroke=GROOVE, width=6)
     drawing.path(data, fill=GROOVE_LIP, opacity=.35, at=(left + 1.6, base + 3.2))
     drawing.path(data, fill=GROOVE, at=(left, base), stroke=GROOVE, width=3)
-    drawing.path(data, fill=brass_letters(drawing, -LETTERING * .66, LETTERING * .02), at=(left, base))
+    drawing.path(data, fill=brass_letters(drawing, -size * .66, size * .02), at=(left, base))
     for side in (-1, 1):
         _rule(drawing, middle_x + side * (word_width / 2 + 20), middle_x + side * (RULES_SPAN / 2 - 6), middle_y, side)
     return drawing

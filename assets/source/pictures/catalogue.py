@@ -6,35 +6,63 @@ from . import arrows, buttons, captions, chips, hint_pages, marks, panes, title
 from .svg import UNITS_PER_HEIGHT
 
 
-def _pairs():
+ENGLISH = {}    # every word stands for itself
+
+
+def _pairs(words):
     """The buttons, as (lit name, bare name, how to draw with an enamel and a seed, enamel, seed)."""
-    side, large, dialogue = buttons.side_button, buttons.large_button, buttons.dialogue_button
+    def word(english):
+        return words.get(english, english)
+
+    beside = buttons.side_lettering([word(english) for english in ('Hint', 'Moves', 'Menu')])
+    halves = buttons.half_lettering([word(english) for english in ('Harder', 'Easier')])
+    large, dialogue = buttons.large_button, buttons.dialogue_button
+
+    def side(english, icon):
+        return partial(buttons.side_button, word(english), icon, beside)
+
     return (
-        ('HintButton', 'HintButtonUncoloured', partial(side, 'Hint', buttons.BULB), 'amber', 20),
-        ('MovesButton', 'MovesButtonUncoloured', partial(side, 'Moves', buttons.LIST), 'green', 21),
-        ('MenuButton', 'MenuButtonUncoloured', partial(side, 'Menu', buttons.HOUSE), 'blue', 22),
-        ('ClassicButton', 'ClassicButtonOff', partial(large, 'Classic'), 'green', 40),
-        ('EndlessButton', 'EndlessButtonOff', partial(large, 'Endless'), 'blue', 41),
-        ('QuitButton', 'QuitButtonOff', partial(large, 'Quit'), 'red', 42),
-        ('ContinueGame', 'ContinueGameUncoloured', partial(dialogue, 'Continue Game'), 'green', 60),
-        ('StartNewGame', 'StartNewGameUncoloured', partial(dialogue, 'Start New Game'), 'blue', 61),
-        ('HarderEasierTop', 'HarderEasierTopUncoloured', buttons.harder_half, 'red', 71),
-        ('HarderEasierBottom', 'HarderEasierBottomUncoloured', buttons.easier_half, 'green', 70),
+        ('HintButton', 'HintButtonUncoloured', side('Hint', buttons.BULB), 'amber', 20),
+        ('MovesButton', 'MovesButtonUncoloured', side('Moves', buttons.LIST), 'green', 21),
+        ('MenuButton', 'MenuButtonUncoloured', side('Menu', buttons.HOUSE), 'blue', 22),
+        ('ClassicButton', 'ClassicButtonOff', partial(large, word('Classic')), 'green', 40),
+        ('EndlessButton', 'EndlessButtonOff', partial(large, word('Endless')), 'blue', 41),
+        ('QuitButton', 'QuitButtonOff', partial(large, word('Quit')), 'red', 42),
+        ('ContinueGame', 'ContinueGameUncoloured', partial(dialogue, word('Continue Game')), 'green', 60),
+        ('StartNewGame', 'StartNewGameUncoloured', partial(dialogue, word('Start New Game')), 'blue', 61),
+        ('HarderEasierTop', 'HarderEasierTopUncoloured', partial(buttons.harder_half, word('Harder'), halves), 'red', 71),
+        ('HarderEasierBottom', 'HarderEasierBottomUncoloured', partial(buttons.easier_half, word('Easier'), halves),
+         'green', 70),
     )
+
+
+def pictures_with_words(words):
+    """Name -> a function that returns the Drawing, for the pictures that have words on them."""
+    stage_size = (.271186440677966 * UNITS_PER_HEIGHT, .08150943396226 * UNITS_PER_HEIGHT)
+
+    def word(english):
+        text = words.get(english.lower(), english)
+        return text[0].upper() + text[1:]
+
+    known = {
+        'Points': partial(captions.caption, word('Points')),
+        'Stage': partial(captions.caption, word('Stage'), *stage_size),
+        'Par': partial(captions.caption, word('Par')),
+    }
+    for lit, bare, draw, enamel, seed in _pairs(words):
+        known[lit] = partial(draw, enamel, seed)
+        known[bare] = partial(draw, None, seed)
+    return known
 
 
 def pictures():
     """Name -> a function that returns the Drawing."""
-    stage_size = (.271186440677966 * UNITS_PER_HEIGHT, .08150943396226 * UNITS_PER_HEIGHT)
     known = {
         'Veyrand Title': title.title,
         'MessageBackground': panes.message_background,
         'Veil': panes.veil,
         'HorizontalLine': panes.horizontal_line,
         'MultiChip': chips.multi_chip,
-        'Points': partial(captions.caption, 'Points'),
-        'Stage': partial(captions.caption, 'Stage', *stage_size),
-        'Par': partial(captions.caption, 'Par'),
         'Checkmark': marks.checkmark,
         'Delete': marks.delete,
         'Lock': marks.lock,
@@ -51,7 +79,5 @@ def pictures():
     }
     for name in ('Yellow', 'Red', 'Green', 'Blue', 'Grey'):
         known[name + 'Chip'] = partial(chips.chip, name)
-    for lit, bare, draw, enamel, seed in _pairs():
-        known[lit] = partial(draw, enamel, seed)
-        known[bare] = partial(draw, None, seed)
+    known.update(pictures_with_words(ENGLISH))
     return known

@@ -9,6 +9,8 @@ import subprocess
 from fontTools.pens.recordingPen import RecordingPen
 from fontTools.ttLib import TTFont
 
+from . import languages
+
 BOLD = '/usr/share/fonts/opentype/linux-libertine/LinBiolinum_RB.otf'
 WORDS = ('Hint', 'Moves', 'Menu', 'Classic', 'Endless', 'Quit', 'Continue Game', 'Start New Game', 'Harder', 'Easier',
          'Points', 'Stage', 'Par', 'V', 'E', 'Y', 'R', 'A', 'N', 'D')
@@ -32,8 +34,9 @@ def _path(glyph):
 def letters_json():
     font = TTFont(BOLD)
     glyphs, names = font.getGlyphSet(), font.getBestCmap()
-    letters = sorted(set(''.join(WORDS)))
-    pairs = sorted({word[i:i + 2] for word in WORDS for i in range(len(word) - 1)})
+    words = list(WORDS) + [word for code in languages.others() for word in languages.on_pictures(code)]
+    letters = sorted(set(''.join(words)))
+    pairs = sorted({word[i:i + 2] for word in words for i in range(len(word) - 1)})
     single = {letter: _advances(letter)[0] for letter in letters}
     closer = {pair: sum(_advances(pair)) - single[pair[0]] - single[pair[1]] for pair in pairs}
     lines = ['{', '"unitsPerEm": %d,' % font['head'].unitsPerEm, '"pairs": {']
