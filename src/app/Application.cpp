@@ -8,6 +8,7 @@
 #include "app/SystemInstallation.h"
 #include "app/UncaughtGuard.h"
 #include "app/WaitingBox.h"
+#include "app/Words.h"
 #include "controller/Game.h"
 #include "controller/ReplayShow.h"
 #include "desktop/posix/UserJournal.h"
@@ -70,7 +71,8 @@ public:
                          [this](std::function<void()> done) {
                              offerInstallation(m_installation.installation(), std::move(done));
                          },
-                     .journal = journal() },
+                     .journal = journal(),
+                     .desktopLanguages = desktopLanguages() },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -86,6 +88,17 @@ public:
     {
         m_overlay.setMainWindow(m_window);
         m_windowModes.setMainWindow(m_window);
+        m_game.setLanguageListener([this, dataFolder](const language::Texts& texts) {
+            speak({ .language = m_language,
+                      .menu = m_menu,
+                      .images = m_images,
+                      .board = &m_board,
+                      .dataFolder = dataFolder },
+                texts);
+            if (m_window.isVisible()) {
+                tellWhatStaysEnglish();
+            }
+        });
         m_window.setClosingListener([this] { savePlaceOfWindow(); });
         m_menu.connectTo(m_game.controller(), [this](controller::MenuItemId id) {
             if (id == controller::MenuItemId::About) {
@@ -97,7 +110,8 @@ public:
     // What keeps the game from being played; empty when nothing does.
     [[nodiscard]] std::string fault() const
     {
-        return m_currentGame.catalogueErrors() + m_game.script().errors;
+        return m_currentGame.catalogueErrors() + m_game.script().errors
+            + m_game.texts().englishFaults();
     }
 
     void show()
@@ -108,6 +122,7 @@ public:
         if (m_preferences.isHeldElsewhere()) {
             askAboutSecondCopy(m_window, [this] { m_quit.terminate(); });
         }
+        tellWhatStaysEnglish();
         m_preferences.setReporter(
             [this](const QString& message) { showTrouble(m_window, message); });
         m_game.controller().kept().setRecordTest([this] { return m_preferences.isSaved(); });
@@ -169,8 +184,8 @@ public:
     {
         m_window.hide();
         m_sounds.stopLoop();
-        const QString message
-            = QStringLiteral("Veyrand cannot go on: %1.").arg(QString::fromStdString(reason));
+        const QString message = QCoreApplication::translate("Notices", "Veyrand cannot go on: %1.")
+                                    .arg(QString::fromStdString(reason));
         QTextStream(stderr) << message << Qt::endl;
         tellAndWait(message);
     }
@@ -180,6 +195,15 @@ private:
     {
         preferences.registerDefaults(progress::registeredDefaults());
         return preferences;
+    }
+
+    void tellWhatStaysEnglish()
+    {
+        if (const std::string& faults = m_game.texts().faults(); !faults.empty()) {
+            showTrouble(m_window,
+                QCoreApplication::translate("Notices", "Some texts are shown in English:")
+                    + QLatin1Char('\n') + QString::fromStdString(faults).trimmed());
+        }
     }
 
     [[nodiscard]] platform::Journal* journal()
@@ -215,6 +239,7 @@ private:
     desktop::qt::ImageStore m_images;
     desktop::qt::QtOverlayWindow m_overlay;
     desktop::qt::QtWindow m_windowModes;
+    desktop::qt::QtLanguage m_language;
     desktop::qt::GameMenu m_menu;
     progress::CurrentGame& m_currentGame;
     controller::Game m_game;

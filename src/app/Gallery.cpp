@@ -3,6 +3,7 @@
 #include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
+#include "progress/Settings.h"
 
 #include <QDir>
 #include <QTextStream>
@@ -81,17 +82,24 @@ constexpr std::array kTitlePages {
 // Goes from picture to picture in one game, by the operations that a player's clicks would reach.
 class Gallery {
 public:
-    Gallery(const QString& dataFolder, const QDir& folder, QSize size)
-        : m_game({ .screen = { .width = static_cast<double>(size.width()),
-                       .height = static_cast<double>(size.height()) },
-            .window = size,
-            .dataFolder = dataFolder })
+    Gallery(const PageToShow& wanted, const QDir& folder)
+        : m_game({ .screen = { .width = static_cast<double>(wanted.size.width()),
+                       .height = static_cast<double>(wanted.size.height()) },
+            .window = wanted.size,
+            .preferences = { .values = {},
+                .records = { { std::string(progress::kSettingsKey),
+                    { { "Language", wanted.language } } } } },
+            .dataFolder = wanted.dataFolder,
+            .languagesFolder = wanted.languagesFolder })
         , m_folder(folder)
     {
     }
 
     // What is wrong with the pages; empty when nothing is.
-    [[nodiscard]] const std::string& fault() { return m_game.game().script().errors; }
+    [[nodiscard]] std::string fault()
+    {
+        return m_game.game().script().errors + m_game.game().texts().englishFaults();
+    }
 
     bool paint()
     {
@@ -113,6 +121,17 @@ public:
         take("board-endless");
         paintHandsOn();
         return m_complete;
+    }
+
+    ShownPage shown(const std::string& name)
+    {
+        ShownPage shown;
+        if (m_game.game().script().pages.contains(name)) {
+            openPage(name);
+            shown.picture = m_game.picture();
+        }
+        shown.faults = QString::fromStdString(fault() + m_game.game().texts().faults());
+        return shown;
     }
 
 private:
@@ -211,7 +230,7 @@ private:
         m_game.wait(kEverythingHasFadedIn);
     }
 
-    void paintPage(const std::string& name)
+    void openPage(const std::string& name)
     {
         const auto* const found = std::find_if(kScenes.begin(), kScenes.end(),
             [&name](const Scene& scene) { return scene.page == name; });
@@ -227,6 +246,11 @@ private:
         progress::setEndlessGameUnlocked(m_game.preferences(), false);
         m_game.controller().pages().show(name);
         m_game.wait(kEverythingHasFadedIn);
+    }
+
+    void paintPage(const std::string& name)
+    {
+        openPage(name);
         take(name);
     }
 
@@ -237,19 +261,26 @@ private:
 
 } // namespace
 
-int paintGallery(const QString& dataFolder, const QString& pictureFolder, QSize size)
+int paintGallery(const QString& dataFolder, const QString& pictureFolder, QSize size,
+    const std::string& language)
 {
     if (!QDir().mkpath(pictureFolder)) {
         QTextStream(stderr) << "The folder " << pictureFolder << " cannot be made" << Qt::endl;
         return 1;
     }
-    Gallery gallery(dataFolder, QDir(pictureFolder), size);
-    if (!gallery.fault().empty()) {
+    Gallery gallery({ .dataFolder = dataFolder, .language = language, .page = {}, .size = size },
+        QDir(pictureFolder));
+    if (const std::string fault = gallery.fault(); !fault.empty()) {
         QTextStream(stderr) << "The pages cannot be painted: " << dataFolder << '/'
-                            << QString::fromStdString(gallery.fault()) << Qt::endl;
+                            << QString::fromStdString(fault) << Qt::endl;
         return 1;
     }
     return gallery.paint() ? 0 : 1;
+}
+
+ShownPage pictureOfPage(const PageToShow& wanted)
+{
+    return Gallery(wanted, {}).shown(wanted.page);
 }
 
 } // namespace veyrand::app

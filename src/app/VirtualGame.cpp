@@ -20,7 +20,7 @@ using platform::Point;
 VirtualGame::VirtualGame(const Options& options)
     : m_preferences(headless::prepared(
         options.store != nullptr ? *options.store : m_memory, options.preferences))
-    , m_resources(options.dataFolder)
+    , m_resources(options.dataFolder, options.languagesFolder)
     , m_images(options.dataFolder + QStringLiteral("/images"), m_font)
     , m_menu(m_preferences)
     , m_installation(m_preferences)
@@ -60,6 +60,14 @@ VirtualGame::VirtualGame(const Options& options)
     m_widget->setAttribute(Qt::WA_DontShowOnScreen);
     m_widget->resize(options.window);
     m_widget->show();
+    game().setLanguageListener([this, folder = options.dataFolder](const language::Texts& texts) {
+        speak({ .language = m_language,
+                  .menu = m_menu,
+                  .images = m_images,
+                  .board = m_widget.get(),
+                  .dataFolder = folder },
+            texts);
+    });
     m_headless.setResizer([this](platform::Size size) {
         resize({ static_cast<int>(size.width), static_cast<int>(size.height) });
     });

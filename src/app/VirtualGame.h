@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/VirtualInstallation.h"
+#include "app/Words.h"
 #include "desktop/qt/BoardWidget.h"
 #include "desktop/qt/DataFolder.h"
 #include "desktop/qt/GameMenu.h"
@@ -27,6 +28,7 @@ public:
         platform::Preferences* store = nullptr; // outlives the game; null for one in memory
         platform::Journal* journal = nullptr; // outlives the game; null: nothing is kept
         QString dataFolder {};
+        QString languagesFolder {}; // empty: the one among the data
     };
 
     explicit VirtualGame(const Options& options);
@@ -89,6 +91,7 @@ private:
     desktop::qt::FileResources m_resources;
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images;
+    desktop::qt::QtLanguage m_language;
     desktop::qt::GameMenu m_menu;
     VirtualInstallation m_installation;
     headless::HeadlessGame m_headless;

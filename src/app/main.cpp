@@ -1,9 +1,11 @@
 #include "app/Application.h"
 #include "app/Demo.h"
 #include "app/Gallery.h"
+#include "app/PagePreview.h"
 #include "app/UncaughtGuard.h"
 #include "app/WaitingBox.h"
 #include "desktop/qt/DataFolder.h"
+#include "language/Choice.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -25,9 +27,13 @@ constexpr int kBadArguments = 2;
 struct Pictures {
     std::optional<std::string> demoFolder;
     std::optional<std::string> galleryFolder;
-    std::vector<int> gallerySize { 1440, 900 };
+    std::vector<int> size { 1440, 900 };
+    std::optional<std::string> page; // to be shown while a translator works on it
+    std::string languagesFolder {};
+    std::string language { "en" };
 
     [[nodiscard]] bool wanted() const { return demoFolder || galleryFolder; }
+    [[nodiscard]] QSize shape() const { return { size.at(0), size.at(1) }; }
 };
 
 int run(const Pictures& pictures, const std::optional<std::string>& journal)
@@ -49,8 +55,14 @@ int run(const Pictures& pictures, const std::optional<std::string>& journal)
     }
     if (pictures.galleryFolder) {
         return veyrand::app::paintGallery(dataFolder,
-            QString::fromStdString(*pictures.galleryFolder),
-            { pictures.gallerySize.at(0), pictures.gallerySize.at(1) });
+            QString::fromStdString(*pictures.galleryFolder), pictures.shape(), pictures.language);
+    }
+    if (pictures.page) {
+        return veyrand::app::showPage({ .dataFolder = dataFolder,
+            .languagesFolder = QString::fromStdString(pictures.languagesFolder),
+            .language = pictures.language,
+            .page = *pictures.page,
+            .size = pictures.shape() });
     }
     QApplication::setWindowIcon(veyrand::desktop::qt::applicationIcon(dataFolder));
     return journal ? veyrand::app::showJournal(dataFolder, QString::fromStdString(*journal))
@@ -69,11 +81,17 @@ void giveBackLargeMemory()
 #endif
 }
 
-int start(int argc, char** argv)
+std::string languageCodes()
 {
-    CLI::App options("Veyrand, a puzzle game of rewrite moves", "veyrand");
-    options.set_version_flag("--version", "veyrand " VEYRAND_VERSION);
-    Pictures pictures;
+    std::string list;
+    for (const std::string& code : veyrand::language::knownCodes()) {
+        list += (list.empty() ? "" : ", ") + code;
+    }
+    return list;
+}
+
+void addPictureOptions(CLI::App& options, Pictures& pictures, std::optional<std::string>& journal)
+{
     CLI::Option* const demo
         = options
               .add_option("--demo", pictures.demoFolder,
@@ -88,20 +106,65 @@ int start(int argc, char** argv)
                   "DIR")
               ->type_name("DIR")
               ->excludes(demo);
-    options.add_option("--size", pictures.gallerySize, "The size of the gallery's pictures")
-        ->delimiter('x')
-        ->expected(2)
-        ->check(CLI::Range(320, 7680))
-        ->type_name("WIDTHxHEIGHT")
-        ->default_str("1440x900")
-        ->needs(gallery);
-    std::optional<std::string> journal;
+    CLI::Option* const replay
+        = options
+              .add_option("--replay", journal,
+                  "Show the game that the journal FILE holds, as it was played")
+              ->type_name("FILE")
+              ->excludes(demo)
+              ->excludes(gallery);
     options
-        .add_option(
-            "--replay", journal, "Show the game that the journal FILE holds, as it was played")
-        ->type_name("FILE")
+        .add_option("--page", pictures.page,
+            "Show the page NAME, and show it anew whenever its language's files are saved")
+        ->type_name("NAME")
         ->excludes(demo)
-        ->excludes(gallery);
+        ->excludes(gallery)
+        ->excludes(replay);
+}
+
+// How the pictures of a gallery, or of a page, are to be.
+void addLooks(CLI::App& options, Pictures& pictures)
+{
+    CLI::Option* const gallery = options.get_option("--gallery");
+    CLI::Option* const page = options.get_option("--page");
+    options
+        .add_option("--languages", pictures.languagesFolder,
+            "Read the languages of the page from DIR instead of the game's data")
+        ->type_name("DIR")
+        ->check(CLI::ExistingDirectory)
+        ->needs(page);
+    CLI::Option* const size
+        = options
+              .add_option("--size", pictures.size, "The size of the gallery's pictures, or page")
+              ->delimiter('x')
+              ->expected(2)
+              ->check(CLI::Range(320, 7680))
+              ->type_name("WIDTHxHEIGHT")
+              ->default_str("1440x900");
+    CLI::Option* const language
+        = options
+              .add_option("--language", pictures.language,
+                  "The language of the gallery's pictures, or page: " + languageCodes())
+              ->check(CLI::IsMember(veyrand::language::knownCodes()))
+              ->type_name("CODE")
+              ->default_str("en");
+    options.callback([gallery, page, size, language] {
+        for (const CLI::Option* const option : { size, language }) {
+            if (*option && !*gallery && !*page) {
+                throw CLI::RequiresError(option->get_name(), "--gallery or --page");
+            }
+        }
+    });
+}
+
+int start(int argc, char** argv)
+{
+    CLI::App options("Veyrand, a puzzle game of rewrite moves", "veyrand");
+    options.set_version_flag("--version", "veyrand " VEYRAND_VERSION);
+    Pictures pictures;
+    std::optional<std::string> journal;
+    addPictureOptions(options, pictures, journal);
+    addLooks(options, pictures);
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

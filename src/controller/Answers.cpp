@@ -3,6 +3,7 @@
 #include "board/ElementKey.h"
 #include "controller/GameController.h"
 #include "controller/Legality.h"
+#include "controller/Speech.h"
 #include "present/ExtraPictures.h"
 
 #include <algorithm>
@@ -360,7 +361,7 @@ void Answers::pulse(const Extra& limit)
 
 void Answers::say(const play::Refusal& why)
 {
-    const std::string words = play::wordsFor(why);
+    const std::string words = wordsFor(m_game.texts, why);
     if (!m_settings.sayWhy || words.empty()) {
         return;
     }

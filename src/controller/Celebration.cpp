@@ -9,23 +9,19 @@ namespace veyrand::controller {
 
 using namespace present::extras;
 
-namespace {
-
-std::string headlineFor(long points, int over)
-{
-    const std::string sum = (points < 0 ? "" : "+") + std::to_string(points);
-    if (over == 0) {
-        return sum + " at par";
-    }
-    return sum + ", " + std::to_string(std::abs(over)) + (over > 0 ? " over par" : " under par");
-}
-
-} // namespace
-
 Celebration::Celebration(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
 {
+}
+
+std::string Celebration::headlineFor(long points, int over) const
+{
+    const std::string sum = (points < 0 ? "" : "+") + std::to_string(points);
+    const char* const id = over == 0 ? "celebration.atPar"
+        : over > 0                   ? "celebration.overPar"
+                                     : "celebration.underPar";
+    return m_game.texts.text(id, { { "moves", std::int64_t { std::abs(over) } }, { "sum", sum } });
 }
 
 std::int64_t Celebration::purse() const
@@ -56,7 +52,9 @@ void Celebration::solved(long points)
     m_shown = m_from;
     m_row = m_controller.lineCount() - 1;
     const auto lost = m_purseAtStart - m_from;
-    m_hints = lost > 0 ? std::to_string(lost) + " points went to hints" : std::string();
+    m_hints = lost > 0
+        ? m_game.texts.text("celebration.hints", { { "points", std::int64_t { lost } } })
+        : std::string();
 
     present::Extras& extras = m_game.layers.extras();
     const auto length = static_cast<unsigned>(proof->goal().theorem().size());

@@ -33,6 +33,7 @@ public:
     [[nodiscard]] std::string state() const;
 
 private:
+    [[nodiscard]] std::string headlineFor(long points, int over) const;
     [[nodiscard]] std::int64_t purse() const;
     [[nodiscard]] bool isOn() const;
     void showPlate();

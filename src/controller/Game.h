@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameController.h"
+#include "controller/Speech.h"
 #include "controller/TutorialScriptReader.h"
 #include "platform/Random.h"
 #include "platform/Resources.h"
@@ -24,6 +25,9 @@ struct GamePorts {
     platform::Alerts& alerts;
     std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
     platform::Journal* journal = nullptr; // null: no puzzle outlasts the board
+    // What the desktop speaks ("de-AT"), the dearest first. None: English, unless the player has
+    // chosen another language.
+    std::vector<std::string> desktopLanguages {};
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -32,6 +36,8 @@ class Game {
 public:
     Game(const GamePorts& ports, progress::CurrentGame& currentGame, board::GameData& gameData)
         : m_script(readTutorialScript(ports.resources))
+        , m_texts(ports.resources)
+        , m_desktopLanguages(ports.desktopLanguages)
         , m_effects(ports.sounds, ports.menu)
         , m_preferences(ports.preferences)
         , m_pacedLoop(ports.runLoop, m_tempo)
@@ -55,6 +61,7 @@ public:
             .effects = m_effects,
             .menu = ports.menu,
             .script = m_script,
+            .texts = m_texts,
             .log = ports.log,
             .quit = ports.quit,
             .overlay = ports.overlay,
@@ -68,16 +75,47 @@ public:
     }
 
     // To be called when the player has chosen other settings.
-    void settingsChanged() { m_tempo.setSpeed(progress::readSettings(m_preferences).tempo); }
+    void settingsChanged()
+    {
+        const progress::Settings settings = progress::readSettings(m_preferences);
+        m_tempo.setSpeed(settings.tempo);
+        speak(languageFor(settings.language, m_desktopLanguages));
+    }
+    // Calls the function now, and again whenever the language has changed: for what has words of
+    // its own outside the game, or pictures with words on them.
+    void setLanguageListener(std::function<void(const language::Texts& texts)> listener)
+    {
+        m_languageListener = std::move(listener);
+        m_languageListener(m_texts);
+    }
 
     [[nodiscard]] present::BoardLayers& layers() { return m_layers; }
     [[nodiscard]] input::GameView& view() { return m_view; }
     [[nodiscard]] GameController& controller() { return m_controller; }
     // The pages and lessons, with what was wrong with their files.
     [[nodiscard]] const TutorialScript& script() const { return m_script; }
+    [[nodiscard]] const language::Texts& texts() const { return m_texts; }
 
 private:
+    void speak(std::string_view code)
+    {
+        if (code == m_texts.code()) {
+            return;
+        }
+        m_texts.choose(code);
+        if (!m_texts.faults().empty()) {
+            m_context.log.write(m_texts.faults());
+        }
+        m_controller.languageChanged();
+        if (m_languageListener) {
+            m_languageListener(m_texts);
+        }
+    }
+
     TutorialScript m_script;
+    language::Texts m_texts;
+    std::vector<std::string> m_desktopLanguages;
+    std::function<void(const language::Texts& texts)> m_languageListener;
     platform::SoundEffects m_effects;
     const platform::Preferences& m_preferences;
     board::Tempo m_tempo;

@@ -4,6 +4,7 @@
 #include "board/Tempo.h"
 #include "controller/TutorialScript.h"
 #include "input/GameView.h"
+#include "language/Texts.h"
 #include "platform/Alerts.h"
 #include "platform/Journal.h"
 #include "platform/Log.h"
@@ -33,6 +34,7 @@ struct GameContext {
     const platform::SoundEffects& effects;
     const platform::Menu& menu;
     const TutorialScript& script;
+    language::Texts& texts;
     platform::Log& log;
     platform::Quit& quit;
     platform::OverlayWindow& overlay;

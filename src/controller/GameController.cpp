@@ -54,6 +54,12 @@ void GameController::windowDidResize()
     m_context.view.turnOnAllHovers();
 }
 
+void GameController::languageChanged()
+{
+    m_pages.showInNewWords();
+    m_answers.handsChanged();
+}
+
 void GameController::musicMenuClick()
 {
     // Muting is by volume: the music goes on unheard.

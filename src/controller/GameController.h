@@ -61,6 +61,8 @@ public:
     [[nodiscard]] const FullScreen& fullScreen() const { return m_fullScreen; }
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
+    // A page on show is put into the new words; nothing sounds, and nothing else moves.
+    void languageChanged();
     void musicMenuClick();
     // The last thing the game does: the offer to install it, where there is reason for one. The
     // game must live until `done` is called, which may be at once.

@@ -47,6 +47,13 @@ void Messages::showDialogue(std::unique_ptr<present::InfoLayer> window)
     playMessageWindowSound();
 }
 
+// The old one goes first, or it would take what is left of its keys along.
+void Messages::replaceWindow(const std::function<std::unique_ptr<present::InfoLayer>()>& make)
+{
+    m_window.reset();
+    m_window = make();
+}
+
 void Messages::hold(std::unique_ptr<present::InfoLayer> window, std::string page)
 {
     // One message shown over another takes its keys; what is left of the other stays on the board

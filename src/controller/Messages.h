@@ -3,6 +3,7 @@
 #include "controller/GameContext.h"
 #include "present/InfoLayer.h"
 
+#include <functional>
 #include <memory>
 
 namespace veyrand::controller {
@@ -22,6 +23,9 @@ public:
     void showMessageInfo(std::unique_ptr<present::InfoLayer> window, std::string page);
     // A dialogue: its own buttons answer it.
     void showDialogue(std::unique_ptr<present::InfoLayer> window);
+
+    // The message on show gives way to another of the same kind: it has other words for the same.
+    void replaceWindow(const std::function<std::unique_ptr<present::InfoLayer>()>& make);
 
     // A press while a page or note is up: it goes, and what its code asks for follows.
     void messageWindowClick();

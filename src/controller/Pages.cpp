@@ -1,6 +1,7 @@
 #include "controller/Pages.h"
 
 #include "controller/GameController.h"
+#include "controller/PageFlow.h"
 #include "present/InfoLayer.h"
 #include "progress/PlayerRecord.h"
 
@@ -59,9 +60,9 @@ bool Pages::show(const std::string& name)
         m_controller.messages().setDisplayMessageWindowOnClick(*page.then);
     }
     if (page.kind == Page::Kind::Note) {
-        m_controller.messages().showMessageInfo(build(page), name);
+        m_controller.messages().showMessageInfo(build(name), name);
     } else {
-        m_controller.messages().showMessageWindow(build(page), name);
+        m_controller.messages().showMessageWindow(build(name), name);
     }
     return true;
 }
@@ -96,8 +97,38 @@ bool Pages::unlockEndlessGame()
     return true;
 }
 
-std::unique_ptr<present::InfoLayer> Pages::build(const Page& page) const
+void Pages::showInNewWords()
 {
+    const std::string name = m_controller.messages().page();
+    if (!name.empty()) {
+        m_controller.messages().replaceWindow([this, name] { return build(name); });
+    }
+}
+
+// A page that cannot be put into the chosen language is shown in English.
+Page Pages::inWords(const std::string& name) const
+{
+    const Page& english = m_game.script.pages.find(name)->second;
+    const language::PageWords* const words = m_game.texts.page(name);
+    const language::PageWords* const englishWords = m_game.texts.englishPage(name);
+    if (words == nullptr || englishWords == nullptr) {
+        return english;
+    }
+    try {
+        return flowed(
+            english, *englishWords, *words,
+            [this](const std::string& mark) { return valueOf(mark); }, m_game.layers.textMetrics());
+    } catch (const std::exception& error) {
+        m_game.texts.rejectPage(name, error.what());
+        m_game.log.write(
+            "languages/" + m_game.texts.code() + "/pages.json: " + name + ": " + error.what());
+        return english;
+    }
+}
+
+std::unique_ptr<present::InfoLayer> Pages::build(const std::string& name) const
+{
+    const Page page = inWords(name);
     auto window = std::make_unique<present::InfoLayer>(m_game.board.gameData, styleOf(page));
     window->setFontMultiplier(page.fontMultiplier);
     for (const PageBlock& block : page.blocks) {
@@ -119,9 +150,16 @@ std::unique_ptr<present::InfoLayer> Pages::build(const Page& page) const
 
 std::string Pages::filledIn(std::string text) const
 {
-    replace(text, "{completed}", std::to_string(m_game.currentGame.level() - 1));
-    replace(text, "{rank}", rank());
+    for (const char* const mark : { "completed", "rank" }) {
+        replace(text, '{' + std::string(mark) + '}', valueOf(mark));
+    }
     return text;
+}
+
+std::string Pages::valueOf(const std::string& mark) const
+{
+    return mark == "rank" ? m_game.texts.localized("ranks", rank())
+                          : std::to_string(m_game.currentGame.level() - 1);
 }
 
 // The rank of the level that has been completed: the one before the current one.

@@ -21,6 +21,9 @@ public:
     // False, with nothing shown, when there is no such page.
     bool show(const std::string& name);
 
+    // The page on show in the language as it is now.
+    void showInNewWords();
+
     // Greets the puzzle on the board.
     enum class Arrival { Solving, Resuming };
     void showMessageForNewGame(Arrival arrival);
@@ -28,8 +31,10 @@ public:
 private:
     [[nodiscard]] bool isInForce(int aboveRule) const;
     bool unlockEndlessGame(); // false when it was open already
-    [[nodiscard]] std::unique_ptr<present::InfoLayer> build(const Page& page) const;
+    [[nodiscard]] Page inWords(const std::string& name) const;
+    [[nodiscard]] std::unique_ptr<present::InfoLayer> build(const std::string& name) const;
     [[nodiscard]] std::string filledIn(std::string text) const;
+    [[nodiscard]] std::string valueOf(const std::string& mark) const;
     [[nodiscard]] std::string rank() const;
 
     GameController& m_controller;

@@ -3,9 +3,12 @@
 #include "board/ElementKey.h"
 #include "controller/GameController.h"
 #include "controller/Legality.h"
+#include "controller/Speech.h"
 #include "play/Move.h"
 #include "play/Scoring.h"
 #include "progress/PlayerRecord.h"
+
+#include <algorithm>
 
 namespace veyrand::controller {
 
@@ -13,40 +16,9 @@ namespace {
 
 constexpr int kPuzzlesOfALevel = 10;
 
-std::string counted(long number, const char* one, const char* many)
+std::int64_t number(long long value)
 {
-    return std::to_string(number) + ' ' + (number == 1 ? one : many);
-}
-
-std::string forClick(char letter)
-{
-    switch (letter) {
-    case 'Y':
-        return "Click: doubles everything to its right.";
-    case 'R':
-        return "Click: adds a green at the end.";
-    case 'G':
-        return "Click: puts a blue between the two greens.";
-    default:
-        return {};
-    }
-}
-
-std::string forDrag(char letter)
-{
-    using play::Reason;
-    switch (letter) {
-    case 'R':
-        return play::wordsFor({ Reason::DragReds });
-    case 'G':
-        return play::wordsFor({ Reason::DragGreens });
-    case 'Y':
-        return play::wordsFor({ Reason::DragYellow });
-    case 'B':
-        return play::wordsFor({ Reason::DragBlues });
-    default:
-        return {};
-    }
+    return value;
 }
 
 } // namespace
@@ -89,7 +61,38 @@ std::string Tips::textFor(const std::string& key) const
     if (key == "label-endlesssavegame") {
         return forMedal(true);
     }
-    return key == "label-endlessgamelocked" ? "opens when you reach 5-5 in Classic" : std::string();
+    return key == "label-endlessgamelocked" ? m_game.texts.text("tips.locked") : std::string();
+}
+
+std::string Tips::forClick(char letter) const
+{
+    switch (letter) {
+    case 'Y':
+        return m_game.texts.text("tips.clickYellow");
+    case 'R':
+        return m_game.texts.text("tips.clickRed");
+    case 'G':
+        return m_game.texts.text("tips.clickGreen");
+    default:
+        return {};
+    }
+}
+
+std::string Tips::forDrag(char letter) const
+{
+    using play::Reason;
+    switch (letter) {
+    case 'R':
+        return wordsFor(m_game.texts, { Reason::DragReds });
+    case 'G':
+        return wordsFor(m_game.texts, { Reason::DragGreens });
+    case 'Y':
+        return wordsFor(m_game.texts, { Reason::DragYellow });
+    case 'B':
+        return wordsFor(m_game.texts, { Reason::DragBlues });
+    default:
+        return {};
+    }
 }
 
 std::string Tips::forChip(unsigned row, unsigned column) const
@@ -107,7 +110,7 @@ std::string Tips::forChip(unsigned row, unsigned column) const
     if (!dropsThatAreMoves(m_controller, row, column).empty()) {
         text += (text.empty() ? "" : " ") + forDrag(line[column]);
     }
-    return text.empty() && refusal ? play::wordsFor(*refusal) : text;
+    return text.empty() && refusal ? wordsFor(m_game.texts, *refusal) : text;
 }
 
 std::string Tips::forDelete(unsigned row) const
@@ -116,7 +119,7 @@ std::string Tips::forDelete(unsigned row) const
     if (row == 0 || row >= count) {
         return {};
     }
-    return "takes " + counted(static_cast<long>(count - row), "line", "lines") + " back";
+    return m_game.texts.text("tips.takesBack", { { "lines", number(count - row) } });
 }
 
 std::string Tips::forPar() const
@@ -125,59 +128,57 @@ std::string Tips::forPar() const
     if (lines == 0) {
         return {};
     }
-    const int moves = m_game.currentGame.par() - 1;
-    return std::to_string(moves) + (moves == 1 ? " move is" : " moves are")
-        + " enough; you have made " + std::to_string(lines - 1);
+    return m_game.texts.text("tips.par",
+        { { "moves", number(m_game.currentGame.par() - 1) }, { "made", number(lines - 1) } });
 }
 
 std::string Tips::forPoints() const
 {
     const progress::CurrentGame& game = m_game.currentGame;
-    const std::string most = std::to_string(
-        play::pointsForSolving(game.endlessGame(), game.par(), static_cast<unsigned>(game.par())));
-    return most + (game.endlessGame() ? " at par" : " for a solution at par")
-        + ", 10 less for every move more";
+    const auto most
+        = play::pointsForSolving(game.endlessGame(), game.par(), static_cast<unsigned>(game.par()));
+    return m_game.texts.text(game.endlessGame() ? "tips.pointsEndless" : "tips.pointsClassic",
+        { { "points", number(most) } });
 }
 
 std::string Tips::forStage() const
 {
     const progress::CurrentGame& game = m_game.currentGame;
-    return "stage " + std::to_string(game.level()) + ", puzzle " + std::to_string(game.stage())
-        + " of " + std::to_string(kPuzzlesOfALevel);
+    return m_game.texts.text("tips.stage",
+        { { "stage", number(game.level()) }, { "puzzle", number(game.stage()) },
+            { "all", number(kPuzzlesOfALevel) } });
 }
 
 std::string Tips::forHint() const
 {
     const auto record = progress::readPlayerRecord(
         m_game.preferences, progress::currentPlayer(m_game.preferences));
-    return record.firstHintClick ? "50 points" : "the first only explains";
+    return m_game.texts.text(record.firstHintClick ? "tips.hint" : "tips.firstHint");
 }
 
 std::string Tips::forPar(int par) const
 {
-    if (par < kEasiestPar) {
-        return "par " + std::to_string(kEasiestPar - 1) + " is the easiest";
-    }
-    if (par > kHardestPar) {
-        return "par " + std::to_string(kHardestPar - 1) + " is the hardest";
-    }
-    return "a new puzzle, par " + std::to_string(par - 1);
+    const char* const id = par < kEasiestPar ? "tips.easiest"
+        : par > kHardestPar                  ? "tips.hardest"
+                                             : "tips.newPuzzle";
+    return m_game.texts.text(
+        id, { { "par", number(std::clamp(par, kEasiestPar, kHardestPar) - 1) } });
 }
 
 std::string Tips::forMedal(bool endless) const
 {
     const auto record = progress::readPlayerRecord(
         m_game.preferences, progress::currentPlayer(m_game.preferences));
+    if (endless ? record.endlessScore == 0 : record.level <= 1 && record.stage <= 1) {
+        return m_game.texts.text("tips.newGame");
+    }
     if (endless) {
-        return record.endlessScore == 0
-            ? "a new game"
-            : "continue with " + counted(static_cast<long>(record.endlessScore), "point", "points");
+        return m_game.texts.text(
+            "tips.continueEndless", { { "points", number(record.endlessScore) } });
     }
-    if (record.level <= 1 && record.stage <= 1) {
-        return "a new game";
-    }
-    return "continue " + std::to_string(record.level) + '-' + std::to_string(record.stage) + ", "
-        + counted(static_cast<long>(record.score), "point", "points");
+    return m_game.texts.text("tips.continueClassic",
+        { { "points", number(record.score) },
+            { "place", std::to_string(record.level) + '-' + std::to_string(record.stage) } });
 }
 
 } // namespace veyrand::controller

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] std::string textFor(const std::string& key) const;
 
 private:
+    [[nodiscard]] std::string forClick(char letter) const;
+    [[nodiscard]] std::string forDrag(char letter) const;
     [[nodiscard]] std::string forChip(unsigned row, unsigned column) const;
     [[nodiscard]] std::string forDelete(unsigned row) const;
     [[nodiscard]] std::string forPar() const;

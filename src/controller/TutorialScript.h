@@ -13,6 +13,17 @@ namespace veyrand::controller {
 // the order and with the names of those files. Pages are named after the operations that open them.
 // Nothing here knows how a page is shown or when a gate is asked.
 
+// Where a text of another language may stand instead of English's lines.
+struct PageRoom {
+    enum class Align { Centre, Left };
+
+    double left = 0.0;
+    double bottom = 0.0;
+    double right = 0.0;
+    double top = 0.0;
+    Align align = Align::Centre; // about the place of English's first line; or from the left
+};
+
 // Offsets and places in game heights; sizes as for TextStyle.
 struct PageLine {
     std::string text; // to the letter: the pictures sit in the gaps that its blanks leave
@@ -20,6 +31,7 @@ struct PageLine {
     double vertical = 0.0;
     double size = 60.0;
     board::Color color {};
+    std::optional<PageRoom> room {}; // of this line and those below it, up to the next with a room
 };
 
 struct PagePicture {

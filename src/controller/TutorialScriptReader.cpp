@@ -149,6 +149,20 @@ PagePicture readPicture(const Json& json, const std::string& place)
     return picture;
 }
 
+PageRoom readRoom(Fields& fields)
+{
+    const auto room = fields.numbers<4>("room");
+    const auto align = fields.get("align", std::string("centre"));
+    if (align != "centre" && align != "left") {
+        fail(fields.place() + ": there is no align \"" + align + '"');
+    }
+    return { .left = room[0],
+        .bottom = room[1],
+        .right = room[2],
+        .top = room[3],
+        .align = align == "left" ? PageRoom::Align::Left : PageRoom::Align::Centre };
+}
+
 // A line is a text, or an object when it stands elsewhere or looks different.
 PageLine readLine(const Json& json, const Styles& styles, const std::string& place)
 {
@@ -168,6 +182,9 @@ PageLine readLine(const Json& json, const Styles& styles, const std::string& pla
         line.color = style->second.color;
     }
     line.size = fields.get("size", line.size);
+    if (fields.find("room") != nullptr) {
+        line.room = readRoom(fields);
+    }
     fields.end();
     return line;
 }

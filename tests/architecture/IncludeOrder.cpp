@@ -11,8 +11,8 @@ namespace veyrand::architecture {
 namespace {
 
 // The portable rooms, lowest first; the front ends (desktop/, web/) and app/ stand on them.
-constexpr std::array<std::string_view, 8> kRooms { "engine", "progress", "play", "board", "present",
-    "input", "controller", "headless" };
+constexpr std::array<std::string_view, 9> kRooms { "language", "engine", "progress", "play",
+    "board", "present", "input", "controller", "headless" };
 // Beside them: it knows ports alone.
 constexpr std::string_view kInstall = "install";
 constexpr std::string_view kFakes = "platform/fakes";
@@ -132,7 +132,7 @@ std::string foreignProblem(std::string_view room, std::string_view header)
     if (isStandard(header)) {
         return contains(kBarredHeaders, header) ? " is out of bounds for the portable rooms" : "";
     }
-    if (room == "engine" && isBelow(header, "unicode")) {
+    if ((room == "engine" || room == "language") && isBelow(header, "unicode")) {
         return {};
     }
     if (!isLowest && !isBelow(room, "platform") && isBelow(header, "nlohmann")) {

@@ -1,9 +1,11 @@
 #include "desktop/qt/GameFont.h"
+#include "language/Choice.h"
 #include "support/PlayedGame.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <regex>
 
 namespace veyrand::controller {
@@ -92,6 +94,28 @@ protected:
         return chips;
     }
 
+    // Calls the function for every page in every language, with the page open.
+    void forEveryPage(const std::function<void()>& function)
+    {
+        for (const std::string& language : language::knownCodes()) {
+            speak(language);
+            EXPECT_EQ(game().game().texts().faults(), "");
+            for (const std::string& page : allPages()) {
+                SCOPED_TRACE(language + ' ' + page);
+                open(page);
+                function();
+            }
+            EXPECT_EQ(game().game().texts().faults(), "");
+        }
+    }
+
+    void speak(const std::string& language)
+    {
+        game().preferences().setRecord(progress::kSettingsKey, { { "Language", language } });
+        game().game().settingsChanged();
+        ASSERT_EQ(game().game().texts().code(), language);
+    }
+
     [[nodiscard]] std::vector<std::string> allPages()
     {
         std::vector<std::string> names;
@@ -154,9 +178,7 @@ private:
 
 TEST_F(PageLayout, FillsEveryGapOfATextWithItsPictures)
 {
-    for (const std::string& page : allPages()) {
-        SCOPED_TRACE(page);
-        open(page);
+    forEveryPage([this] {
         for (const Line& line : textLines()) {
             for (const Box& gap : line.gaps) {
                 SCOPED_TRACE(line.text);
@@ -165,14 +187,12 @@ TEST_F(PageLayout, FillsEveryGapOfATextWithItsPictures)
                 EXPECT_NEAR(chips.centre(), gap.centre(), kHair);
             }
         }
-    }
+    });
 }
 
 TEST_F(PageLayout, KeepsPicturesOffTheWords)
 {
-    for (const std::string& page : allPages()) {
-        SCOPED_TRACE(page);
-        open(page);
+    forEveryPage([this] {
         for (const Picture& picture : pictures()) {
             if (picture.box.width() > 0.6) {
                 continue; // a background, or a rule between two blocks
@@ -184,7 +204,7 @@ TEST_F(PageLayout, KeepsPicturesOffTheWords)
                 }
             }
         }
-    }
+    });
 }
 
 TEST_F(PageLayout, SetsPicturesThatEndALineOneBlankFromItsLastWord)
@@ -206,12 +226,10 @@ TEST_F(PageLayout, SetsPicturesThatEndALineOneBlankFromItsLastWord)
 
 TEST_F(PageLayout, KeepsEveryLineInsideThePane)
 {
-    for (const std::string& page : allPages()) {
-        SCOPED_TRACE(page);
-        open(page);
+    forEveryPage([this] {
         constexpr double kFrame = 0.04;
         if (pictures().empty() || pictures().front().image != "MessageBackground") {
-            continue;
+            return;
         }
         const Box& pane = pictures().front().box;
         for (const Line& line : textLines()) {
@@ -220,7 +238,27 @@ TEST_F(PageLayout, KeepsEveryLineInsideThePane)
             EXPECT_GT(line.box.bottom, pane.bottom + kFrame) << line.text;
             EXPECT_LT(line.box.top, pane.top - kFrame) << line.text;
         }
-    }
+    });
+}
+
+TEST_F(PageLayout, KeepsLinesApartAndOnTheBoard)
+{
+    forEveryPage([this] {
+        constexpr double kBoardLeft = 0.58;
+        for (const Line& line : textLines()) {
+            SCOPED_TRACE(line.text);
+            if (pictures().empty() || pictures().front().image != "MessageBackground") {
+                EXPECT_GT(line.box.left, kBoardLeft);
+            }
+            EXPECT_LT(line.box.right, 1.6);
+            EXPECT_GT(line.box.bottom, 0.0);
+            for (const Line& other : textLines()) {
+                EXPECT_TRUE(&line == &other || line.text == other.text
+                    || line.box.overlapWith(other.box) < kHair)
+                    << other.text;
+            }
+        }
+    });
 }
 
 } // namespace veyrand::controller

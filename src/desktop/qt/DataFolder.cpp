@@ -42,7 +42,11 @@ std::optional<std::string> FileResources::dataNamed(
     const auto text = [](std::string_view bytes) {
         return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     };
-    QFile file(QDir(m_folder).filePath(text(name) + QLatin1Char('.') + text(type)));
+    const QString wanted = text(name) + QLatin1Char('.') + text(type);
+    const QLatin1String languages("languages/");
+    QFile file(!m_languages.isEmpty() && wanted.startsWith(languages)
+            ? QDir(m_languages).filePath(wanted.mid(languages.size()))
+            : QDir(m_folder).filePath(wanted));
     if (!file.open(QIODevice::ReadOnly)) {
         qCWarning(lcGame).noquote() << file.fileName() << "cannot be read:" << file.errorString();
         return std::nullopt;

@@ -16,11 +16,13 @@ QString findDataFolder();
 // there.
 QIcon applicationIcon(const QString& dataFolder);
 
-// The named resources that the core reads, as files of the data folder.
+// The named resources that the core reads, as files of the data folder. The languages may lie in a
+// folder of their own, where a translator works on them.
 class FileResources final : public platform::Resources {
 public:
-    explicit FileResources(QString folder)
+    explicit FileResources(QString folder, QString languages = {})
         : m_folder(std::move(folder))
+        , m_languages(std::move(languages))
     {
     }
 
@@ -29,6 +31,7 @@ public:
 
 private:
     QString m_folder;
+    QString m_languages; // empty: among the data
 };
 
 } // namespace veyrand::desktop::qt

@@ -106,6 +106,16 @@ void GameMenu::refresh()
     }
 }
 
+void GameMenu::retranslate()
+{
+    const auto titles = controller::menuTitles();
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        m_bar.actions().at(static_cast<qsizetype>(i))->setText(tr(titles[i].text));
+    }
+    refresh();
+    enableAll();
+}
+
 void GameMenu::enableAll()
 {
     for (const Item& item : m_items) {
@@ -115,23 +125,22 @@ void GameMenu::enableAll()
 
 bool GameMenu::trigger(const QString& text)
 {
-    for (QAction* const title : m_bar.actions()) {
-        QMenu& menu = *title->menu();
-        emit menu.aboutToShow();
-        for (QAction* const action : menu.actions()) {
-            QString plain = action->text();
-            plain.remove(QLatin1Char('&'));
-            if (plain == text) {
-                const bool enabled = action->isEnabled();
-                emit menu.aboutToHide();
-                if (enabled) {
-                    action->trigger();
-                }
-                return enabled;
+    refresh();
+    const auto named
+        = [&text](const QString& name) { return QString(name).remove(QLatin1Char('&')) == text; };
+    for (const Item& item : m_items) {
+        if (item.entry.kind != MenuItem::Kind::Hidden
+            && (named(QString::fromUtf8(m_choices.textOf(item.entry)))
+                || named(item.action->text()))) {
+            const bool enabled = item.action->isEnabled();
+            enableAll();
+            if (enabled) {
+                item.action->trigger();
             }
+            return enabled;
         }
-        emit menu.aboutToHide();
     }
+    enableAll();
     return false;
 }
 

@@ -30,13 +30,16 @@ public:
 
     [[nodiscard]] bool musicOn() const override { return m_choices.musicOn(); }
     [[nodiscard]] bool effectsOn() const override { return m_choices.effectsOn(); }
+    // The texts anew, after another language was chosen.
+    void retranslate();
     // What the Full Screen item shows.
     void setFullScreen(bool on) { m_fullScreen->setChecked(on); }
 
     [[nodiscard]] QMenuBar* bar() { return &m_bar; }
     // Everything with a shortcut. The window takes them too, since those of a hidden bar are dead.
     [[nodiscard]] QList<QAction*> actions() const { return m_shortcuts; }
-    // Chooses the item with the text, if there is one and it is enabled.
+    // Chooses the item with the text, in English or as it is shown, if there is one and it may be
+    // chosen now.
     bool trigger(const QString& text);
 
 private:

@@ -142,22 +142,43 @@ void ImageStore::forgetSizes()
     m_texts.clear();
 }
 
-QImage ImageStore::draw(const std::string& name, QSize size)
+void ImageStore::setLanguageFolder(const QString& folder)
 {
-    const QString base = QDir(m_folder).filePath(QString::fromStdString(name));
-    for (const char* suffix : { ".svg", ".jpg", ".png" }) {
-        const QString file = base + QLatin1String(suffix);
-        if (QFileInfo::exists(file)) {
-            QImage image = drawSource(file, size);
-            if (!image.isNull()) {
-                return image;
+    if (folder != m_languageFolder) {
+        m_languageFolder = folder;
+        forgetSizes();
+    }
+}
+
+// Empty where there is none.
+QString ImageStore::fileOf(const QString& name) const
+{
+    for (const QString& folder : { m_languageFolder, m_folder }) {
+        for (const char* suffix : { ".svg", ".jpg", ".png" }) {
+            const QString file = QDir(folder).filePath(name + QLatin1String(suffix));
+            if (!folder.isEmpty() && QFileInfo::exists(file)) {
+                return file;
             }
-            qCWarning(lcGame).noquote() << file << "is not a picture that can be read";
-            return standIn(size);
         }
     }
-    qCWarning(lcGame).noquote() << "There is no picture" << base + QLatin1String(".svg");
-    return standIn(size);
+    return {};
+}
+
+QImage ImageStore::draw(const std::string& name, QSize size)
+{
+    const QString file = fileOf(QString::fromStdString(name));
+    if (file.isEmpty()) {
+        qCWarning(lcGame).noquote()
+            << "There is no picture"
+            << QDir(m_folder).filePath(QString::fromStdString(name) + QLatin1String(".svg"));
+        return standIn(size);
+    }
+    QImage image = drawSource(file, size);
+    if (image.isNull()) {
+        qCWarning(lcGame).noquote() << file << "is not a picture that can be read";
+        return standIn(size);
+    }
+    return image;
 }
 
 // The photograph at the smallest of the sizes, each half the one before, that still has every pixel

@@ -23,6 +23,10 @@ class ImageStore {
 public:
     ImageStore(QString folder, const GameFont& font);
 
+    // A picture that lies in the other folder is taken from there: those with words on them are, in
+    // another language. None if empty.
+    void setLanguageFolder(const QString& folder);
+
     // The named picture stretched to exactly the size.
     const QPixmap& image(const std::string& name, QSize size);
     // The named picture at some size already drawn that is no smaller, if there is one, for a layer
@@ -44,11 +48,13 @@ public:
 private:
     const QPixmap& effect(QLatin1Char kind, const std::string& name, QSize size, int reach,
         QImage (*make)(const QImage& picture, int reach));
+    [[nodiscard]] QString fileOf(const QString& name) const;
     [[nodiscard]] QImage draw(const std::string& name, QSize size);
     [[nodiscard]] QImage drawSource(const QString& file, QSize size);
     [[nodiscard]] const QImage& photograph(const QString& file, QSize size);
 
     QString m_folder;
+    QString m_languageFolder;
     const GameFont& m_font;
     std::map<std::pair<std::string, std::pair<int, int>>, QPixmap> m_images;
     QHash<QString, QPixmap> m_effects;

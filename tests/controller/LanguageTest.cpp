@@ -1,0 +1,76 @@
+#include "progress/Settings.h"
+#include "support/HeadlessPlay.h"
+
+#include <gmock/gmock.h>
+
+namespace veyrand::controller {
+
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+class GermanGame : public test::HeadlessPlay {
+protected:
+    GermanGame()
+        : HeadlessPlay(Options { .preferences
+            = { .values = {}, .records = { { "Settings", { { "Language", "de" } } } } } })
+    {
+    }
+
+    void choose(const std::string& language)
+    {
+        game().preferences().setRecord(progress::kSettingsKey, { { "Language", language } });
+        game().game().settingsChanged();
+    }
+
+    std::string textUnder(const std::string& key)
+    {
+        const auto record = object(key);
+        return record && record->text() ? record->text()->text : std::string();
+    }
+};
+
+} // namespace
+
+TEST_F(GermanGame, ShowsPagesInGerman)
+{
+    play("YR", "YRG");
+    game().controller().pages().show("stage2MessageWindow");
+    EXPECT_EQ(textUnder("fullScreen-0"), "Züge verbinden");
+}
+
+TEST_F(GermanGame, SpeaksAnotherLanguageWithoutARestartOnThePageThatIsOpenToo)
+{
+    play("YR", "YRG");
+    game().controller().pages().show("stage2MessageWindow");
+    wait(2.0);
+    sounds();
+    choose("fr");
+    EXPECT_EQ(textUnder("fullScreen-0"), "Combiner les coups");
+    EXPECT_TRUE(sounds().empty());
+    choose("system");
+    EXPECT_EQ(textUnder("fullScreen-0"), "Moves in Combination");
+    click("chip-0-0");
+    EXPECT_EQ(textUnder("fullScreen-0"), "");
+}
+
+TEST_F(GermanGame, FillsInTheRankInGerman)
+{
+    play({ .root = "YR", .goal = "YRG", .par = 2, .level = 4, .stage = 1 });
+    game().controller().pages().show("showSuccessMessage");
+    EXPECT_EQ(textUnder("fullScreen-1"), "3");
+    EXPECT_EQ(textUnder("fullScreen-3"), "Wahrsager");
+}
+
+TEST_F(GermanGame, TellsWhoeverListensOfItsWords)
+{
+    std::vector<std::string> heard;
+    game().game().setLanguageListener(
+        [&heard](const language::Texts& texts) { heard.push_back(texts.code()); });
+    choose("it");
+    choose("it");
+    EXPECT_THAT(heard, testing::ElementsAre("de", "it"));
+}
+
+} // namespace veyrand::controller
