@@ -1,18 +1,20 @@
+#include "catalogue/Certificate.h"
 #include "catalogue/Criteria.h"
 #include "catalogue/Curve.h"
 #include "catalogue/Figures.h"
 #include "progress/Catalogue.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 
 namespace veyrand::catalogue {
 
 namespace {
 
-constexpr int kFirstLevelOfCurve = 2;
-constexpr std::size_t kMostOfOneSet = 5; // puzzles of a level that need the same late moves
+std::size_t firstOfCurve()
+{
+    return static_cast<std::size_t>(progress::catalogueIndex({ kFirstLevelOfPromise, 1 }));
+}
 
 std::string levelName(int level)
 {
@@ -46,105 +48,182 @@ void judgeBlue(int level, const Level& puzzles, Faults& faults)
     }
 }
 
+std::string figure(double value)
+{
+    return textOfBits(value);
+}
+
 void judgeMoves(int level, const Level& puzzles, Faults& faults)
 {
     constexpr std::ptrdiff_t kEnough = 9;
-    constexpr std::ptrdiff_t kEnoughOfLateMove = 3;
-    constexpr std::size_t kFewestSets = 3;
-    const auto needing = [&](unsigned move) {
-        return std::count_if(puzzles.begin(), puzzles.end(), [move](const Evidence* evidence) {
-            return (evidence->metrics.needed & only(move)) != 0;
-        });
-    };
     const std::optional<unsigned> newMove = newMoveOf(level);
-    if (newMove && needing(*newMove) < kEnough) {
+    const auto needing
+        = std::count_if(puzzles.begin(), puzzles.end(), [&](const Evidence* evidence) {
+              return newMove && (evidence->metrics.needed & only(*newMove)) != 0;
+          });
+    if (newMove && needing < kEnough) {
         faults.push_back(levelName(level) + "can do without its new move too often");
     }
-    if (level < kFirstLevelOfAll) {
-        return;
-    }
-    std::map<MoveSet, std::size_t> sets;
-    for (const Evidence* evidence : puzzles) {
-        ++sets[evidence->metrics.needed & kLateMoves];
-    }
-    const bool oneTooOften = std::any_of(
-        sets.begin(), sets.end(), [](const auto& set) { return set.second > kMostOfOneSet; });
-    if (oneTooOften || sets.size() < kFewestSets) {
-        faults.push_back(levelName(level) + "needs the same late moves again and again");
-    }
-    for (unsigned move = 0; only(move) <= kLateMoves; ++move) {
-        if ((kLateMoves & only(move)) != 0 && needing(move) < kEnoughOfLateMove) {
-            faults.push_back(
-                levelName(level) + "hardly needs the move of index " + std::to_string(move));
-        }
-    }
-}
-
-// A level rises, but for a breather or two.
-void judgeRise(int level, const Level& puzzles, Faults& faults)
-{
-    constexpr int kMostBreathers = 2;
-    int fallsOfMoves = 0;
-    int fallsOfBits = 0;
-    for (std::size_t i = 1; i < puzzles.size(); ++i) {
-        const Evidence& before = *puzzles.at(i - 1);
-        const Evidence& now = *puzzles.at(i);
-        fallsOfMoves += now.puzzle.moves < before.puzzle.moves ? 1 : 0;
-        fallsOfBits += now.metrics.bits < before.metrics.bits ? 1 : 0;
-        if (now.metrics.bits <= 0) {
+    for (std::size_t i = 0; i < puzzles.size(); ++i) {
+        if (puzzles.at(i)->metrics.bits <= 0) {
             faults.push_back(puzzleName(level, i, puzzles) + "is a single forced line");
         }
     }
-    if (fallsOfMoves > kMostBreathers || fallsOfBits > kMostBreathers) {
-        faults.push_back(levelName(level) + "falls more often than a breather or two");
+}
+
+void judgePromise(int level, const Level& puzzles, Faults& faults)
+{
+    const auto keeping = [&puzzles](Promise promise) {
+        return std::count_if(puzzles.begin(), puzzles.end(), [promise](const Evidence* evidence) {
+            return keeps(evidence->puzzle, evidence->metrics.needed, promise);
+        });
+    };
+    constexpr std::size_t kEnough = 9;
+    constexpr std::size_t kEnoughEarly = 7;
+    if (promisesKept(level, puzzles) < (level < kFirstLevelOfAll ? kEnoughEarly : kEnough)) {
+        faults.push_back(
+            levelName(level) + "does not keep its promise: " + nameOf(promiseOf(level)));
+    }
+    for (int later = level + 1; later <= progress::kLastLevel; ++later) {
+        const Promise promise = promiseOf(later);
+        const std::ptrdiff_t most = promise == Promise::WithoutYellow ? 0 : 2;
+        if (keeping(promise) > most) {
+            faults.push_back(levelName(level) + "gives away what level " + std::to_string(later)
+                + " is about: " + nameOf(promise));
+        }
     }
 }
 
-void judgeEnd(int level, const Level& puzzles, Faults& faults)
+// Neighbours are not worlds apart, a level has its breather, and ends with one of its hardest.
+void judgeRise(int level, const Level& puzzles, Faults& faults)
 {
-    const Evidence& last = *puzzles.back();
-    const bool isHardest = std::all_of(puzzles.begin(), puzzles.end(),
-        [&last](const Evidence* evidence) { return evidence->metrics.bits <= last.metrics.bits; });
-    if (!isHardest || !isMemorable(last.puzzle)) {
-        faults.push_back(puzzleName(level, puzzles.size() - 1, puzzles)
-            + "is not the puzzle to end a level with");
+    constexpr double kWorldsApart = 8;
+    const auto steps = [&puzzles](std::size_t i) { return stepsOf(*puzzles.at(i)); };
+    const std::size_t last = puzzles.size() - 1;
+    for (std::size_t i = 1; i < last; ++i) {
+        if (timesApart(*puzzles.at(i - 1), *puzzles.at(i)) >= kWorldsApart) {
+            faults.push_back(puzzleName(level, i, puzzles) + "takes "
+                + std::to_string(puzzles.at(i)->steps) + " steps, its neighbour "
+                + std::to_string(puzzles.at(i - 1)->steps));
+        }
+    }
+    const std::size_t breather = kBreatherStage - 1;
+    if (steps(breather) * 2 > steps(breather - 1)) {
+        faults.push_back(levelName(level) + "takes no breath at stage 7");
+    }
+    const auto harder = std::count_if(puzzles.begin(), puzzles.end(),
+        [&](const Evidence* evidence) { return stepsOf(*evidence) > steps(last); });
+    if (harder > 1 || steps(last - 1) >= steps(last) * kWorldsApart) {
+        faults.push_back(
+            puzzleName(level, last, puzzles) + "is not the puzzle to end a level with");
+    }
+    constexpr double kEnough = 0.8;
+    if (const double rank = rankCorrelation(puzzles); rank < kEnough) {
+        faults.push_back(levelName(level) + "does not rise: rank correlation " + figure(rank));
     }
 }
 
-double medianBits(const Level& puzzles)
+// Ways that are alike, and ends that are.
+void judgeLikeness(const std::vector<Evidence>& evidence, Faults& faults)
 {
-    std::array<double, progress::kLastStage> bits {};
-    std::transform(puzzles.begin(), puzzles.end(), bits.begin(),
-        [](const Evidence* evidence) { return evidence->metrics.bits; });
-    std::sort(bits.begin(), bits.end());
-    return (bits.at(bits.size() / 2) + bits.at(bits.size() / 2 - 1)) / 2;
-}
-
-unsigned sumOfMoves(const Level& puzzles)
-{
-    unsigned sum = 0;
-    for (const Evidence* evidence : puzzles) {
-        sum += evidence->puzzle.moves;
+    constexpr double kAlike = 0.78;
+    constexpr std::size_t kLong = 5; // moves
+    for (std::size_t i = firstOfCurve(); i < evidence.size(); ++i) {
+        for (std::size_t j = firstOfCurve(); j < i; ++j) {
+            const Way& a = evidence[i].way;
+            const Way& b = evidence[j].way;
+            const double alike = likeness(a, b);
+            if (alike > kAlike || (a.moves.size() >= kLong && a.moves == b.moves)) {
+                faults.push_back(nameOf(Game::Classic, i, evidence[i].puzzle) + " is like "
+                    + nameOf(placeOfEntry(j)) + ": " + figure(alike)
+                    + (a.moves == b.moves ? ", the same moves" : ""));
+            }
+        }
     }
-    return sum;
+    constexpr std::size_t kEnd = 3;
+    constexpr int kMostOfOneEnd = 3;
+    for (int level = kFirstLevelOfPromise; level <= progress::kLastLevel; ++level) {
+        std::map<std::string, int> ends;
+        for (const Evidence* puzzle : levelOf(evidence, level)) {
+            const std::string& moves = puzzle->way.moves;
+            if (moves.size() >= kEnd && ++ends[moves.substr(moves.size() - kEnd)] > kMostOfOneEnd) {
+                faults.push_back(levelName(level) + "ends too often in the same three moves");
+            }
+        }
+    }
 }
 
+void judgeKindness(const std::vector<Evidence>& evidence, Faults& faults)
+{
+    for (std::size_t i = firstOfCurve(); i < evidence.size(); ++i) {
+        const Kindness& kindness = evidence[i].kindness;
+        const Place place = placeOfEntry(i);
+        if (place.level < kFirstLevelOfAll && !givenPuzzle(place) && kindness.wrongSteps > 0
+            && kindness.deadSteps == kindness.wrongSteps) {
+            faults.push_back(nameOf(Game::Classic, i, evidence[i].puzzle) + " forgives nothing");
+        }
+    }
+}
+
+void judgeFigures(const Figures& figures, Faults& faults)
+{
+    constexpr std::size_t kEnoughGuessed = 45;
+    constexpr std::size_t kEnoughNearPar = 75;
+    constexpr std::size_t kMostJumps = 6;
+    constexpr double kMostDead = 0.62;
+    constexpr std::size_t kEnoughOfLateMove = 15;
+    const auto expect = [&faults](bool holds, const std::string& otherwise) {
+        if (!holds) {
+            faults.push_back(otherwise);
+        }
+    };
+    expect(figures.guessed >= kEnoughGuessed,
+        "only " + std::to_string(figures.guessed) + " of 60 puzzles tell their level");
+    expect(figures.nearPar >= kEnoughNearPar,
+        "only " + std::to_string(figures.nearPar) + " of 100 have a solution near par");
+    expect(figures.jumps <= kMostJumps,
+        std::to_string(figures.jumps) + " neighbours are 8 times apart");
+    expect(figures.dead <= kMostDead, "too many wrong steps are dead: " + figure(figures.dead));
+    for (const auto& [move, count] : figures.needing) {
+        expect(count >= kEnoughOfLateMove,
+            "the move of index " + std::to_string(move) + " is hardly needed from level 6 on");
+    }
+    for (std::size_t level = 1; level < figures.medianBits.size(); ++level) {
+        const double before = figures.medianSteps[level - 1];
+        const double now = figures.medianSteps[level];
+        constexpr double kLeastRise = 1.3;
+        constexpr double kMostRise = 4;
+        const std::string name = levelName(static_cast<int>(level) + kFirstLevelOfPromise);
+        expect(figures.medianBits[level] > figures.medianBits[level - 1],
+            name + "is no harder than the one before it: " + figure(figures.medianBits[level])
+                + " bits");
+        expect(now >= before * kLeastRise && now <= before * kMostRise,
+            name + "takes " + figure(now) + " steps after " + figure(before));
+    }
+}
+
+// A goal may come back once, from a shorter start or at twice the par.
 void judgeRepetition(const std::vector<Evidence>& evidence, Faults& faults)
 {
+    constexpr std::size_t kShort = 3; // chips
     constexpr int kMostUsesOfRoot = 3;
+    constexpr int kMostUsesOfShortRoot = 5;
     std::map<std::string, int> roots;
-    std::map<std::string, int> goals;
-    const auto first
-        = static_cast<std::size_t>(progress::catalogueIndex({ kFirstLevelOfCurve, 1 }));
-    for (std::size_t entry = first; entry < evidence.size(); ++entry) {
+    std::map<std::string, std::vector<const Puzzle*>> goals;
+    for (std::size_t entry = firstOfCurve(); entry < evidence.size(); ++entry) {
         const Puzzle& puzzle = evidence[entry].puzzle;
         const std::string name = nameOf(Game::Classic, entry, puzzle);
-        if (++roots[puzzle.root] > kMostUsesOfRoot) {
-            faults.push_back(name + " starts where three others do");
+        const int most = puzzle.root.size() <= kShort ? kMostUsesOfShortRoot : kMostUsesOfRoot;
+        if (++roots[puzzle.root] > most) {
+            faults.push_back(name + " starts where too many others do");
         }
-        if (++goals[puzzle.goal] > 1) {
+        std::vector<const Puzzle*>& before = goals[puzzle.goal];
+        if (before.size() > 1
+            || (before.size() == 1 && puzzle.moves < before[0]->moves * 2
+                && puzzle.root.size() >= before[0]->root.size())) {
             faults.push_back(name + " asks for the goal of another");
         }
+        before.push_back(&puzzle);
     }
 }
 
@@ -161,18 +240,17 @@ Faults classicFaults(const std::vector<Evidence>& evidence)
         const Level puzzles = levelOf(evidence, level);
         judgeGivenPuzzles(level, puzzles, faults);
         judgeBlue(level, puzzles, faults);
-        if (level < kFirstLevelOfCurve) {
+        if (level < kFirstLevelOfPromise) {
             continue; // the tutorial's own
         }
         judgeMoves(level, puzzles, faults);
+        judgePromise(level, puzzles, faults);
         judgeRise(level, puzzles, faults);
-        judgeEnd(level, puzzles, faults);
-        const Level before = levelOf(evidence, level - 1);
-        if (medianBits(puzzles) <= medianBits(before) || sumOfMoves(puzzles) < sumOfMoves(before)) {
-            faults.push_back(levelName(level) + "is no harder than the one before it");
-        }
     }
+    judgeLikeness(evidence, faults);
+    judgeKindness(evidence, faults);
     judgeRepetition(evidence, faults);
+    judgeFigures(figuresOf(evidence), faults);
     return faults;
 }
 

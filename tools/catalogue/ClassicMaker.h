@@ -2,12 +2,11 @@
 
 #include "catalogue/Puzzle.h"
 
-#include <cstdint>
-
 namespace veyrand::catalogue {
 
-// Entry 0, which is never played, and the puzzles of 1-1 to 11-10 in order. The same seed makes the
-// same puzzles on every machine. Throws std::runtime_error when a place finds no puzzle.
-[[nodiscard]] Puzzles classicPuzzles(std::uint32_t seed, const Progress& progress);
+// The Classic catalogue of a choice: a line such as "8-4 YRGRR RRGRY" for each place from 2-1 on,
+// in order. Entry 0, which is never played, and level 1, which is the tutorial's, come before them.
+// The pars are exact. Throws std::invalid_argument, with the reason, for a choice that is none.
+[[nodiscard]] Puzzles classicPuzzles(const std::string& choice);
 
 } // namespace veyrand::catalogue

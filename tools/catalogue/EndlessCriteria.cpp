@@ -1,4 +1,6 @@
 #include "catalogue/Criteria.h"
+#include "catalogue/EndlessMaker.h"
+#include "catalogue/Figures.h"
 #include "progress/Catalogue.h"
 
 #include <map>
@@ -40,6 +42,37 @@ void judgeShare(
     constexpr std::size_t kThousand = 1000;
     if (count * kThousand < share.least * all || count * kThousand > share.most * all) {
         faults.push_back(std::to_string(count) + " puzzles have " + what);
+    }
+}
+
+// Whoever asks for a par gets what he expects, by a way that he does not know by heart.
+void judgeSteps(const std::vector<Evidence>& evidence, Faults& faults)
+{
+    constexpr double kMostSpread = 15;
+    std::map<unsigned, std::pair<const Evidence*, const Evidence*>> ends; // easiest and hardest
+    std::map<std::string, std::size_t> ways;
+    for (std::size_t entry = 0; entry < evidence.size(); ++entry) {
+        const Evidence& one = evidence[entry];
+        const std::string name = nameOf(Game::Endless, entry, one.puzzle);
+        if (one.puzzle.moves > 1 && ++ways[one.way.moves] > kMostOfEndlessWay) {
+            faults.push_back(name + " is solved by the moves of too many others");
+        }
+        if (one.puzzle.moves >= kFewestMovesWithoutGreed
+            && fallsToGreed(packed(one.puzzle.root), packed(one.puzzle.goal), kAllMoves)) {
+            faults.push_back(name + " falls to whoever goes by looks alone");
+        }
+        auto& [easiest, hardest] = ends.try_emplace(one.puzzle.moves, &one, &one).first->second;
+        easiest = stepsOf(one) < stepsOf(*easiest) ? &one : easiest;
+        hardest = stepsOf(one) > stepsOf(*hardest) ? &one : hardest;
+    }
+    for (const auto& [moves, ofMoves] : ends) {
+        const auto& [easiest, hardest] = ofMoves;
+        if (timesApart(*easiest, *hardest) > kMostSpread) {
+            faults.push_back("par " + std::to_string(moves)
+                + " lies too far apart: " + easiest->puzzle.root + ' ' + easiest->puzzle.goal
+                + " takes " + std::to_string(easiest->steps) + " steps, " + hardest->puzzle.root
+                + ' ' + hardest->puzzle.goal + ' ' + std::to_string(hardest->steps));
+        }
     }
 }
 
@@ -85,6 +118,7 @@ Faults endlessFaults(const std::vector<Evidence>& evidence)
             faults.push_back("the root " + root + " has too few chips or too many");
         }
     }
+    judgeSteps(evidence, faults);
     return faults;
 }
 

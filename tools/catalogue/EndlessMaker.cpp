@@ -1,6 +1,9 @@
 #include "catalogue/EndlessMaker.h"
 
 #include "catalogue/Candidates.h"
+#include "catalogue/HumanSolver.h"
+#include "catalogue/Kindness.h"
+#include "catalogue/Likeness.h"
 #include "platform/fakes/SeededRandom.h"
 #include "progress/Catalogue.h"
 #include "progress/RuleSets.h"
@@ -18,6 +21,41 @@ namespace {
 
 constexpr std::size_t kLongestRoot = 7; // in chips
 constexpr std::array<std::size_t, kLongestRoot + 1> kDrawn { 0, 0, 90, 60, 40, 20, 8, 4 };
+
+// Asks the dear questions of a puzzle that is about to be taken, the cheapest first.
+class Gate {
+public:
+    [[nodiscard]] bool passes(const Puzzle& puzzle)
+    {
+        const engine::PackedLine root = packed(puzzle.root);
+        const engine::PackedLine goal = packed(puzzle.goal);
+        m_reach.explore(root, puzzle.moves);
+        const std::optional<ShortestWays> ways = ShortestWays::find(m_reach, goal);
+        if (!ways) {
+            return false;
+        }
+        const std::string moves = wayOf(*ways, kAllMoves).moves;
+        if (puzzle.moves > 1 && m_ofMoves[moves] == kMostOfEndlessWay) {
+            return false;
+        }
+        if (puzzle.moves >= kFewestMovesWithoutGreed && fallsToGreed(root, goal, kAllMoves)) {
+            return false;
+        }
+        const StepsWanted wanted = endlessStepsOfMoves(puzzle.moves);
+        const unsigned steps
+            = HumanSolver(root, goal, kAllMoves).medianSteps(HumanSolver::kTries, wanted.most + 1);
+        if (steps < wanted.fewest || steps > wanted.most || !m_hints.leadsAllTheWay(*ways)) {
+            return false;
+        }
+        ++m_ofMoves[moves];
+        return true;
+    }
+
+private:
+    Reach m_reach;
+    HintSearch m_hints;
+    std::map<std::string, std::size_t> m_ofMoves; // puzzles solved by the same moves in order
+};
 
 // Fills the numbers that are wanted of each par, always from the length of root that is furthest
 // from what is wanted of it.
@@ -77,7 +115,7 @@ private:
     }
 
     // The most interesting that is left, from a root that has not served often. What is refused
-    // once is refused for ever: goals and uses of roots only grow.
+    // once is refused for ever: goals, uses of roots and of ways only grow.
     std::optional<Puzzle> best(Candidates& pool)
     {
         constexpr double kCostOfUse = 0.4;
@@ -108,7 +146,7 @@ private:
         return found == m_uses.end() ? 0 : found->second;
     }
 
-    HintGate m_gate;
+    Gate m_gate;
     std::map<std::pair<unsigned, std::size_t>, Candidates> m_pools; // by moves and root length
     std::map<std::string, std::size_t> m_uses; // of each root
     std::set<std::string> m_goals;
@@ -142,6 +180,14 @@ const std::vector<std::size_t>& endlessPuzzlesOfRootLength()
 {
     static const std::vector<std::size_t> kWanted { 0, 0, 40, 170, 440, 500, 509, 509 };
     return kWanted;
+}
+
+StepsWanted endlessStepsOfMoves(unsigned moves)
+{
+    static const std::array<StepsWanted, kMostMoves + 1> kWanted { { { 0, 0 }, { 1, 4 }, { 2, 8 },
+        { 3, 12 }, { 4, 21 }, { 12, 107 }, { 15, 164 }, { 24, 360 }, { 47, 700 }, { 99, 1480 },
+        { 178, 2660 }, { 369, 5500 } } };
+    return kWanted.at(moves);
 }
 
 std::size_t mostUsesOfEndlessRoot()

@@ -18,6 +18,20 @@ namespace veyrand::catalogue {
 [[nodiscard]] const std::vector<std::size_t>& endlessPuzzlesOfMoves();
 [[nodiscard]] const std::vector<std::size_t>& endlessPuzzlesOfRootLength();
 
+// The steps of the human-like solver that a puzzle of some moves may take, so that a par tells what
+// to expect: of what can be drawn, the middle three fifths, cut where they lie fifteen times apart.
+struct StepsWanted {
+    unsigned fewest = 0;
+    unsigned most = 0;
+};
+[[nodiscard]] StepsWanted endlessStepsOfMoves(unsigned moves);
+
+// From so many moves on none is solved by always taking the line most like the goal.
+inline constexpr unsigned kFewestMovesWithoutGreed = 5;
+
+// Puzzles that the same moves in the same order solve. Of one move there are but seven ways.
+inline constexpr std::size_t kMostOfEndlessWay = 3;
+
 // A root may serve one puzzle in a hundred.
 [[nodiscard]] std::size_t mostUsesOfEndlessRoot();
 

@@ -33,6 +33,10 @@ public:
             return { puzzle };
         }
         Evidence evidence { puzzle, measure(*ways, openMoves(highestRule)) };
+        evidence.way = wayOf(*ways, openMoves(highestRule));
+        evidence.steps
+            = HumanSolver(packed(puzzle.root), packed(puzzle.goal), openMoves(highestRule))
+                  .medianSteps();
         if (m_game == Game::Classic) {
             describe(*ways, openMoves(highestRule), evidence);
         }
@@ -59,10 +63,8 @@ private:
         const engine::PackedLine root = ways.lines().front().line;
         const engine::PackedLine goal = ways.lines().back().line;
         evidence.ideas = ideasOf(ways);
-        evidence.way = wayOf(ways, open);
         m_board.explore(root, open);
         evidence.kindness = m_board.kindnessTo(goal);
-        evidence.steps = HumanSolver(root, goal, open).medianSteps();
     }
 
     void judge(std::size_t entry, const Puzzle& puzzle, const ShortestWays& ways, int highestRule)

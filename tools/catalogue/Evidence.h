@@ -20,10 +20,11 @@ struct Evidence {
     std::vector<Move>
         solution {}; // the one the game's search finds; none when there is no solution
 
-    // Of a Classic puzzle only, which stands in a place of its own among the others.
-    IdeaSet ideas = 0;
     Way way {};
     unsigned steps = 0; // of the human-like solver
+
+    // Of a Classic puzzle only, which stands in a place of its own among the others.
+    IdeaSet ideas = 0;
     Kindness kindness {};
 };
 

@@ -1,7 +1,10 @@
 #include "catalogue/Plot.h"
 
+#include "catalogue/Figures.h"
+
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <string_view>
 #include <utility>
@@ -11,7 +14,8 @@ namespace veyrand::catalogue {
 namespace {
 
 constexpr const char* kParColour = "#c9a227"; // the yellow chip's
-constexpr const char* kBitsColour = "#2f5d8a";
+constexpr const char* kCurveColour = "#2f5d8a";
+constexpr double kMostTens = 4.6; // the highest steps, as a power of ten
 
 // Numbers of the picture, in its own units, with one digit behind the point.
 std::string text(double value)
@@ -74,6 +78,18 @@ public:
         }
     }
 
+    // For values that are powers of ten.
+    void scaleOfTens()
+    {
+        std::string words = "1";
+        for (int tens = 0; tens <= static_cast<int>(m_highest); ++tens) {
+            const double y = heightOf(tens);
+            line(m_box.left, y, m_box.left + m_box.width, y, "#ddd", 0.5);
+            label(m_box.left - 6, y + 4, "end", words);
+            words += '0';
+        }
+    }
+
     void bar(std::size_t column, double value)
     {
         constexpr double kFilled = 0.8;
@@ -88,13 +104,13 @@ public:
     {
         m_svg += element("circle",
             { { "cx", text(middleOf(column)) }, { "cy", text(heightOf(value)) }, { "r", "2.5" },
-                { "fill", kBitsColour } });
+                { "fill", kCurveColour } });
     }
 
     void curve(std::size_t column, double value, std::size_t nextColumn, double nextValue)
     {
         line(middleOf(column), heightOf(value), middleOf(nextColumn), heightOf(nextValue),
-            kBitsColour, 1.2);
+            kCurveColour, 1.2);
     }
 
     void underColumn(std::size_t column, std::string_view words)
@@ -122,26 +138,46 @@ private:
     std::string m_svg;
 };
 
-std::string classicPanel(const std::vector<Evidence>& classic)
+double tensOf(const Evidence& evidence)
 {
-    const std::size_t puzzles = classic.size() - 1;
-    Panel panel({ 40, 40, 880, 260 }, static_cast<double>(puzzles), 26,
-        "Classic, 1-1 to 11-10: par in moves (bars) and bits (line)");
-    panel.scale(5);
-    for (std::size_t i = 0; i < puzzles; ++i) {
-        panel.bar(i, classic[i + 1].puzzle.moves);
-    }
-    for (std::size_t i = 0; i < puzzles; ++i) {
-        const bool beginsLevel = i % progress::kLastStage == 0;
-        if (!beginsLevel) {
-            panel.curve(i - 1, classic[i].metrics.bits, i, classic[i + 1].metrics.bits);
+    return std::log10(stepsOf(evidence));
+}
+
+double bitsOf(const Evidence& evidence)
+{
+    return evidence.metrics.bits;
+}
+
+// One measure of every puzzle, a curve for each level.
+template <class Value>
+void drawLevels(Panel& panel, const std::vector<Evidence>& classic, const Value& value)
+{
+    for (std::size_t i = 0; i + 1 < classic.size(); ++i) {
+        if (i % progress::kLastStage != 0) {
+            panel.curve(i - 1, value(classic[i]), i, value(classic[i + 1]));
         }
-        panel.dot(i, classic[i + 1].metrics.bits);
+        panel.dot(i, value(classic[i + 1]));
         if (i % progress::kLastStage == progress::kLastStage / 2) {
             panel.underColumn(i, "level " + std::to_string(i / progress::kLastStage + 1));
         }
     }
-    return panel.svg();
+}
+
+std::string classicPanels(const std::vector<Evidence>& classic)
+{
+    const std::size_t puzzles = classic.size() - 1;
+    Panel bits({ 40, 40, 880, 260 }, static_cast<double>(puzzles), 26,
+        "Classic, 1-1 to 11-10: par in moves (bars) and bits (line)");
+    bits.scale(5);
+    for (std::size_t i = 0; i < puzzles; ++i) {
+        bits.bar(i, classic[i + 1].puzzle.moves);
+    }
+    drawLevels(bits, classic, bitsOf);
+    Panel steps({ 40, 370, 880, 200 }, static_cast<double>(puzzles), kMostTens,
+        "Classic: steps of the human-like solver, each line ten times the one below");
+    steps.scaleOfTens();
+    drawLevels(steps, classic, tensOf);
+    return bits.svg() + steps.svg();
 }
 
 double quantile(const std::vector<double>& sorted, double part)
@@ -149,40 +185,55 @@ double quantile(const std::vector<double>& sorted, double part)
     return sorted.at(static_cast<std::size_t>(part * static_cast<double>(sorted.size() - 1)));
 }
 
-std::string endlessPanels(const std::vector<Evidence>& endless)
+// The middle eight tenths of one measure of each par, and the median.
+template <class Value>
+void drawSpread(Panel& panel, const std::vector<Evidence>& endless, const Value& value)
 {
-    std::array<std::vector<double>, kMostMoves + 1> bits;
+    std::array<std::vector<double>, kMostMoves + 1> values;
     for (const Evidence& evidence : endless) {
-        bits.at(evidence.puzzle.moves).push_back(evidence.metrics.bits);
+        values.at(evidence.puzzle.moves).push_back(value(evidence));
     }
-    Panel counts({ 40, 370, 400, 200 }, kMostMoves, 300, "Endless: puzzles of each par");
-    counts.scale(50);
-    Panel spread({ 500, 370, 420, 200 }, kMostMoves, 30,
-        "Endless: bits by par, the middle eight tenths and the median");
-    spread.scale(5);
     for (std::size_t moves = 1; moves <= kMostMoves; ++moves) {
-        std::vector<double>& sorted = bits.at(moves);
+        std::vector<double>& sorted = values.at(moves);
         const std::size_t column = moves - 1;
-        counts.bar(column, static_cast<double>(sorted.size()));
-        counts.underColumn(column, std::to_string(moves));
-        spread.underColumn(column, std::to_string(moves));
+        panel.underColumn(column, std::to_string(moves));
         if (!sorted.empty()) {
             std::sort(sorted.begin(), sorted.end());
-            spread.curve(column, quantile(sorted, 0.1), column, quantile(sorted, 0.9));
-            spread.dot(column, quantile(sorted, 0.5));
+            panel.curve(column, quantile(sorted, 0.1), column, quantile(sorted, 0.9));
+            panel.dot(column, quantile(sorted, 0.5));
         }
     }
-    return counts.svg() + spread.svg();
+}
+
+std::string endlessPanels(const std::vector<Evidence>& endless)
+{
+    std::array<std::size_t, kMostMoves + 1> ofMoves {};
+    for (const Evidence& evidence : endless) {
+        ++ofMoves.at(evidence.puzzle.moves);
+    }
+    Panel counts({ 40, 640, 260, 200 }, kMostMoves, 300, "Endless: puzzles of each par");
+    counts.scale(50);
+    for (std::size_t moves = 1; moves <= kMostMoves; ++moves) {
+        counts.bar(moves - 1, static_cast<double>(ofMoves.at(moves)));
+        counts.underColumn(moves - 1, std::to_string(moves));
+    }
+    Panel bits({ 350, 640, 260, 200 }, kMostMoves, 30, "Endless: bits, middle 80 % and median");
+    bits.scale(5);
+    drawSpread(bits, endless, bitsOf);
+    Panel steps({ 660, 640, 260, 200 }, kMostMoves, kMostTens, "Endless: steps, likewise");
+    steps.scaleOfTens();
+    drawSpread(steps, endless, tensOf);
+    return counts.svg() + bits.svg() + steps.svg();
 }
 
 } // namespace
 
 std::string plot(const std::vector<Evidence>& classic, const std::vector<Evidence>& endless)
 {
-    return R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 960 610" )"
+    return R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 960 880" )"
            R"(font-family="sans-serif" font-size="12">)"
-        + ('\n' + element("rect", { { "width", "960" }, { "height", "610" }, { "fill", "#fff" } }))
-        + classicPanel(classic) + endlessPanels(endless) + "</svg>\n";
+        + ('\n' + element("rect", { { "width", "960" }, { "height", "880" }, { "fill", "#fff" } }))
+        + classicPanels(classic) + endlessPanels(endless) + "</svg>\n";
 }
 
 } // namespace veyrand::catalogue

@@ -23,15 +23,21 @@ namespace {
 constexpr const char* kClassicFile = "assets/catalogues/Theorems.txt";
 constexpr const char* kEndlessFile = "assets/catalogues/EndlessTheorems.txt";
 constexpr const char* kCertificateFile = "assets/catalogues/certificate.txt";
+constexpr const char* kChoiceFile = "assets/catalogues/choice.txt";
 constexpr const char* kPlotFile = "docs/puzzles.svg";
 
-catalogue::Puzzles read(const std::string& file)
+std::string textIn(const std::string& file)
 {
     const auto bytes = bytesOf(file);
     if (!bytes) {
         throw UsageError(file + ": cannot be read");
     }
-    return catalogue::puzzlesIn(*bytes);
+    return *bytes;
+}
+
+catalogue::Puzzles read(const std::string& file)
+{
+    return catalogue::puzzlesIn(textIn(file));
 }
 
 void write(const std::string& file, const std::string& text)
@@ -61,6 +67,7 @@ catalogue::Progress bar(const std::string& unit)
 // What the subcommands of `catalogue` are asked with. Each uses what it needs.
 struct Arguments {
     std::uint32_t seed = 5; // what the catalogues of the game were made with
+    std::string choice = kChoiceFile;
     std::string classic = kClassicFile;
     std::string endless = kEndlessFile;
     std::string file;
@@ -94,7 +101,11 @@ Json deliver(const catalogue::Puzzles& puzzles, const std::string& out)
 
 Json makeClassic(const Arguments& arguments)
 {
-    return deliver(catalogue::classicPuzzles(arguments.seed, bar("roots")), arguments.out);
+    try {
+        return deliver(catalogue::classicPuzzles(textIn(arguments.choice)), arguments.out);
+    } catch (const std::invalid_argument& error) {
+        throw UsageError(arguments.choice + ": " + error.what());
+    }
 }
 
 Json makeEndless(const Arguments& arguments)
@@ -243,7 +254,9 @@ public:
     {
         arguments.require_subcommand(1);
         CLI::App* classic = add(arguments, "classic", "Makes the Classic puzzles", makeClassic);
-        classic->add_option("--seed", m_values.seed, "What they depend on")->capture_default_str();
+        classic->add_option("--choice", m_values.choice, "A place, a start and a goal a line")
+            ->capture_default_str();
+        classic->add_option("--seed", m_values.seed, "Of no effect: nothing is left to chance");
         addOut(*classic);
 
         CLI::App* endless = add(arguments, "endless", "Makes the Endless puzzles", makeEndless);
@@ -283,7 +296,7 @@ public:
         declareSources(*certifying, m_values);
         addOut(*certifying);
 
-        CLI::App* plotting = add(arguments, "plot", "Draws par and bits as SVG", plot);
+        CLI::App* plotting = add(arguments, "plot", "Draws bits and steps as SVG", plot);
         declareSources(*plotting, m_values);
         addOut(*plotting);
     }
