@@ -6,6 +6,7 @@
 #include "app/Notices.h"
 #include "app/PressKey.h"
 #include "app/SystemInstallation.h"
+#include "app/SystemMotionWish.h"
 #include "app/UncaughtGuard.h"
 #include "app/WaitingBox.h"
 #include "app/Words.h"
@@ -53,6 +54,7 @@ public:
         , m_installation(m_preferences)
         , m_images(dataFolder + QStringLiteral("/images"), m_font)
         , m_overlay(m_images)
+        , m_motionWish(systemMotionWish())
         , m_menu(withDefaults(m_preferences))
         , m_currentGame(progress::CurrentGame::sharedInstance(m_preferences, m_random, m_resources))
         , m_game({ .runLoop = m_runLoop,
@@ -72,7 +74,8 @@ public:
                              offerInstallation(m_installation.installation(), std::move(done));
                          },
                      .journal = journal(),
-                     .desktopLanguages = desktopLanguages() },
+                     .desktopLanguages = desktopLanguages(),
+                     .motionWish = m_motionWish.get() },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -238,6 +241,7 @@ private:
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images;
     desktop::qt::QtOverlayWindow m_overlay;
+    std::unique_ptr<platform::MotionWish> m_motionWish;
     desktop::qt::QtWindow m_windowModes;
     desktop::qt::QtLanguage m_language;
     desktop::qt::GameMenu m_menu;

@@ -65,10 +65,6 @@ Answers::~Answers()
 void Answers::settingsChanged()
 {
     m_settings = progress::readSettings(m_game.preferences);
-    m_game.layers.extras().setTaste(
-        m_settings.reducedMotion == progress::Settings::ReducedMotion::On
-            ? present::MotionTaste::Reduced
-            : present::MotionTaste::Full);
     if (!m_settings.answers) {
         m_game.layers.extras().clear();
     }

@@ -28,6 +28,7 @@ struct GamePorts {
     // What the desktop speaks ("de-AT"), the dearest first. None: English, unless the player has
     // chosen another language.
     std::vector<std::string> desktopLanguages {};
+    platform::MotionWish* motionWish = nullptr; // null: the desktop has none
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -39,7 +40,6 @@ public:
         , m_texts(ports.resources)
         , m_desktopLanguages(ports.desktopLanguages)
         , m_effects(ports.sounds, ports.menu)
-        , m_preferences(ports.preferences)
         , m_pacedLoop(ports.runLoop, m_tempo)
         , m_scene(ports.runLoop, m_tempo)
         , m_board(gameData, currentGame, m_pacedLoop)
@@ -68,18 +68,18 @@ public:
             .window = ports.window,
             .alerts = ports.alerts,
             .offerInstallation = ports.offerInstallation,
-            .journal = ports.journal }
+            .journal = ports.journal,
+            .motionWish = ports.motionWish }
         , m_controller(m_context)
     {
-        settingsChanged();
+        speakAsChosen();
     }
 
     // To be called when the player has chosen other settings.
     void settingsChanged()
     {
-        const progress::Settings settings = progress::readSettings(m_preferences);
-        m_tempo.setSpeed(settings.tempo);
-        speak(languageFor(settings.language, m_desktopLanguages));
+        m_controller.settingsChanged();
+        speakAsChosen();
     }
     // Calls the function now, and again whenever the language has changed: for what has words of
     // its own outside the game, or pictures with words on them.
@@ -97,6 +97,11 @@ public:
     [[nodiscard]] const language::Texts& texts() const { return m_texts; }
 
 private:
+    void speakAsChosen()
+    {
+        speak(languageFor(
+            progress::readSettings(m_context.preferences).language, m_desktopLanguages));
+    }
     void speak(std::string_view code)
     {
         if (code == m_texts.code()) {
@@ -117,7 +122,6 @@ private:
     std::vector<std::string> m_desktopLanguages;
     std::function<void(const language::Texts& texts)> m_languageListener;
     platform::SoundEffects m_effects;
-    const platform::Preferences& m_preferences;
     board::Tempo m_tempo;
     board::PacedRunLoop m_pacedLoop;
     present::Scene m_scene;

@@ -8,6 +8,7 @@
 #include "platform/Alerts.h"
 #include "platform/Journal.h"
 #include "platform/Log.h"
+#include "platform/MotionWish.h"
 #include "platform/OverlayWindow.h"
 #include "platform/Preferences.h"
 #include "platform/Quit.h"
@@ -28,7 +29,7 @@ struct GameContext {
     input::GameView& view;
     platform::RunLoop& runLoop;
     platform::RunLoop& pacedLoop; // for whatever waits for the board
-    const board::Tempo& tempo;
+    board::Tempo& tempo;
     platform::Preferences& preferences;
     platform::Sounds& sounds;
     const platform::SoundEffects& effects;
@@ -44,6 +45,7 @@ struct GameContext {
     // offered.
     std::function<void(std::function<void()>)> offerInstallation;
     platform::Journal* journal; // null: no puzzle outlasts the board
+    platform::MotionWish* motionWish; // null: the desktop has none
 };
 
 } // namespace veyrand::controller

@@ -11,6 +11,7 @@ namespace veyrand::controller {
 
 GameController::GameController(GameContext& context)
     : m_context(context)
+    , m_settingsInForce(context)
     , m_hints(*this)
     , m_history(*this)
     , m_flow(*this)
@@ -58,6 +59,13 @@ void GameController::languageChanged()
 {
     m_pages.showInNewWords();
     m_answers.handsChanged();
+}
+
+void GameController::settingsChanged()
+{
+    m_settingsInForce.apply();
+    m_answers.settingsChanged();
+    m_kept.settingsChanged();
 }
 
 void GameController::musicMenuClick()

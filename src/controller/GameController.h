@@ -12,6 +12,7 @@
 #include "controller/Pages.h"
 #include "controller/PreviousGames.h"
 #include "controller/ProofLines.h"
+#include "controller/SettingsInForce.h"
 #include "controller/TitlePage.h"
 #include "controller/Tutorial.h"
 #include "input/Focus.h"
@@ -63,6 +64,8 @@ public:
 
     // A page on show is put into the new words; nothing sounds, and nothing else moves.
     void languageChanged();
+    // To be called when the player has chosen other settings: they are in force from now on.
+    void settingsChanged();
     void musicMenuClick();
     // The last thing the game does: the offer to install it, where there is reason for one. The
     // game must live until `done` is called, which may be at once.
@@ -99,6 +102,7 @@ public:
 
 private:
     GameContext& m_context;
+    SettingsInForce m_settingsInForce;
     Hints m_hints;
     History m_history;
     GameFlow m_flow;

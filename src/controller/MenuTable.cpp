@@ -50,8 +50,7 @@ const char* redoText(GameController& game)
 
 void applySettings(GameController& game)
 {
-    game.answers().settingsChanged();
-    game.kept().settingsChanged();
+    game.settingsChanged();
 }
 
 constexpr MenuItem separator(MenuId menu)

@@ -64,7 +64,8 @@ HeadlessGame::HeadlessGame(const Options& options)
                  .window = m_window,
                  .alerts = m_alerts,
                  .offerInstallation = options.offerInstallation,
-                 .journal = options.journal },
+                 .journal = options.journal,
+                 .motionWish = options.motionWish },
           m_currentGame, m_gameData)
     , m_touch(m_game.view(), m_game.layers(), m_pointer)
     , m_resizer([this](platform::Size size) { resize(size); })

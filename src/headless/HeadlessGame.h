@@ -44,6 +44,7 @@ public:
         platform::NotedAlerts* alerts = nullptr; // outlives the game; null for those below
         std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
         platform::Journal* journal = nullptr; // outlives the game; null: nothing is kept
+        platform::MotionWish* motionWish = nullptr; // outlives the game; null: the desktop has none
     };
     enum class Modifier { None, Held };
 

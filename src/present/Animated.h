@@ -3,6 +3,7 @@
 #include "platform/Geometry.h"
 #include "present/Timing.h"
 
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -59,6 +60,16 @@ public:
     [[nodiscard]] bool isAnimating(double now) const
     {
         return m_run && now < m_run->start + m_run->duration;
+    }
+
+    // How much is to be seen of whatever has this value: what jumps goes out before it does, and
+    // comes back after.
+    [[nodiscard]] float presence(double now) const
+    {
+        if (!isAnimating(now) || m_run->timing != Timing::Jump) {
+            return 1.0F;
+        }
+        return static_cast<float>(std::abs(2.0 * (now - m_run->start) / m_run->duration - 1.0));
     }
 
 private:

@@ -144,7 +144,7 @@ void Extras::enter(const Extra& extra)
         m_scene.animationStarted(extra.fade.in);
     }
     const bool comesFromAfar = extra.wayX != 0.0 || extra.wayY != 0.0;
-    if (extra.duration <= 0.0 && comesFromAfar && m_taste == MotionTaste::Full) {
+    if (extra.duration <= 0.0 && comesFromAfar && taste() == MotionTaste::Full) {
         entry.offset.animate(
             point(-extra.wayX, -extra.wayY), {}, m_scene.now(), extra.fade.travel, Timing::EaseOut);
         m_scene.animationStarted(extra.fade.travel);
@@ -161,7 +161,7 @@ void Extras::replace(Entry& entry, const Extra& extra)
         entry.ids.push_back(m_scene.nextLayerId());
     }
     const bool isElsewhere = old.x != extra.rect.x || old.y != extra.rect.y;
-    if (isElsewhere && extra.fade.travel > 0.0 && m_taste == MotionTaste::Full) {
+    if (isElsewhere && extra.fade.travel > 0.0 && taste() == MotionTaste::Full) {
         const platform::PointF from = entry.offset.at(m_scene.now());
         entry.offset.animate(point(static_cast<double>(from.x) + old.x - extra.rect.x,
                                  static_cast<double>(from.y) + old.y - extra.rect.y),
@@ -208,7 +208,7 @@ Extras::Moment Extras::momentOf(const Entry& entry) const
     if (now < entry.start) {
         return { .opacity = 0.0 };
     }
-    const ExtraPose pose = poseOf(extra, now - entry.start, m_taste);
+    const ExtraPose pose = poseOf(extra, now - entry.start, taste());
     return { .opacity = pose.opacity,
         .x = pose.x,
         .y = pose.y,
@@ -252,7 +252,9 @@ Extras::Touches Extras::touchesNow() const
         for (const ExtraTouch& touch : entry.extra.touches) {
             Touched& sum = touches[touch.key];
             sum.opacity *= 1.0 + (touch.opacity - 1.0) * moment.opacity;
-            sum.scale *= 1.0 + (touch.scale - 1.0) * moment.opacity;
+            if (taste() == MotionTaste::Full) {
+                sum.scale *= 1.0 + (touch.scale - 1.0) * moment.opacity;
+            }
             sum.glow = std::max({ sum.glow, touch.glow * moment.opacity, moment.glow });
             sum.x += moment.x;
             if (moment.motion == Motion::Moving) {

@@ -13,8 +13,6 @@ namespace veyrand::present {
 
 class BoardLayers;
 
-enum class MotionTaste { Full, Reduced };
-
 // Everything the view adds to the board, as pieces put among the items of its display list: whoever
 // paints the list paints them, the object table never hears of them, and no hit test finds them.
 // Some stand for as long as they are wanted, some are started and end by themselves. Whoever knows
@@ -27,8 +25,7 @@ public:
     }
 
     void setDirector(std::function<void()> director) { m_director = std::move(director); }
-    void setTaste(MotionTaste taste) { m_taste = taste; }
-    [[nodiscard]] MotionTaste taste() const { return m_taste; }
+    [[nodiscard]] MotionTaste taste() const { return m_scene.motionTaste(); }
 
     // What stands from now on. What stood and is not wanted any more fades away.
     void want(std::vector<Extra> wanted);
@@ -85,7 +82,6 @@ private:
     Scene& m_scene;
     std::function<void()> m_director;
     std::vector<Entry> m_entries;
-    MotionTaste m_taste = MotionTaste::Full;
     bool m_directing = false;
 };
 

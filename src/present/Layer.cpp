@@ -110,13 +110,13 @@ void Layer::setMasksToBounds(bool masks)
 
 void Layer::animatePosition(PointF from, PointF to, double duration, Timing timing)
 {
-    m_position.animate(from, to, m_scene.now(), duration, timing);
+    m_position.animate(from, to, m_scene.now(), duration, m_scene.calmed(timing, from != to));
     m_scene.animationStarted(duration);
 }
 
 void Layer::animateBounds(SizeF from, SizeF to, double duration, Timing timing)
 {
-    m_bounds.animate(from, to, m_scene.now(), duration, timing);
+    m_bounds.animate(from, to, m_scene.now(), duration, m_scene.calmed(timing, from != to));
     m_scene.animationStarted(duration);
 }
 
@@ -193,7 +193,8 @@ void Layer::flattenInto(DisplayList& list) const
 void Layer::flattenInto(DisplayList& list, const Placement& outer) const
 {
     const double now = m_scene.now();
-    const float opacity = outer.opacity * m_opacity.at(now);
+    const float presence = std::min(m_position.presence(now), m_bounds.presence(now));
+    const float opacity = outer.opacity * m_opacity.at(now) * presence;
     if (m_hidden || opacity <= 0.0F) {
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "board/Tempo.h"
 #include "platform/RunLoop.h"
+#include "present/Timing.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -10,9 +11,11 @@
 
 namespace veyrand::present {
 
-// What the layers of one window share: the clock and the tempo that move their animations, the
-// stacking counter, and the wish to be painted again. Owned by whoever owns the layer tree, and
-// outlives it.
+enum class MotionTaste { Full, Reduced };
+
+// What the layers of one window share: the clock, the tempo and the taste that move their
+// animations, the stacking counter, and the wish to be painted again. Owned by whoever owns the
+// layer tree, and outlives it.
 class Scene {
 public:
     explicit Scene(const platform::Clock& clock, const board::Tempo& tempo = board::kUsualTempo)
@@ -24,6 +27,17 @@ public:
     [[nodiscard]] double now() const { return m_clock.now(); }
 
     [[nodiscard]] const board::Tempo& tempo() const { return m_tempo; }
+
+    [[nodiscard]] MotionTaste motionTaste() const { return m_taste; }
+    // What has begun to move goes on as it began.
+    void setMotionTaste(MotionTaste taste) { m_taste = taste; }
+
+    // How something goes from one place or size to another: where motion is to be reduced it fades
+    // out and in again instead.
+    [[nodiscard]] Timing calmed(Timing timing, bool goesAnywhere) const
+    {
+        return goesAnywhere && m_taste == MotionTaste::Reduced ? Timing::Jump : timing;
+    }
 
     // True while any animation runs: only then are frames needed that nothing else asks for.
     [[nodiscard]] bool isAnimating() const { return now() < m_animationsEnd; }
@@ -53,6 +67,7 @@ public:
 private:
     const platform::Clock& m_clock;
     const board::Tempo& m_tempo;
+    MotionTaste m_taste = MotionTaste::Full;
     std::function<void()> m_listener;
     double m_animationsEnd = 0.0;
     std::int64_t m_stackingCounter = 0;

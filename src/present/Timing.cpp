@@ -39,6 +39,8 @@ float progressOf(Timing timing, double fraction)
         return static_cast<float>(bezier(0.0, 1.0, parameterAt(fraction)));
     case Timing::EaseOut:
         return static_cast<float>(1.0 - (1.0 - fraction) * (1.0 - fraction));
+    case Timing::Jump:
+        return fraction < 0.5 ? 0.0F : 1.0F;
     case Timing::Linear:
         break;
     }

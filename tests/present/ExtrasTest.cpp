@@ -129,7 +129,7 @@ TEST_F(ExtrasTest, AShakenHeadStaysWithinASixthOfTheStoneAndComesToRest)
 
 TEST_F(ExtrasTest, WhereMotionIsReducedLightTellsInstead)
 {
-    extras().setTaste(MotionTaste::Reduced);
+    layers().scene().setMotionTaste(MotionTaste::Reduced);
     const DisplayItem before = itemOf("RedChip");
     extras().start(shakenHead("chip-0-0", stone()));
     wait(0.05);

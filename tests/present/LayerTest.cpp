@@ -210,4 +210,29 @@ TEST_F(LayerTest, AnAnimationUnderAKindThatRunsReplacesIt)
     EXPECT_FALSE(scene().isAnimating());
 }
 
+TEST_F(LayerTest, WhereMotionIsToBeReducedALayerFadesOutAndInInsteadOfFlying)
+{
+    scene().setMotionTaste(MotionTaste::Reduced);
+    auto& layer = add({ 20.0F, 20.0F }, 10.0F);
+    layer.animatePosition({ 20.0F, 20.0F }, { 80.0F, 20.0F }, 1.0, Timing::Linear);
+    layer.setPosition({ 80.0F, 20.0F });
+    wait(0.25);
+    EXPECT_FLOAT_EQ(flat().back().rect.x, 15.0F);
+    EXPECT_FLOAT_EQ(flat().back().opacity, 0.5F);
+    wait(0.5);
+    EXPECT_FLOAT_EQ(flat().back().rect.x, 75.0F);
+    EXPECT_FLOAT_EQ(flat().back().opacity, 0.5F);
+    wait(0.25);
+    EXPECT_FLOAT_EQ(flat().back().opacity, 1.0F);
+}
+
+TEST_F(LayerTest, WhatGoesNowhereDoesNotFade)
+{
+    scene().setMotionTaste(MotionTaste::Reduced);
+    auto& layer = add({ 20.0F, 20.0F }, 10.0F);
+    layer.animatePosition({ 20.0F, 20.0F }, { 20.0F, 20.0F }, 1.0, Timing::Linear);
+    wait(0.5);
+    EXPECT_FLOAT_EQ(flat().back().opacity, 1.0F);
+}
+
 } // namespace veyrand::present
