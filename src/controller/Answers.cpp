@@ -101,6 +101,7 @@ Answers::Situation Answers::situation() const
     Situation now;
     now.isOn = m_settings.answers;
     now.whisper = m_whisper;
+    now.tipSize = m_settings.tipSize;
     now.focus = m_controller.focus().shown();
     if (!now.isOn) {
         return now;

@@ -60,6 +60,7 @@ private:
         std::size_t words = 0; // lines of the message on show
         std::int64_t points = 0;
         int par = 0;
+        double tipSize = 1.0;
         bool tipIsDue = false;
         bool inPlay = false;
         bool isOn = true;

@@ -92,7 +92,8 @@ void Answers::addPraise(std::vector<Extra>& wanted) const
 void Answers::addWords(std::vector<Extra>& wanted) const
 {
     if (!m_shown.whisper.empty()) {
-        wanted.push_back(present::whisper(m_shown.whisper, m_game.layers.textMetrics()));
+        wanted.push_back(
+            present::whisper(m_shown.whisper, m_game.layers.textMetrics(), m_shown.tipSize));
     }
     const auto place = placeOf(m_shown.thing);
     if (!m_shown.isOn || !m_shown.tipIsDue || !place) {
@@ -103,7 +104,8 @@ void Answers::addWords(std::vector<Extra>& wanted) const
         text = m_advice;
     }
     if (!text.empty()) {
-        wanted.push_back(present::tipFor(m_shown.thing, *place, text, m_game.layers.textMetrics()));
+        wanted.push_back(present::tipFor(
+            m_shown.thing, *place, text, m_game.layers.textMetrics(), m_shown.tipSize));
     }
 }
 

@@ -27,6 +27,7 @@ void SettingsInForce::apply()
     m_game.layers.scene().setMotionTaste(wantsLessMotion(settings.reducedMotion)
             ? present::MotionTaste::Reduced
             : present::MotionTaste::Full);
+    m_game.layers.setChips(settings.chips);
     m_game.sounds.setVolume(platform::SoundKind::Music, settings.musicVolume);
     m_game.sounds.setVolume(platform::SoundKind::Effects, settings.effectsVolume);
 }

@@ -4,9 +4,9 @@
 
 namespace veyrand::controller {
 
-// Hands what the player has chosen to whatever in the game moves or sounds by it: the tempo, the
-// taste for motion and the volumes. Where the desktop decides on motion, it is asked, and believed
-// again whenever it changes its mind.
+// Hands what the player has chosen to whatever in the game moves, looks or sounds by it: the tempo,
+// the taste for motion, the drawings of the stones and the volumes. Where the desktop decides on
+// motion, it is asked, and believed again whenever it changes its mind.
 class SettingsInForce {
 public:
     explicit SettingsInForce(GameContext& context);

@@ -58,6 +58,14 @@ void BoardLayers::fitTo(platform::Size viewSize)
     m_backgroundLayer.setScale(static_cast<float>(scale));
 }
 
+void BoardLayers::setChips(ChipSet chips)
+{
+    if (chips != m_chips) {
+        m_chips = chips;
+        m_scene.setNeedsDisplay();
+    }
+}
+
 void BoardLayers::createLayer(const std::string& key)
 {
     Layer& layer = m_backgroundLayer.addSublayer(
@@ -102,6 +110,13 @@ DisplayList BoardLayers::displayList()
         item.glow *= static_cast<float>(m_gameData.gameHeight() / kGlowHeight);
     }
     m_extras.decorate(list, *this);
+    if (m_chips != ChipSet::Pictures) {
+        for (DisplayItem& item : list) {
+            if (auto* const image = std::get_if<ImageContent>(&item.content)) {
+                image->name = pictureIn(m_chips, image->name);
+            }
+        }
+    }
     return list;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "present/ChipSet.h"
 #include "present/Extras.h"
 #include "present/GameObjectLayer.h"
 #include "present/TextLayer.h"
@@ -37,6 +38,9 @@ public:
     // What the view adds to the board.
     [[nodiscard]] Extras& extras() { return m_extras; }
 
+    // Which drawings of the stones are shown, wherever one is. The records keep the usual names.
+    void setChips(ChipSet chips);
+
     [[nodiscard]] DisplayList displayList();
 
 private:
@@ -48,6 +52,7 @@ private:
     SolidLayer m_contentLayer;
     ImageLayer& m_backgroundLayer; // owned by the content layer
     Extras m_extras;
+    ChipSet m_chips = ChipSet::Pictures;
 };
 
 } // namespace veyrand::present

@@ -33,10 +33,12 @@ inline constexpr double kShadowRoom = 0.010; // round every plate
 [[nodiscard]] Extra lastLineShown(unsigned row);
 [[nodiscard]] Extra blink(const std::string& key, const ExtraRect& thing);
 
-// A tip beside the thing it explains, never over it, and a whisper at the foot of the panel.
+// A tip beside the thing it explains, never over it, and a whisper at the foot of the panel; so
+// many times as large as usual. What would not fit is made no larger than it can be.
 [[nodiscard]] Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& text,
-    const platform::TextMetrics& metrics);
-[[nodiscard]] Extra whisper(const std::string& text, const platform::TextMetrics& metrics);
+    const platform::TextMetrics& metrics, double size = 1.0);
+[[nodiscard]] Extra whisper(
+    const std::string& text, const platform::TextMetrics& metrics, double size = 1.0);
 
 // The chip's place by column and row.
 [[nodiscard]] ExtraRect placeOfChip(unsigned column, unsigned row);

@@ -21,6 +21,9 @@ constexpr int kTipStep = 60;
 constexpr int kWhisperNarrowest = 240;
 constexpr int kWhisperWidest = 560;
 constexpr int kWhisperStep = 40;
+constexpr int kWhisperLowest = 80; // of several lines
+constexpr int kWhisperTallest = 230;
+constexpr int kWhisperStepUp = 30;
 constexpr std::array kTipHeights { 56, 92, 128 };
 
 constexpr double kTipEm = 0.028;
@@ -56,13 +59,13 @@ ExtraPiece line(const std::string& text, double x, double y, double em, const bo
         .rect = { .x = x, .y = y, .width = size.width * em, .height = size.height * em } };
 }
 
-ExtraPiece plate(const std::string& name, const ExtraRect& body)
+ExtraPiece plate(const std::string& name, const ExtraRect& body, double size)
 {
     return { .content = ImageContent { name },
         .rect = { .x = body.x,
             .y = body.y,
-            .width = body.width + 2.0 * kShadowRoom,
-            .height = body.height + 2.0 * kShadowRoom } };
+            .width = body.width + 2.0 * kShadowRoom * size,
+            .height = body.height + 2.0 * kShadowRoom * size } };
 }
 
 enum class Side { Right, Above, Below };
@@ -82,11 +85,12 @@ struct Layout {
     ExtraPiece nose;
 };
 
-Layout layOut(const ExtraRect& thing, double width, double height)
+Layout layOut(const ExtraRect& thing, double width, double height, double size)
 {
     const Side side = sideFor(thing);
     const bool beside = side == Side::Right;
-    const double away = kTipGap + (beside ? thing.width + width : thing.height + height) / 2.0;
+    const double away
+        = kTipGap * size + (beside ? thing.width + width : thing.height + height) / 2.0;
     const double sign = side == Side::Right || side == Side::Above ? 1.0 : -1.0;
     const auto inside = [](double centre, double length, double end) {
         return std::clamp(centre, kBoardMargin + length / 2.0, end - kBoardMargin - length / 2.0);
@@ -99,13 +103,84 @@ Layout layOut(const ExtraRect& thing, double width, double height)
     const char* const name = side == Side::Right ? "TipNoseLeft"
         : side == Side::Above                    ? "TipNoseDown"
                                                  : "TipNoseUp";
-    const double toNose = (beside ? width : height) / 2.0 + kNoseLength / 2.0 - 0.0045;
+    const double toNose = (beside ? width : height) / 2.0 + (kNoseLength / 2.0 - 0.0045) * size;
     layout.nose = { .content = ImageContent { name },
         .rect = { .x = beside ? layout.body.x - sign * toNose : thing.x,
             .y = beside ? thing.y : layout.body.y - sign * toNose,
-            .width = beside ? kNoseLength : kNoseWidth,
-            .height = beside ? kNoseWidth : kNoseLength } };
+            .width = (beside ? kNoseLength : kNoseWidth) * size,
+            .height = (beside ? kNoseWidth : kNoseLength) * size } };
     return layout;
+}
+
+// A text in lines, and how many times the usual size it can have.
+struct Fitted {
+    std::vector<std::string> lines;
+    double size = 1.0;
+};
+
+Fitted fitted(const std::string& text, const ExtraRect& thing, double size,
+    const platform::TextMetrics& metrics)
+{
+    constexpr double kLongestLine = 0.42;
+    constexpr double kStep = 0.125;
+    const double room = sideFor(thing) == Side::Right
+        ? 1.6 - kBoardMargin - (thing.x + thing.width / 2.0 + kTipGap * size)
+        : 1.6 - 2.0 * kBoardMargin;
+    for (;; size -= kStep) {
+        const double widest = std::min(kTipWidest / 1000.0, room / size) - kTipPadding;
+        std::vector<std::string> lines
+            = broken(text, std::min(kLongestLine, widest) / kTipEm, metrics);
+        if (lines.size() > kTipHeights.size()) {
+            lines = broken(text, widest / kTipEm, metrics);
+        }
+        if (lines.size() <= kTipHeights.size() || size <= 1.0) {
+            lines.resize(std::min(lines.size(), kTipHeights.size()));
+            return { std::move(lines), size };
+        }
+    }
+}
+
+Extra whisperOn(const ExtraRect& body, const std::string& text, std::vector<ExtraPiece> pieces)
+{
+    return { .kind = ExtraKind::Whisper,
+        .key = "whisper",
+        .text = text,
+        .rect = body,
+        .pieces = std::move(pieces),
+        .slot = "whisper",
+        .fade = kWhisperFade };
+}
+
+// In several lines on a plate that grows upwards: below it lies the board's edge, beside it the
+// goal.
+Extra largeWhisper(const std::string& text, const platform::TextMetrics& metrics, double em)
+{
+    constexpr double kRoom = kWhisperWidest / 1000.0 - kWhisperPadding;
+    constexpr double kPitch = 1.25; // ems
+    constexpr double kRim = 0.03; // of both sides together
+    constexpr double kBottom = kWhisperY - kWhisperHeight / 2.0;
+    constexpr double kStep = 0.95;
+    std::vector<std::string> lines = broken(text, kRoom / em, metrics);
+    const auto tall = [&] { return static_cast<double>(lines.size()) * kPitch * em + kRim; };
+    while (tall() > kWhisperTallest / 1000.0) {
+        em *= kStep;
+        lines = broken(text, kRoom / em, metrics);
+    }
+    const int height = stepFor(tall(), kWhisperLowest, kWhisperTallest, kWhisperStepUp);
+    const ExtraRect body { .x = kWhisperX,
+        .y = kBottom + height / 2000.0,
+        .width = kWhisperWidest / 1000.0,
+        .height = height / 1000.0 };
+    std::vector<ExtraPiece> pieces { plate(
+        "WhisperPlate-" + std::to_string(kWhisperWidest) + '-' + std::to_string(height), body,
+        1.0) };
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const double fromMiddle
+            = (static_cast<double>(lines.size()) - 1.0) / 2.0 - static_cast<double>(i);
+        pieces.push_back(
+            line(lines[i], kWhisperX, body.y + fromMiddle * kPitch * em, em, kWhisperInk, metrics));
+    }
+    return whisperOn(body, text, std::move(pieces));
 }
 
 } // namespace
@@ -133,20 +208,16 @@ std::vector<std::string> broken(
 }
 
 Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& text,
-    const platform::TextMetrics& metrics)
+    const platform::TextMetrics& metrics, double size)
 {
-    constexpr double kLongestLine = 0.42;
-    std::vector<std::string> lines = broken(text, kLongestLine / kTipEm, metrics);
-    if (lines.size() > kTipHeights.size()) {
-        lines = broken(text, (kTipWidest / 1000.0 - kTipPadding) / kTipEm, metrics);
-    }
-    lines.resize(std::min(lines.size(), kTipHeights.size()));
+    const auto [lines, times] = fitted(text, thing, size, metrics);
     double longest = 0.0;
     for (const std::string& words : lines) {
         longest = std::max(longest, metrics.preferredFrameSize(words).width * kTipEm);
     }
     const int width = stepFor(longest + kTipPadding, kTipNarrowest, kTipWidest, kTipStep);
-    const Layout layout = layOut(thing, width / 1000.0, kTipHeights.at(lines.size() - 1) / 1000.0);
+    const Layout layout = layOut(
+        thing, times * width / 1000.0, times * kTipHeights.at(lines.size() - 1) / 1000.0, times);
     Extra extra { .kind = ExtraKind::Tip,
         .key = key,
         .text = text,
@@ -154,36 +225,35 @@ Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& 
         .band = ExtraBand::OverMessages,
         .slot = "tip " + key,
         .fade = kTipFade };
-    extra.pieces.push_back(plate(
-        "TipPlate-" + std::to_string(width) + '-' + std::to_string(lines.size()), layout.body));
+    extra.pieces.push_back(
+        plate("TipPlate-" + std::to_string(width) + '-' + std::to_string(lines.size()), layout.body,
+            times));
     extra.pieces.push_back(layout.nose);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const double fromMiddle
             = (static_cast<double>(lines.size()) - 1.0) / 2.0 - static_cast<double>(i);
-        extra.pieces.push_back(line(lines[i], layout.body.x, layout.body.y + fromMiddle * kTipPitch,
-            kTipEm, kTipInk, metrics));
+        extra.pieces.push_back(line(lines[i], layout.body.x,
+            layout.body.y + fromMiddle * kTipPitch * times, kTipEm * times, kTipInk, metrics));
     }
     return extra;
 }
 
-Extra whisper(const std::string& text, const platform::TextMetrics& metrics)
+Extra whisper(const std::string& text, const platform::TextMetrics& metrics, double size)
 {
     const double ems = metrics.preferredFrameSize(text).width;
     constexpr double kRoom = kWhisperWidest / 1000.0 - kWhisperPadding;
     const double em = std::clamp(kRoom / std::max(ems, 1.0), kWhisperSmallest, kWhisperEm);
+    if (size > 1.0) {
+        return largeWhisper(text, metrics, em * size);
+    }
     const int width
         = stepFor(ems * em + kWhisperPadding, kWhisperNarrowest, kWhisperWidest, kWhisperStep);
     const ExtraRect body {
         .x = kWhisperX, .y = kWhisperY, .width = width / 1000.0, .height = kWhisperHeight
     };
-    return { .kind = ExtraKind::Whisper,
-        .key = "whisper",
-        .text = text,
-        .rect = body,
-        .pieces = { plate("WhisperPlate-" + std::to_string(width), body),
-            line(text, kWhisperX, kWhisperY, em, kWhisperInk, metrics) },
-        .slot = "whisper",
-        .fade = kWhisperFade };
+    return whisperOn(body, text,
+        { plate("WhisperPlate-" + std::to_string(width), body, 1.0),
+            line(text, kWhisperX, kWhisperY, em, kWhisperInk, metrics) });
 }
 
 std::vector<std::string> wordPictureNames()
@@ -196,6 +266,10 @@ std::vector<std::string> wordPictureNames()
     }
     for (int width = kWhisperNarrowest; width <= kWhisperWidest; width += kWhisperStep) {
         names.push_back("WhisperPlate-" + std::to_string(width));
+    }
+    for (int height = kWhisperLowest; height <= kWhisperTallest; height += kWhisperStepUp) {
+        names.push_back(
+            "WhisperPlate-" + std::to_string(kWhisperWidest) + '-' + std::to_string(height));
     }
     return names;
 }

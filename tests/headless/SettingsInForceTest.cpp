@@ -37,6 +37,22 @@ TEST_F(SettingsInForceTest, TheTempoIsThatOfTheNextMove)
     EXPECT_EQ(game().controller().context().tempo.speed(), progress::Settings::Tempo::Slow);
 }
 
+TEST_F(SettingsInForceTest, OtherStonesLieOnTheBoardAtOnceAndInTheHand)
+{
+    play("YRRR", "YB");
+    press("chip-1-0");
+    move("chip-2-0");
+    choose(
+        [](progress::Settings& settings) { settings.chips = progress::Settings::Chips::Letters; });
+    int letters = 0;
+    for (const present::DisplayItem& item : game().game().layers().displayList()) {
+        const auto* const image = std::get_if<present::ImageContent>(&item.content);
+        letters += image != nullptr && image->name.ends_with("Chip-letters") ? 1 : 0;
+    }
+    EXPECT_EQ(letters, 4 + 2 + 1); // the line, the goal and the lifted stone
+    release("chip-3-0");
+}
+
 TEST(SettingsInForce, HoldFromTheFirstMoment)
 {
     headless::HeadlessGame::Options options;

@@ -1,5 +1,6 @@
 #include "desktop/qt/ImageStore.h"
 #include "look/Colour.h"
+#include "present/ChipSet.h"
 #include "support/Places.h"
 #include "support/QtEnvironment.h"
 
@@ -21,8 +22,8 @@ constexpr double kSmallestGreyDifference = 12.0;
 
 } // namespace
 
-// Looks at the chips as they are painted, not at the palette they were meant to have.
-class ChipColours : public ::testing::Test {
+// Looks at the chips of a set as they are painted, not at the palette they were meant to have.
+class ChipColours : public ::testing::TestWithParam<const char*> {
 protected:
     // The face, in a ring between the emblem and the rim. The median, as the tips of a leaf and the
     // rays of a sun reach into it.
@@ -74,14 +75,17 @@ protected:
     }
 
 private:
-    QImage picture(const char* chip) { return m_images.image(chip, { kSide, kSide }).toImage(); }
+    QImage picture(const char* chip)
+    {
+        return m_images.image(std::string(chip) + GetParam(), { kSide, kSide }).toImage();
+    }
 
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images { QString::fromStdString(test::dataFolder() + "/images"),
         m_font };
 };
 
-TEST_F(ChipColours, AnyTwoFacesDifferForEveryKindOfSight)
+TEST_P(ChipColours, AnyTwoFacesDifferForEveryKindOfSight)
 {
     const std::array<std::pair<Sight, const char*>, 4> sights { { { Sight::Normal, "normal" },
         { Sight::Protanopia, "protanopia" }, { Sight::Deuteranopia, "deuteranopia" },
@@ -99,13 +103,13 @@ TEST_F(ChipColours, AnyTwoFacesDifferForEveryKindOfSight)
                 }
             }
         }
-        std::printf(
-            "smallest difference of two faces, %-12s %5.1f  %s\n", name, smallest, pair.c_str());
+        std::printf("smallest difference of two faces%s, %-12s %5.1f  %s\n", GetParam(), name,
+            smallest, pair.c_str());
         EXPECT_GE(smallest, kSmallestDifference) << name << ": " << pair;
     }
 }
 
-TEST_F(ChipColours, AnyTwoChipsDifferWithoutColour)
+TEST_P(ChipColours, AnyTwoChipsDifferWithoutColour)
 {
     double smallest = 1000.0;
     std::string pair;
@@ -118,9 +122,13 @@ TEST_F(ChipColours, AnyTwoChipsDifferWithoutColour)
             }
         }
     }
-    std::printf(
-        "smallest difference in lightness of two chips %5.1f  %s\n", smallest, pair.c_str());
+    std::printf("smallest difference in lightness of two chips%s %5.1f  %s\n", GetParam(), smallest,
+        pair.c_str());
     EXPECT_GE(smallest, kSmallestGreyDifference) << pair;
 }
+
+// What the names of a set's pictures end with.
+INSTANTIATE_TEST_SUITE_P(
+    OfEverySet, ChipColours, ::testing::Values("", "-contrast", "-letters", "-patterns"));
 
 } // namespace veyrand::look

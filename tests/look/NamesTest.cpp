@@ -1,4 +1,5 @@
 #include "platform/Effect.h"
+#include "present/ChipSet.h"
 #include "present/ExtraPictures.h"
 #include "progress/PlayerKeys.h"
 #include "support/Places.h"
@@ -133,6 +134,12 @@ TEST(AskedForByExtras, TheImagesAreExactlyTheFilesThereAre)
 {
     const auto names = present::extraPictureNames();
     EXPECT_THAT(Names(names.begin(), names.end()), ::testing::ContainerEq(filesIn("svg/extras")));
+}
+
+TEST(AskedForBySettings, TheOtherStonesAreExactlyTheFilesThereAre)
+{
+    const auto names = present::chipSetPictureNames();
+    EXPECT_THAT(Names(names.begin(), names.end()), ::testing::ContainerEq(filesIn("svg/chips")));
 }
 
 TEST(AskedForBySources, TheSoundsAreExactlyTheFilesThereAre)

@@ -182,14 +182,79 @@ TEST_F(ExtrasTest, ATipLiesBesideWhatItExplainsAndOnTheBoard)
     for (const auto& thing : { placeOfChip(0, 0), placeOfChip(11, 3), placeOfChip(5, 11),
              ExtraRect { .x = 0.3, .y = 0.4, .width = 0.05, .height = 0.06 },
              ExtraRect { .x = 1.4, .y = 0.5, .width = 0.15, .height = 0.15 } }) {
-        const Extra tip = tipFor("thing", thing, "10 less for every move more", metrics);
-        const bool apart = std::abs(tip.rect.x - thing.x) >= (tip.rect.width + thing.width) / 2.0
-            || std::abs(tip.rect.y - thing.y) >= (tip.rect.height + thing.height) / 2.0;
-        EXPECT_TRUE(apart) << thing.x << ' ' << thing.y;
-        EXPECT_GT(tip.rect.x - tip.rect.width / 2.0, 0.0);
-        EXPECT_LT(tip.rect.x + tip.rect.width / 2.0, 1.6);
-        EXPECT_GT(tip.rect.y - tip.rect.height / 2.0, 0.0);
-        EXPECT_LT(tip.rect.y + tip.rect.height / 2.0, 1.0);
+        for (const double size : { 1.0, 1.5, 2.0 }) {
+            const Extra tip = tipFor("thing", thing, "10 less for every move more", metrics, size);
+            const bool apart
+                = std::abs(tip.rect.x - thing.x) >= (tip.rect.width + thing.width) / 2.0
+                || std::abs(tip.rect.y - thing.y) >= (tip.rect.height + thing.height) / 2.0;
+            EXPECT_TRUE(apart) << thing.x << ' ' << thing.y << ", size " << size;
+            EXPECT_GT(tip.rect.x - tip.rect.width / 2.0, 0.0);
+            EXPECT_LT(tip.rect.x + tip.rect.width / 2.0, 1.6);
+            EXPECT_GT(tip.rect.y - tip.rect.height / 2.0, 0.0);
+            EXPECT_LT(tip.rect.y + tip.rect.height / 2.0, 1.0);
+        }
+    }
+}
+
+namespace {
+
+double heightOfLetters(const Extra& extra)
+{
+    double height = 0.0;
+    for (const ExtraPiece& piece : extra.pieces) {
+        if (std::holds_alternative<TextContent>(piece.content)) {
+            height = std::max(height, piece.rect.height);
+            EXPECT_LE(piece.rect.width, extra.rect.width) << extra.text;
+            EXPECT_LE(std::abs(piece.rect.y - extra.rect.y) + piece.rect.height / 2.0,
+                extra.rect.height / 2.0 + 0.02)
+                << extra.text;
+        }
+    }
+    return height;
+}
+
+} // namespace
+
+TEST_F(ExtrasTest, TheWordsOfTipsAreAsLargeAsWished)
+{
+    const test::SquareLetters metrics;
+    const double usual = heightOfLetters(tipFor("thing", stone(), "takes 2 back", metrics));
+    for (const double size : { 1.5, 2.0 }) {
+        EXPECT_NEAR(heightOfLetters(tipFor("thing", stone(), "takes 2 back", metrics, size)),
+            usual * size, 1e-9);
+    }
+}
+
+TEST_F(ExtrasTest, ATipThatWouldNotFitIsAsLargeAsItCanBe)
+{
+    const test::SquareLetters metrics;
+    const std::string text = "Drop it on the chip right beside it, or on the next but one.";
+    const ExtraRect counter { .x = 0.5, .y = 0.4, .width = 0.05, .height = 0.06 };
+    const Extra usual = tipFor("thing", counter, text, metrics);
+    const Extra large = tipFor("thing", counter, text, metrics, 2.0);
+    EXPECT_LT(large.rect.x + large.rect.width / 2.0, 1.6);
+    EXPECT_GT(heightOfLetters(large), heightOfLetters(usual));
+    EXPECT_LT(heightOfLetters(large), heightOfLetters(usual) * 2.0);
+    std::string words;
+    for (const ExtraPiece& piece : large.pieces) {
+        if (const auto* const line = std::get_if<TextContent>(&piece.content)) {
+            words += (words.empty() ? "" : " ") + line->text;
+        }
+    }
+    EXPECT_EQ(words, text) << "and no word is lost";
+}
+
+TEST_F(ExtrasTest, ALargeWhisperStaysInThePanelWithEveryWord)
+{
+    const test::SquareLetters metrics;
+    const std::string text = "A line holds 12 chips.";
+    const Extra usual = whisper(text, metrics);
+    for (const double size : { 1.5, 2.0 }) {
+        const Extra large = whisper(text, metrics, size);
+        EXPECT_NEAR(heightOfLetters(large), heightOfLetters(usual) * size, 1e-9) << size;
+        EXPECT_LT(large.rect.x + large.rect.width / 2.0, 0.59);
+        EXPECT_GT(large.rect.y - large.rect.height / 2.0, 0.0);
+        EXPECT_LT(large.rect.y + large.rect.height / 2.0, 0.26);
     }
 }
 

@@ -62,7 +62,7 @@ def chip(name):
 
 
 # Quarter, its direction from the centre, in the order of painting.
-_QUARTERS = (('Yellow', -1, -1), ('Red', 1, -1), ('Blue', -1, 1), ('Green', 1, 1))
+QUARTERS = (('Yellow', -1, -1), ('Red', 1, -1), ('Blue', -1, 1), ('Green', 1, 1))
 
 
 def multi_chip():
@@ -72,7 +72,7 @@ def multi_chip():
     x, y, radius = CENTRE_X, CENTRE_Y, GLASS_RADIUS
     arcs = {(-1, -1): (x - radius, y, x, y - radius), (1, -1): (x, y - radius, x + radius, y),
             (1, 1): (x + radius, y, x, y + radius), (-1, 1): (x, y + radius, x - radius, y)}
-    for name, right, down in _QUARTERS:
+    for name, right, down in QUARTERS:
         glass = CHIP[name]
         x0, y0, x1, y1 = arcs[(right, down)]
         depth = [(0, glass['face']), (.7, glass['face']), (.92, glass['deep']), (1, glass['rim'])]
@@ -85,7 +85,7 @@ def multi_chip():
             drawing.path('M%s %sL%s %s' % numbers(*line), stroke=colour, width=width, cap='butt')
     # Under the full reflection the yellow quarter's sun would look grey.
     _shine(drawing, .5)
-    for name, right, down in _QUARTERS:
+    for name, right, down in QUARTERS:
         data = emblems.OF_CHIP[name](.56)
         _emblem(drawing, CHIP[name], data, x + right * 26.5, y + down * 26, .6)
     return drawing

@@ -136,6 +136,7 @@ SHADOW_ROOM = 20        # round every plate
 TIP_WIDTHS = range(180, 661, 60)        # thousandths of the game's height
 TIP_HEIGHTS = {1: 56, 2: 92, 3: 128}
 WHISPER_WIDTHS = range(240, 561, 40)
+WHISPER_HEIGHTS = range(80, 231, 30)    # of large words in several lines, on the widest
 HEADING_WIDTHS = range(240, 901, 60)
 NOSE = (60, 40)
 
@@ -176,9 +177,9 @@ def tip_nose(turn):
     return drawing
 
 
-def whisper_plate(width):
-    drawing, x, y, w, h = _plate_drawing(width, 50)
-    drawing.path(plate(x, y, w, h, 18), fill=EXTRA_DARK, opacity=.78)
+def whisper_plate(width, height=50):
+    drawing, x, y, w, h = _plate_drawing(width, height)
+    drawing.path(plate(x, y, w, h, 18), fill=EXTRA_DARK, opacity=.78 if height == 50 else .94)  # buttons lie behind
     drawing.path(plate(x + 6, y + 6, w - 12, h - 12, 15), stroke='#C79A66', width=1.8, opacity=.55)
     return drawing
 
@@ -327,6 +328,9 @@ def pictures():
             known['TipPlate-%d-%d' % (width, lines)] = lambda width=width, lines=lines: tip_plate(width, lines)
     for width in WHISPER_WIDTHS:
         known['WhisperPlate-%d' % width] = lambda width=width: whisper_plate(width)
+    for height in WHISPER_HEIGHTS:
+        known['WhisperPlate-%d-%d' % (WHISPER_WIDTHS[-1], height)] = lambda height=height: whisper_plate(
+            WHISPER_WIDTHS[-1], height)
     for width in HEADING_WIDTHS:
         known['HeadingPlate-%d' % width] = lambda width=width: heading_plate(width)
     for rank in range(1, MEDALS + 1):

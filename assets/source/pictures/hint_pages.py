@@ -43,7 +43,7 @@ def first_stage():
     return drawing
 
 
-def second_stage():
+def second_stage(stone=chips.chip):
     """The words' plate, and a ringed column of stones where the next line's pieces appear."""
     drawing = Drawing(WIDTH, HEIGHT)
     _pane(drawing, .63, .655, .90, .345)
@@ -51,7 +51,7 @@ def second_stage():
     _ring(drawing, _at(.5, middle), 94, 320)
     for k, name in enumerate(('Yellow', 'Red', 'Green', 'Blue')):
         x, y = _at(.5, middle + .075 * (k - 1.5))
-        drawing.embed(chips.chip(name), x - chips.SIZE / 2, y - chips.SIZE / 2)
+        drawing.embed(stone(name), x - chips.SIZE / 2, y - chips.SIZE / 2)
     _arrow(drawing, (.70, .31), (.66, .24), (.57, .25), (.534, .345))
     return drawing
 

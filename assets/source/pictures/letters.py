@@ -13,7 +13,7 @@ from . import languages
 
 BOLD = '/usr/share/fonts/opentype/linux-libertine/LinBiolinum_RB.otf'
 WORDS = ('Hint', 'Moves', 'Menu', 'Classic', 'Endless', 'Quit', 'Continue Game', 'Start New Game', 'Harder', 'Easier',
-         'Points', 'Stage', 'Par', 'V', 'E', 'Y', 'R', 'A', 'N', 'D')
+         'Points', 'Stage', 'Par', 'V', 'E', 'Y', 'R', 'A', 'N', 'D', 'G', 'B')
 
 
 def _advances(text):

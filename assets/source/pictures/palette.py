@@ -87,3 +87,12 @@ FOCUS_EDGE = '#120802'
 EXTRA_DARK = '#1A0D04'
 IVORY_PLATE = [(0, '#FFFBF0'), (1, '#F1E4C6')]
 BRASS_PLATE = [(0, '#F7E3AC'), (.5, '#E6C67A'), (1, '#CFA557')]
+
+# --- the stones of high contrast: (face, the ink of its sign). Told apart by any eye, and in greys.
+FLAT = {
+    'Yellow': ('#FFD400', '#000000'),
+    'Red': ('#B3121D', '#FFFFFF'),
+    'Green': ('#35C46B', '#000000'),
+    'Blue': ('#0A2FA8', '#FFFFFF'),
+    'Grey': ('#E9EDF0', '#000000'),
+}
