@@ -301,7 +301,7 @@ void Answers::pressLost(const std::string& key)
     }
     if (++m_pressesLost >= kLostUntilAdvice && !m_settings.rememberPress) {
         m_pressesLost = 0;
-        showTipAtOnce(key, "Options > Remember a Press plays it when the board is ready.");
+        showTipAtOnce(key, m_game.texts.text("advice.rememberPress"));
     }
 }
 
@@ -335,7 +335,7 @@ void Answers::clickMissed(const std::string& key)
     }
     if (++m_clicksMissed >= kMissesUntilAdvice) {
         m_clicksMissed = 0;
-        showTipAtOnce(key, "Options > Forgiving Clicks takes this for a click.");
+        showTipAtOnce(key, m_game.texts.text("advice.forgivingClicks"));
     }
 }
 

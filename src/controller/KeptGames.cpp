@@ -154,8 +154,10 @@ void KeptGames::setAside(Mode mode, std::string_view reason, const std::string& 
 {
     const std::string name = nameOf(mode);
     const auto kept = m_game.journal->keepAside(name, reason);
-    report("The unfinished puzzle in " + name + " cannot be read to its end: " + why + ". "
-        + (kept ? "It is kept as " + *kept + '.' : "It cannot be set aside either."));
+    report(kept
+            ? m_game.texts.text(
+                "saving.unreadable", { { "file", name }, { "why", why }, { "kept", *kept } })
+            : m_game.texts.text("saving.unreadableInTheWay", { { "file", name }, { "why", why } }));
 }
 
 const Replay* KeptGames::inPlay() const
@@ -220,7 +222,7 @@ void KeptGames::failed(Mode mode, const std::string& fault)
     if (!fault.empty()) {
         fileOf(mode).mayAppend = false;
         if (m_fault.empty()) {
-            report("The unfinished puzzle cannot be kept: " + fault + '.');
+            report(m_game.texts.text("saving.puzzleNotKept", { { "why", fault } }));
         }
     }
     m_fault = fault;
@@ -314,7 +316,7 @@ std::string KeptGames::lastWords()
     const std::string late = m_game.journal->drain();
     const std::string& fault = late.empty() ? m_fault : late;
     return fault.empty() ? std::string()
-                         : "The unfinished puzzle could not be kept: " + fault + '.';
+                         : m_game.texts.text("saving.puzzleWasNotKept", { { "why", fault } });
 }
 
 } // namespace veyrand::controller

@@ -33,7 +33,8 @@ void PreviousGames::write(Mode mode, const std::vector<PreviousGame>& games)
     }
     const std::string fault = m_game.journal->begin(play::previousName(player, mode), lines);
     if (!fault.empty()) {
-        m_controller.kept().report("The previous game cannot be kept: " + fault + '.');
+        m_controller.kept().report(
+            m_game.texts.text("saving.previousNotKept", { { "why", fault } }));
     }
 }
 
@@ -108,13 +109,17 @@ void PreviousGames::offer(Mode mode)
         return;
     }
     const bool isClassic = mode == Mode::Classic;
-    m_game.alerts.show(
-        { .message = std::string(isClassic ? "Bring back the previous Classic game?"
-                                           : "Bring back the previous Endless game?"),
-            .informativeText
-            = play::nameForPeople(game->standing) + ". The game that is there now takes its place.",
-            .defaultButton = "Bring Back",
-            .alternateButton = "Leave It" },
+    const auto& texts = m_game.texts;
+    const play::Standing& standing = game->standing;
+    const language::Argument points { "points", std::int64_t { standing.score } };
+    const std::string place
+        = std::to_string(standing.place.level) + '-' + std::to_string(standing.place.stage);
+    m_game.alerts.show({ .message = texts.text(isClassic ? "previous.classic" : "previous.endless"),
+                           .informativeText = isClassic
+                               ? texts.text("previous.whatClassic", { points, { "place", place } })
+                               : texts.text("previous.whatEndless", { points }),
+                           .defaultButton = texts.text("previous.bringBack"),
+                           .alternateButton = texts.text("previous.leaveIt") },
         [this, mode, isClassic](const platform::AlertAnswer& answer) {
             if (answer.button == platform::AlertAnswer::Button::Alternate) {
                 return isClassic ? offer(Mode::Endless) : void();

@@ -1,3 +1,5 @@
+#include "controller/MenuTable.h"
+#include "controller/Speech.h"
 #include "progress/Settings.h"
 #include "support/HeadlessPlay.h"
 
@@ -71,6 +73,33 @@ TEST_F(GermanGame, TellsWhoeverListensOfItsWords)
     choose("it");
     choose("it");
     EXPECT_THAT(heard, testing::ElementsAre("de", "it"));
+}
+
+TEST_F(GermanGame, HasTheWordsOfTheWholeMenuInItsFiles)
+{
+    const language::Texts& texts = game().game().texts();
+    for (const MenuTitle& title : menuTitles()) {
+        EXPECT_TRUE(texts.isTranslated(std::string("GameMenu.") + title.text)) << title.text;
+    }
+    for (const MenuItem& item : menuItems()) {
+        if (item.kind != MenuItem::Kind::Separator && item.kind != MenuItem::Kind::Hidden) {
+            EXPECT_TRUE(texts.isTranslated(std::string("GameMenu.") + item.text)) << item.text;
+        }
+    }
+}
+
+TEST_F(GermanGame, SaysWhyNotInGermanForWhateverEnglishHasWords)
+{
+    const language::Texts& texts = game().game().texts();
+    for (const play::ReasonEntry& entry : play::reasonTable()) {
+        const std::string words = wordsFor(texts, { entry.reason, 4 });
+        EXPECT_EQ(words.empty(), entry.words.empty()) << entry.name;
+        EXPECT_TRUE(words.empty() || words != play::wordsFor({ entry.reason, 4 })) << entry.name;
+    }
+    choose("en");
+    for (const play::ReasonEntry& entry : play::reasonTable()) {
+        EXPECT_EQ(wordsFor(texts, { entry.reason, 4 }), play::wordsFor({ entry.reason, 4 }));
+    }
 }
 
 } // namespace veyrand::controller

@@ -133,7 +133,7 @@ def _board_and_style(drawing, board, enamel, seed):
 
 
 SIDE_LETTERING, SIDE_WORD_ROOM = 56, 176
-HALF_LETTERING, HALF_WORD_ROOM = 74, 268
+HALF_LETTERING, HALF_WORD_ROOM = 74, 250
 
 
 def side_lettering(words):

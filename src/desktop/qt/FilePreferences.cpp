@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Logging.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,6 +14,11 @@
 namespace veyrand::desktop::qt {
 
 namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("FilePreferences", text);
+}
 
 QJsonValue toJson(const platform::PreferenceValue& value)
 {
@@ -210,15 +216,13 @@ void FilePreferences::judge(const QString& group, const QJsonObject& contents)
 
 void FilePreferences::recoverFrom(const QString& reason)
 {
-    const QString fault
-        = QStringLiteral("The preferences %1 cannot be read: %2.").arg(m_file, reason);
+    const QString fault = tr("The preferences %1 cannot be read: %2.").arg(m_file, reason);
     const Read copy = readDocument(lastGoodCopy());
     if (copy.document) {
         understand(*copy.document);
     }
-    const QString instead = copy.document
-        ? QStringLiteral("The copy before the last change is used instead.")
-        : QStringLiteral("The game starts with new ones.");
+    const QString instead = copy.document ? tr("The copy before the last change is used instead.")
+                                          : tr("The game starts with new ones.");
     if (!m_mayWrite) {
         report(fault + QLatin1Char(' ') + instead);
         return; // whoever holds the file has to see to it
@@ -228,11 +232,11 @@ void FilePreferences::recoverFrom(const QString& reason)
     m_mayWrite = !name.isEmpty();
     m_bytes = readRegularFile(m_file, kMostBytes).bytes;
     if (!m_mayWrite) {
-        report(QStringLiteral("%1 %2 It cannot be set aside either, so nothing will be saved.")
+        report(tr("%1 %2 It cannot be set aside either, so nothing will be saved.")
                    .arg(fault, instead));
         return;
     }
-    report(QStringLiteral("%1 They are kept as %2. %3").arg(fault, name, instead));
+    report(tr("%1 They are kept as %2. %3").arg(fault, name, instead));
     if (copy.document) {
         save(OldContents::Forget);
     }
@@ -263,16 +267,14 @@ void FilePreferences::save(OldContents oldContents)
             const QString name = setAside(OldContents::Keep);
             m_mayWrite = !name.isEmpty();
             report(m_mayWrite
-                    ? QStringLiteral("%1 They are kept as %2.").arg(loss, name)
-                    : QStringLiteral("%1 They cannot be set aside, so nothing will be saved.")
-                          .arg(loss));
+                    ? tr("%1 They are kept as %2.").arg(loss, name)
+                    : tr("%1 They cannot be set aside, so nothing will be saved.").arg(loss));
             m_notUnderstood.clear();
             oldContents = OldContents::Forget; // they are no good copy
         }
     }
     if (!m_mayWrite) {
-        m_failure
-            = QStringLiteral("What has changed since is not in the preferences %1.").arg(m_file);
+        m_failure = tr("What has changed since is not in the preferences %1.").arg(m_file);
         return;
     }
     const QByteArray bytes = QJsonDocument(m_document).toJson();
@@ -284,7 +286,7 @@ void FilePreferences::save(OldContents oldContents)
         return;
     }
     const bool isNew = m_failure.isEmpty();
-    m_failure = QStringLiteral("The preferences %1 cannot be written: %2.").arg(m_file, error);
+    m_failure = tr("The preferences %1 cannot be written: %2.").arg(m_file, error);
     if (isNew) { // once, not at every save from here on
         report(m_failure);
     }
@@ -303,8 +305,7 @@ QString FilePreferences::whatAWriteWouldDrop() const
     const FileContents now = readRegularFile(m_file, kMostBytes);
     const bool isThere = now.bytes || !now.fault.isEmpty();
     if (isThere && now.bytes != m_bytes) {
-        return QStringLiteral("The preferences %1 have been changed by something else.")
-            .arg(m_file);
+        return tr("The preferences %1 have been changed by something else.").arg(m_file);
     }
     QStringList dropped;
     for (const auto& [group, name] : m_notUnderstood) {
@@ -316,8 +317,7 @@ QString FilePreferences::whatAWriteWouldDrop() const
         }
     }
     return dropped.isEmpty() ? QString()
-                             : QStringLiteral("Not everything in the preferences %1 can be "
-                                              "understood: %2.")
+                             : tr("Not everything in the preferences %1 can be understood: %2.")
                                    .arg(m_file, dropped.join(QStringLiteral(", ")));
 }
 
