@@ -278,7 +278,7 @@ QString folderInMemory()
 
 TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
 {
-    const QTemporaryDir folder(folderInMemory());
+    QTemporaryDir folder(folderInMemory());
     {
         OnDisk onDisk(folder.path());
         progress::updatePlayerRecord(onDisk.preferences, progress::kDefaultPlayerName,
@@ -304,6 +304,10 @@ TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
         auto& before = left.at(static_cast<std::size_t>(kill % 2));
         if (before) {
             compareResumed(*last, *before);
+        }
+        if (::testing::Test::HasFailure()) {
+            folder.setAutoRemove(false);
+            FAIL() << "what is on the disk stays in " << folder.path().toStdString();
         }
         for (auto more = random() % 12; more > 0 && last; --more) {
             last = player.next();
