@@ -1,9 +1,12 @@
 #include "controller/MenuTable.h"
 #include "controller/Speech.h"
+#include "language/Choice.h"
 #include "progress/Settings.h"
 #include "support/HeadlessPlay.h"
 
+#include <cctype>
 #include <gmock/gmock.h>
+#include <map>
 
 namespace veyrand::controller {
 
@@ -84,6 +87,29 @@ TEST_F(GermanGame, HasTheWordsOfTheWholeMenuInItsFiles)
     for (const MenuItem& item : menuItems()) {
         if (item.kind != MenuItem::Kind::Separator && item.kind != MenuItem::Kind::Hidden) {
             EXPECT_TRUE(texts.isTranslated(std::string("GameMenu.") + item.text)) << item.text;
+        }
+    }
+}
+
+// Alt and one letter open an item, so no two of a menu may have the same.
+TEST_F(GermanGame, OpensTheItemsOfAMenuWithDifferentLetters)
+{
+    for (const language::Name& spoken : language::kLanguages) {
+        choose(std::string(spoken.code));
+        for (const MenuTitle& title : menuTitles()) {
+            std::map<std::string, std::string> taken;
+            for (const MenuItem& item : menuItems()) {
+                const std::string text = game().game().texts().localized("GameMenu", item.text);
+                const std::size_t mark = text.find('&');
+                if (item.menu != title.id || text.empty()) {
+                    continue;
+                }
+                ASSERT_NE(mark, std::string::npos) << text;
+                std::string letter = text.substr(mark + 1, 1);
+                letter[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(letter[0])));
+                EXPECT_TRUE(taken.emplace(letter, text).second)
+                    << spoken.code << ": " << text << ", " << taken[letter];
+            }
         }
     }
 }
