@@ -139,6 +139,7 @@ constexpr std::array kItems {
     setting(MenuItemId::RememberPress, "&Remember a Press", &Settings::rememberPress),
     setting(MenuItemId::ForgivingClicks, "F&orgiving Clicks", &Settings::forgivingClicks),
     setting(MenuItemId::LiftByClick, "&Lift by Click", &Settings::liftByClick),
+    setting(MenuItemId::WoodToTheEdges, "&Wood to the Edges", &Settings::woodToTheEdges),
     separator(MenuId::Options),
     setting(MenuItemId::KeepUnfinishedPuzzles, "&Keep Unfinished Puzzles",
         &Settings::keepUnfinishedPuzzles),
@@ -169,6 +170,9 @@ constexpr std::array kItems {
     page(
         MenuItemId::Scoring, "&Scoring", {},
         [](GameController& game) { game.pages().show("scoringMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::BoardAnswers, "The &Board Answers", {},
+        [](GameController& game) { game.pages().show("boardAnswersMessageWindow"); }, canOpenPage),
     separator(MenuId::Help),
     MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
 };

@@ -28,6 +28,7 @@ enum class MenuItemId {
     RememberPress,
     ForgivingClicks,
     LiftByClick,
+    WoodToTheEdges,
     KeepUnfinishedPuzzles,
     FullScreen,
     Leave,
@@ -35,6 +36,7 @@ enum class MenuItemId {
     Moves,
     TakingBack,
     Scoring,
+    BoardAnswers,
     About,
 };
 

@@ -25,6 +25,7 @@ BoardLayers::BoardLayers(
     , m_contentLayer(scene, { .red = 0.0, .green = 0.0, .blue = 0.0 })
     , m_backgroundLayer(
           m_contentLayer.addSublayer(std::make_unique<ImageLayer>(scene, "WoodBackground")))
+    , m_margins(scene)
     , m_extras(scene)
 {
     m_backgroundLayer.setMasksToBounds(true);
@@ -109,6 +110,7 @@ DisplayList BoardLayers::displayList()
     for (DisplayItem& item : list) {
         item.glow *= static_cast<float>(m_gameData.gameHeight() / kGlowHeight);
     }
+    m_margins.addTo(list, m_contentLayer.rectInRoot(), m_backgroundLayer.rectInRoot());
     m_extras.decorate(list, *this);
     if (m_chips != ChipSet::Pictures) {
         for (DisplayItem& item : list) {

@@ -4,6 +4,7 @@
 #include "present/Extras.h"
 #include "present/GameObjectLayer.h"
 #include "present/TextLayer.h"
+#include "present/WoodenMargins.h"
 
 namespace veyrand::present {
 
@@ -37,6 +38,7 @@ public:
 
     // What the view adds to the board.
     [[nodiscard]] Extras& extras() { return m_extras; }
+    [[nodiscard]] WoodenMargins& margins() { return m_margins; }
 
     // Which drawings of the stones are shown, wherever one is. The records keep the usual names.
     void setChips(ChipSet chips);
@@ -51,6 +53,7 @@ private:
     const platform::TextMetrics& m_metrics;
     SolidLayer m_contentLayer;
     ImageLayer& m_backgroundLayer; // owned by the content layer
+    WoodenMargins m_margins;
     Extras m_extras;
     ChipSet m_chips = ChipSet::Pictures;
 };

@@ -15,8 +15,11 @@ struct SolidContent {
     friend bool operator==(const SolidContent&, const SolidContent&) = default;
 };
 
+enum class Mirror { None, LeftAndRight, TopAndBottom };
+
 struct ImageContent {
     std::string name;
+    Mirror mirror = Mirror::None; // which sides have changed places
     friend bool operator==(const ImageContent&, const ImageContent&) = default;
 };
 

@@ -37,6 +37,27 @@ QPoint wholeCorner(const QRectF& pixels, QSize size)
         static_cast<int>(std::lround(centre.y() - size.height() / 2.0 - kHalfWay)) };
 }
 
+// Paints with the sides changed about the middle of where it is painted.
+template <class Paint>
+void paintMirrored(
+    QPainter& painter, present::Mirror mirror, const QRectF& pixels, const Paint& paint)
+{
+    if (mirror == present::Mirror::None) {
+        paint();
+        return;
+    }
+    const QSize size = wholeSize(pixels);
+    const QPointF middle
+        = QPointF(wholeCorner(pixels, size)) + QPointF(size.width(), size.height()) / 2.0;
+    const bool across = mirror == present::Mirror::LeftAndRight;
+    painter.save();
+    painter.translate(middle);
+    painter.scale(across ? -1.0 : 1.0, across ? 1.0 : -1.0);
+    painter.translate(-middle);
+    paint();
+    painter.restore();
+}
+
 // Clipping to many parts costs more than painting what lies between them.
 QRegion simplified(const QRegion& region)
 {
@@ -78,7 +99,8 @@ void ListPainter::paintItem(
                 static_cast<float>(solid->color.green), static_cast<float>(solid->color.blue),
                 static_cast<float>(solid->color.alpha)));
     } else if (const auto* image = std::get_if<present::ImageContent>(&item.content)) {
-        paintImage(painter, image->name, pixels, item, surface);
+        paintMirrored(painter, image->mirror, pixels,
+            [&] { paintImage(painter, image->name, pixels, item, surface); });
     } else if (const auto* text = std::get_if<present::TextContent>(&item.content)) {
         const int margin = ImageStore::textMargin(pixels.size());
         painter.drawPixmap(pixels.topLeft().toPoint() - QPoint(margin, margin),
