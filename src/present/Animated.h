@@ -57,6 +57,13 @@ public:
             progressOf(m_run->timing, (now - m_run->start) / m_run->duration));
     }
 
+    // How much of the way is done, by its timing; 1 when nothing runs.
+    [[nodiscard]] float progress(double now) const
+    {
+        return isAnimating(now) ? progressOf(m_run->timing, (now - m_run->start) / m_run->duration)
+                                : 1.0F;
+    }
+
     [[nodiscard]] bool isAnimating(double now) const
     {
         return m_run && now < m_run->start + m_run->duration;

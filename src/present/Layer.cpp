@@ -180,6 +180,16 @@ Layer* Layer::hitTest(PointF point)
     return contained ? this : nullptr;
 }
 
+// What shrinks to nothing fades with its size, or it would end as a dot.
+float Layer::vanishing(double now) const
+{
+    const SizeF end = m_bounds.value();
+    const bool vanishes = end.width <= 0.0F && end.height <= 0.0F && m_bounds.isAnimating(now);
+    const float progress = vanishes ? m_bounds.progress(now) : 0.0F;
+    const float left = 1.0F - progress * progress;
+    return left * left;
+}
+
 void Layer::flattenInto(DisplayList& list) const
 {
     Placement root;
@@ -194,7 +204,7 @@ void Layer::flattenInto(DisplayList& list, const Placement& outer) const
 {
     const double now = m_scene.now();
     const float presence = std::min(m_position.presence(now), m_bounds.presence(now));
-    const float opacity = outer.opacity * m_opacity.at(now) * presence;
+    const float opacity = outer.opacity * m_opacity.at(now) * presence * vanishing(now);
     if (m_hidden || opacity <= 0.0F) {
         return;
     }

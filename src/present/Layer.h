@@ -94,6 +94,7 @@ private:
         Motion motion = Motion::Resting;
     };
 
+    [[nodiscard]] float vanishing(double now) const;
     void adopt(std::unique_ptr<Layer> layer);
     [[nodiscard]] std::vector<Layer*> sublayersBackToFront() const;
     void flattenInto(DisplayList& list, const Placement& outer) const;

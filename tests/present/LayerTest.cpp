@@ -155,6 +155,29 @@ TEST_F(LayerTest, TheListShowsAnimationsOnTheirWay)
     EXPECT_EQ(flat().front().motion, Motion::Resting);
 }
 
+TEST_F(LayerTest, WhatShrinksToNothingFadesAndEndsAsNoDot)
+{
+    auto& vanishing = add({ 50.0F, 50.0F }, 20.0F);
+    vanishing.animateBounds({ 20.0F, 20.0F }, {}, 0.5, Timing::Linear);
+    vanishing.setBounds({});
+    EXPECT_EQ(flat().at(0).opacity, 1.0F);
+    wait(0.25);
+    EXPECT_FLOAT_EQ(flat().at(0).opacity, 0.5625F);
+    wait(0.2);
+    EXPECT_LT(flat().at(0).opacity, 0.05F) << "two pixels are left";
+    wait(0.05);
+    EXPECT_TRUE(flat().empty());
+}
+
+TEST_F(LayerTest, WhatOnlyGetsSmallerStaysAsItIs)
+{
+    auto& smaller = add({ 50.0F, 50.0F }, 20.0F);
+    smaller.animateBounds({ 20.0F, 20.0F }, { 10.0F, 10.0F }, 0.5, Timing::Linear);
+    smaller.setBounds({ 10.0F, 10.0F });
+    wait(0.4);
+    EXPECT_EQ(flat().at(0).opacity, 1.0F);
+}
+
 TEST_F(LayerTest, OpacityMultipliesDownTheTree)
 {
     auto& frame = add({ 50.0F, 50.0F }, 20.0F);
