@@ -44,6 +44,7 @@ BoardWidget::BoardWidget(Parts parts, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted: black lies behind everything
     setMinimumSize(480, 300);
+    m_clock.start();
     m_frameTimer.setSingleShot(true);
     m_frameTimer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_frameTimer, &QTimer::timeout, this, [this] { showFrame(); });
@@ -70,12 +71,34 @@ void BoardWidget::scheduleFrame()
 
 void BoardWidget::showFrame()
 {
+    const double shown = seconds();
     update(nextFrame());
-    if (m_parts.layers.scene().isAnimating()) {
+    if (window()->isMinimized()) {
+        m_frameTimer.stop(); // the first picture after it starts it again
+    } else if (m_parts.layers.scene().isAnimating()) {
         constexpr double kMillisecondsPerSecond = 1000.0;
-        const double rate = screen() != nullptr ? screen()->refreshRate() : 60.0;
-        m_frameTimer.start(static_cast<int>(std::floor(kMillisecondsPerSecond / rate)));
+        if (!m_moving) {
+            m_pace.begin(shown);
+        }
+        const double wait = m_pace.untilNext(seconds(), refreshRate());
+        m_frameTimer.start(static_cast<int>(std::lround(wait * kMillisecondsPerSecond)));
     }
+    m_moving = m_frameTimer.isActive();
+}
+
+// Asked for each frame: the window may be on another screen by now, or the screen in another mode.
+double BoardWidget::refreshRate() const
+{
+    if (m_parts.refreshRate) {
+        return m_parts.refreshRate();
+    }
+    return screen() != nullptr ? screen()->refreshRate() : 0.0;
+}
+
+double BoardWidget::seconds() const
+{
+    constexpr double kNanosecondsPerSecond = 1e9;
+    return static_cast<double>(m_clock.nsecsElapsed()) / kNanosecondsPerSecond;
 }
 
 void BoardWidget::showCursor()
@@ -112,6 +135,9 @@ void BoardWidget::paintEvent(QPaintEvent* event)
     painter.setClipRegion(event->region());
     painter.scale(1.0 / devicePixelRatioF(), 1.0 / devicePixelRatioF());
     m_painter.paint(painter, m_shown, surface());
+    if (!m_moving && m_parts.layers.scene().isAnimating()) {
+        scheduleFrame(); // nothing was shown while the window lay in the taskbar
+    }
     if (++m_framesPainted == 1) {
         qCDebug(lcTiming) << "first frame";
     }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "desktop/qt/FramePace.h"
 #include "desktop/qt/ListPainter.h"
 #include "input/Cursor.h"
 #include "input/Touch.h"
 #include "platform/TrackedPointer.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QTouchEvent>
 #include <QWidget>
@@ -35,6 +37,10 @@ public:
         std::function<input::Cursor()> cursor {};
         // A key that no menu has: true if the game has a use for it.
         std::function<bool(const KeyPress&)> key {};
+        // Return or Space: true if they have closed something.
+        std::function<bool()> closePage {};
+        // Frames a second; those of the window's screen when nobody says.
+        std::function<double()> refreshRate {};
     };
     explicit BoardWidget(Parts parts, QWidget* parent = nullptr);
     BoardWidget(const BoardWidget&) = delete;
@@ -69,6 +75,8 @@ protected:
 private:
     void scheduleFrame();
     void showFrame();
+    [[nodiscard]] double seconds() const;
+    [[nodiscard]] double refreshRate() const;
     [[nodiscard]] ListPainter::Surface surface() const;
     [[nodiscard]] platform::Point gamePoint(QPointF position) const;
     [[nodiscard]] input::MouseEvent track(const QMouseEvent& event);
@@ -82,6 +90,9 @@ private:
     input::Touch m_touch;
     present::DisplayList m_shown;
     QTimer m_frameTimer;
+    QElapsedTimer m_clock;
+    FramePace m_pace;
+    bool m_moving = false; // the last frame asked for another
     std::optional<QPointF> m_pointerOnDesktop;
     std::optional<platform::Point> m_dragged; // where the held button was last seen
     input::Cursor m_cursor = input::Cursor::Arrow;
