@@ -71,6 +71,22 @@ public:
         }
     }
 
+    // How long the extras take to lie down among what the layers show, frame by frame.
+    std::vector<double> watchAnswers()
+    {
+        std::vector<double> times;
+        present::BoardLayers& layers = m_game.game().layers();
+        for (int frame = 0; frame < kFrames; ++frame) {
+            m_game.wait(kFrame);
+            present::DisplayList list;
+            layers.contentLayer().flattenInto(list);
+            const double start = processorSeconds();
+            layers.extras().decorate(list, layers);
+            times.push_back((processorSeconds() - start) * 1e3);
+        }
+        return times;
+    }
+
     enum class Painting { Damage, Whole };
     std::vector<double> watch(Painting painting)
     {
@@ -181,6 +197,14 @@ FrameTimes measureScene(const QString& dataFolder, Scene scene, int width, int h
         }
     }
     return times;
+}
+
+double measureAnswers(const QString& dataFolder, int width, int height)
+{
+    Stage stage(dataFolder, width, height);
+    stage.set(Scene::Doubling);
+    stage.play(Scene::Doubling);
+    return FrameTimes::mean(stage.watchAnswers());
 }
 
 } // namespace veyrand::bench

@@ -27,4 +27,8 @@ enum class Scene {
 // Plays the scene in a window whose board has the size, in pixels, a sixtieth of a second a frame.
 FrameTimes measureScene(const QString& dataFolder, Scene scene, int width, int height);
 
+// What answering the pointer adds to a frame of a move to eleven chips, in milliseconds, on the
+// mean.
+double measureAnswers(const QString& dataFolder, int width, int height);
+
 } // namespace veyrand::bench
