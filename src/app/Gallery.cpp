@@ -18,6 +18,12 @@ namespace {
 
 constexpr double kEverythingHasFadedIn = 3.0;
 constexpr double kNextPuzzleHasCome = 9.0;
+constexpr double kLightIsFull = 0.2;
+constexpr double kTipHasCome = 1.0;
+// After the solving move.
+constexpr double kLightIsOnItsWay = 0.8;
+constexpr double kPlateStands = 2.4;
+constexpr double kStonesAreDust = 4.75;
 
 // Where in the Classic game a page is at home, and the chip that is clicked there before it opens.
 struct Scene {
@@ -120,6 +126,9 @@ public:
         m_game.wait(kEverythingHasFadedIn);
         take("board-endless");
         paintHandsOn();
+        paintAnswers();
+        paintRewards();
+        paintEdges();
         return m_complete;
     }
 
@@ -205,7 +214,138 @@ private:
             m_game.wait(kEverythingHasFadedIn);
             take("board-dragging");
             m_game.release(*onto);
+            m_game.wait(kEverythingHasFadedIn);
         }
+    }
+
+    // What the board answers: stones under the pointer, held and lifted, what a delete button would
+    // take away, and every refusal with its reason in words.
+    void paintAnswers()
+    {
+        m_game.menu().trigger(QStringLiteral("Say Why"));
+        m_game.play({ .root = "YRRRGB", .goal = "YB", .par = 3, .level = 5, .stage = 2 });
+        click("chip-0-0");
+        m_game.wait(kEverythingHasFadedIn);
+        pointAt("chip-0-1");
+        m_game.wait(kLightIsFull);
+        take("answer-pointed-at");
+        pressOn("chip-1-1");
+        m_game.wait(kLightIsFull);
+        take("answer-held");
+        m_game.release(*m_game.centreOf("chip-1-1"));
+        m_game.wait(kEverythingHasFadedIn);
+        refuse("chip-1-0", "answer-not-the-last-line");
+        pointAt("delete-1");
+        m_game.wait(kTipHasCome);
+        take("answer-delete");
+        m_game.play({ .root = "YRGRGRGR", .goal = "YB", .par = 3, .level = 5, .stage = 2 });
+        m_game.wait(kEverythingHasFadedIn);
+        refuse("chip-0-0", "answer-line-too-long");
+        pointAt("counter-par");
+        m_game.wait(kTipHasCome);
+        take("answer-tip");
+        pointAt("chip-1-0");
+        m_game.wait(kTipHasCome);
+        take("answer-tip-of-a-chip");
+        fillBoard();
+        refuse("chip-1-11", "answer-board-full");
+        m_game.menu().trigger(QStringLiteral("Say Why"));
+    }
+
+    // Twelve lines of which none is the goal: the thirteenth would have to be.
+    void fillBoard()
+    {
+        struct Gesture {
+            const char* from;
+            const char* to = nullptr; // none: a click
+        };
+        constexpr std::array kGestures {
+            Gesture { "chip-1-0", "chip-3-0" },
+            Gesture { "chip-2-1", "chip-4-1" },
+            Gesture { "chip-3-2", "chip-5-2" },
+            Gesture { "chip-1-3", "chip-2-3" },
+            Gesture { "chip-3-4" },
+            Gesture { "chip-0-5" },
+            Gesture { "chip-4-6" },
+            Gesture { "chip-0-7", "chip-2-7" },
+            Gesture { "chip-2-8", "chip-4-8" },
+            Gesture { "chip-4-9", "chip-6-9" },
+            Gesture { "chip-6-10", "chip-8-10" },
+        };
+        m_game.play({ .root = "YRRRRRRRRRRR", .goal = "YB", .par = 3, .level = 5, .stage = 2 });
+        m_game.wait(kEverythingHasFadedIn);
+        for (const Gesture& gesture : kGestures) {
+            pressOn(gesture.from);
+            if (const auto to
+                = m_game.centreOf(gesture.to != nullptr ? gesture.to : gesture.from)) {
+                m_game.release(*to);
+            }
+            m_game.wait(kEverythingHasFadedIn);
+        }
+    }
+
+    // A puzzle is solved: light runs along the line, a plate says what it brought, the stones
+    // become dust. After the last puzzle of all, stones rise, also when the page has gone.
+    void paintRewards()
+    {
+        m_game.play({ .root = "YR", .goal = "YRG", .par = 2, .level = 5, .stage = 2 });
+        m_game.wait(kEverythingHasFadedIn);
+        click("chip-1-0");
+        m_game.wait(kLightIsOnItsWay);
+        take("reward-light");
+        m_game.wait(kPlateStands - kLightIsOnItsWay);
+        take("reward-plate");
+        m_game.wait(kStonesAreDust - kPlateStands);
+        take("reward-dust");
+        m_game.wait(kNextPuzzleHasCome);
+        m_game.play({ .root = "YR", .goal = "YRG", .par = 2, .level = kLastLevel, .stage = 10 });
+        m_game.wait(kEverythingHasFadedIn);
+        click("chip-1-0");
+        m_game.wait(2 * kNextPuzzleHasCome);
+        take("reward-finale");
+        m_game.controller().closePage();
+        m_game.wait(kEverythingHasFadedIn);
+        take("reward-finale-goes-on");
+        m_game.controller().flow().returnToMenu();
+    }
+
+    // Windows of other shapes, with wood to their edges.
+    void paintEdges()
+    {
+        const QSize usual = m_game.widget().size();
+        m_game.menu().trigger(QStringLiteral("Wood to the Edges"));
+        m_game.play({ .root = "YRRRGB", .goal = "YGRRB", .par = 3, .level = 5, .stage = 2 });
+        m_game.wait(kEverythingHasFadedIn);
+        m_game.resize({ usual.height() * 2, usual.height() });
+        take("edges-wide");
+        m_game.resize({ usual.width(), usual.width() });
+        take("edges-tall");
+        m_game.menu().trigger(QStringLiteral("Wood to the Edges"));
+        m_game.resize(usual);
+    }
+
+    void click(const std::string& key)
+    {
+        if (const auto place = m_game.centreOf(key)) {
+            m_game.click(*place);
+        }
+    }
+
+    void pressOn(const std::string& key)
+    {
+        if (const auto place = m_game.centreOf(key)) {
+            m_game.press(*place);
+        }
+    }
+
+    // At the crest of what the refusal lights up.
+    void refuse(const std::string& key, const std::string& picture)
+    {
+        click(key);
+        constexpr double kCrest = 0.1;
+        m_game.wait(kCrest);
+        take(picture);
+        m_game.wait(kEverythingHasFadedIn);
     }
 
     void pointAt(const char* key)
@@ -237,9 +377,7 @@ private:
         const Scene& scene = found != kScenes.end() ? *found : kUsualScene;
         setTheScene(scene);
         if (scene.click != nullptr) {
-            if (const auto place = m_game.centreOf(scene.click)) {
-                m_game.click(*place);
-            }
+            click(scene.click);
             m_game.wait(kNextPuzzleHasCome);
             m_game.controller().messages().dismiss(); // what the click may have brought
         }

@@ -68,6 +68,7 @@ void Answers::settingsChanged()
     if (!m_settings.answers) {
         m_game.layers.extras().clear();
     }
+    m_game.layers.margins().setOn(m_settings.woodToTheEdges);
     m_game.layers.scene().setNeedsDisplay();
 }
 
@@ -123,6 +124,7 @@ Answers::Situation Answers::situation() const
         now.page = m_controller.messages().page();
         now.words = window->text().size();
     }
+    now.finale = finale();
     const progress::CurrentGame& game = m_game.currentGame;
     now.points = game.endlessGame() ? game.endlessScore() : game.score();
     now.par = game.par();
@@ -135,11 +137,22 @@ void Answers::direct()
     if (now == m_shown) {
         return;
     }
+    // Who has just played looks at the line that comes, not for a word about the old one.
+    if (now.lines != m_shown.lines) {
+        ++m_rests;
+        m_tipIsDue = false;
+        now.tipIsDue = false;
+    }
+    const bool pageIsNew = m_shown.page != now.page;
     m_shown = std::move(now);
+    if (pageIsNew && m_shown.isOn) {
+        m_celebration.pageOpened(m_shown.page);
+    }
     std::vector<Extra> wanted;
     if (m_shown.isOn) {
         addRows(wanted);
         addHands(wanted);
+        addFinale(wanted);
         addPraise(wanted);
     }
     addWords(wanted);

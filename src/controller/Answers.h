@@ -47,6 +47,9 @@ public:
     void clickMissed(const std::string& key) override;
 
 private:
+    // The Classic game is finished: while the page says so, and on the empty board after it.
+    enum class Finale { None, Loud, Quiet };
+
     // What everything that stands follows from. While it is the same, so is the picture.
     struct Situation {
         std::vector<std::string> lines;
@@ -57,6 +60,7 @@ private:
         std::optional<input::Stop> focus;
         std::string celebration;
         std::string page;
+        Finale finale = Finale::None;
         std::size_t words = 0; // lines of the message on show
         std::int64_t points = 0;
         int par = 0;
@@ -72,8 +76,10 @@ private:
     void addRows(std::vector<present::Extra>& wanted) const;
     void addHands(std::vector<present::Extra>& wanted) const;
     void addPraise(std::vector<present::Extra>& wanted) const;
+    void addFinale(std::vector<present::Extra>& wanted) const;
     void addWords(std::vector<present::Extra>& wanted) const;
     void addFocus(std::vector<present::Extra>& wanted) const;
+    [[nodiscard]] Finale finale() const;
     [[nodiscard]] std::string thingUnderPointer() const;
     [[nodiscard]] std::string doomedBy(const std::string& thing) const;
     [[nodiscard]] std::optional<present::ExtraRect> placeOf(const std::string& key) const;

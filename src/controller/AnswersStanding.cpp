@@ -4,6 +4,7 @@
 #include "controller/Legality.h"
 #include "present/CelebrationPictures.h"
 #include "present/ExtraPictures.h"
+#include "present/FinalePictures.h"
 #include "present/FocusPictures.h"
 
 // What stands on the board for as long as the situation is the same.
@@ -83,9 +84,45 @@ void Answers::addPraise(std::vector<Extra>& wanted) const
         }
     }
     if (m_shown.page == "showSuccessMessage") {
+        wanted.push_back(present::rays());
         wanted.push_back(present::medalFor(m_game.currentGame.level() - 1));
-    } else if (m_shown.page == "classicGameFinished") {
+    } else if (opensMove(m_shown.page)) {
+        wanted.push_back(present::rays());
+        wanted.push_back(present::moveSeal());
+    }
+}
+
+// The board is left with its panel and without a puzzle only when none is left.
+Answers::Finale Answers::finale() const
+{
+    if (m_controller.proof() || !m_controller.isPuzzleOnBoard()) {
+        return Finale::None;
+    }
+    return m_controller.messages().page() == "classicGameFinished" ? Finale::Loud : Finale::Quiet;
+}
+
+void Answers::addFinale(std::vector<Extra>& wanted) const
+{
+    if (m_shown.finale == Finale::None) {
+        return;
+    }
+    constexpr unsigned kOneOf = 3; // stones, when it is quiet
+    const bool isLoud = m_shown.finale == Finale::Loud;
+    for (unsigned number = 0; number < present::kRisingStones; ++number) {
+        if (isLoud || number % kOneOf == 0) {
+            wanted.push_back(present::risingStone(number));
+        }
+    }
+    if (isLoud) {
+        wanted.push_back(present::rays());
         wanted.push_back(present::medalFor(present::kMedals));
+        for (int rank = 1; rank < present::kMedals; ++rank) {
+            wanted.push_back(present::achievedMedal(rank));
+        }
+        const std::string words = m_game.texts.text("celebration.finale",
+            { { "puzzles", std::int64_t { present::kRisingStones } },
+                { "points", m_shown.points } });
+        wanted.push_back(present::finaleWords(words, m_game.layers.textMetrics()));
     }
 }
 

@@ -2,7 +2,10 @@
 
 #include "controller/GameController.h"
 #include "present/CelebrationPictures.h"
+#include "present/FinalePictures.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 
 namespace veyrand::controller {
@@ -117,6 +120,17 @@ void Celebration::boardEmpties()
     }
 }
 
+void Celebration::pageOpened(const std::string& page)
+{
+    present::Extras& extras = m_game.layers.extras();
+    if (!opensMove(page) || extras.taste() == present::MotionTaste::Reduced) {
+        return;
+    }
+    for (unsigned grain = 0; grain < present::kSealGrains; ++grain) {
+        extras.start(present::sealDust(grain));
+    }
+}
+
 void Celebration::addTo(std::vector<present::Extra>& wanted) const
 {
     if (!m_headline.empty()) {
@@ -138,6 +152,15 @@ void Celebration::addTo(std::vector<present::Extra>& wanted) const
 std::string Celebration::state() const
 {
     return m_headline.empty() ? std::string() : m_headline + std::to_string(m_shown);
+}
+
+bool opensMove(std::string_view page)
+{
+    // The moves after the first, which is open from the start.
+    constexpr std::array<std::string_view, 6> kPages { "stage3MessageWindow", "stage8MessageWindow",
+        "stage11MessageWindow", "stage21MessageWindow", "stage31MessageWindow",
+        "stage41MessageWindow" };
+    return std::find(kPages.begin(), kPages.end(), page) != kPages.end();
 }
 
 } // namespace veyrand::controller

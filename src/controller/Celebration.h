@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace veyrand::engine {
@@ -28,6 +29,9 @@ public:
     // The stones leave the board now, in one go.
     void boardEmpties();
 
+    // Another page has opened, or none is left.
+    void pageOpened(const std::string& page);
+
     // What stands of it, and what that follows from.
     void addTo(std::vector<present::Extra>& wanted) const;
     [[nodiscard]] std::string state() const;
@@ -50,5 +54,8 @@ private:
     std::string m_headline; // empty while no plate is shown
     std::string m_hints; // what they cost, if anything
 };
+
+// Whether the page tells of a move that it opens.
+[[nodiscard]] bool opensMove(std::string_view page);
 
 } // namespace veyrand::controller

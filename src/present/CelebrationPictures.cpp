@@ -20,7 +20,7 @@ constexpr double kHeadlineEm = 0.060;
 constexpr double kHeadlineUp = 0.024;
 constexpr double kBelowEm = 0.032;
 constexpr double kBelowDown = 0.040;
-constexpr double kHighestPlate = 0.72; // where it goes when the line stands in its place
+constexpr double kHighestPlate = 0.72; // over the first lines, when the last ones fill the board
 constexpr board::Color kEngraved { .red = 0.231, .green = 0.133, .blue = 0.063, .alpha = 1.0 };
 
 // Heading plates are drawn in steps of width, in thousandths of the game's height.
@@ -40,12 +40,6 @@ ExtraPiece words(const std::string& text, double x, double y, double em, double 
         = { .x = x, .y = y, .width = size.width * fitting, .height = size.height * fitting } };
 }
 
-std::string nameOfStone(char letter)
-{
-    const std::string image(board::imageForLetter(letter));
-    return image.substr(0, image.size() - std::string_view("Chip").size());
-}
-
 double turnOf(unsigned column)
 {
     return kDustColumn * static_cast<double>(column);
@@ -53,9 +47,15 @@ double turnOf(unsigned column)
 
 } // namespace
 
+std::string dustNameOf(const std::string& stone)
+{
+    return stone.substr(0, stone.size() - std::string_view("Chip").size()) + "Dust";
+}
+
 Extra litLine(unsigned row, unsigned length)
 {
-    const double reach = 0.03; // beyond the outer stones
+    // Beyond the outer stones; the light is soft over a share of its length.
+    const double reach = 0.03 + 0.006 * length;
     const double width = board::kChipSize * length + 2.0 * reach;
     const ExtraRect rect { .x
         = board::xPositionForColumn(0) - board::kChipSize / 2.0 - reach + width / 2.0,
@@ -92,9 +92,10 @@ Extra runningLight(unsigned row, unsigned length)
 Extra brassPlate(unsigned row, const std::string& headline, const std::string& below,
     const platform::TextMetrics& metrics)
 {
-    const double apart = kPlateHeight / 2.0 + board::kChipSize;
-    const bool inTheWay = std::abs(board::yPositionForRow(row) - kPlateY) < apart;
-    const double y = inTheWay ? kHighestPlate : kPlateY;
+    const double line = board::yPositionForRow(row);
+    const double goal = board::yPositionForRow(board::kGoalRow);
+    const bool hasRoomBelow = line - goal > kPlateHeight + 2.0 * board::kChipSize;
+    const double y = hasRoomBelow ? std::min(kPlateY, (line + goal) / 2.0) : kHighestPlate;
     const ExtraRect body { .x = kPlateX, .y = y, .width = kPlateWidth, .height = kPlateHeight };
     const double room = kPlateWidth - 0.09;
     return { .kind = ExtraKind::Plate,
@@ -136,7 +137,9 @@ Extra dustOf(char letter, unsigned column, unsigned row)
         .key = board::generateKeyChipKey(column, row),
         .text = {},
         .rect = rect,
-        .pieces = { { .content = ImageContent { nameOfStone(letter) + "Dust" }, .rect = rect } },
+        .pieces
+        = { { .content = ImageContent { dustNameOf(std::string(board::imageForLetter(letter))) },
+            .rect = rect } },
         .fade = { .in = 0.05, .out = kDust * 0.7 },
         .motion = ExtraMotion::Burst,
         .duration = kDust,
@@ -186,7 +189,7 @@ std::vector<std::string> celebrationPictureNames()
 {
     std::vector<std::string> names { "LineGlow", "Spark", "BrassPlate" };
     for (const char letter : { 'Y', 'R', 'G', 'B' }) {
-        names.push_back(nameOfStone(letter) + "Dust");
+        names.push_back(dustNameOf(std::string(board::imageForLetter(letter))));
     }
     for (int width = kHeadingNarrowest; width <= kHeadingWidest; width += kHeadingStep) {
         names.push_back("HeadingPlate-" + std::to_string(width));

@@ -17,6 +17,8 @@ namespace veyrand::present {
     const platform::TextMetrics& metrics);
 // A stone of the board that is gone already: it stays until its turn comes, then it is dust.
 [[nodiscard]] Extra vanishingStone(char letter, unsigned column, unsigned row);
+// The name of the dust that a stone's picture becomes.
+[[nodiscard]] std::string dustNameOf(const std::string& stone);
 [[nodiscard]] Extra dustOf(char letter, unsigned column, unsigned row);
 
 // What lies behind a coloured heading of a page, and the medal over it.

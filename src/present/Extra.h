@@ -52,7 +52,8 @@ enum class ExtraMotion {
     Flash, // lights up once
     Travel, // goes the whole way, slowly at both ends
     Rise, // comes from where its way begins, and stays where it ends
-    Burst // goes its way while it grows and fades
+    Burst, // goes its way while it grows and fades
+    Recur // goes its way, and then again, for as long as it is wanted
 };
 
 // One thing the view adds to the board. It is known by its slot: what is wanted under the slot of
@@ -69,10 +70,12 @@ struct Extra {
     ExtraFade fade {};
     ExtraMotion motion = ExtraMotion::Still;
     double duration = 0.0; // s, from its delay on; 0 for what stays until it is no longer wanted
-    double delay = 0.0; // s, before what ends by itself begins
+    double delay = 0.0; // s, before it begins
     double wayX = 0.0; // of the motion, or of its coming, in game heights
     double wayY = 0.0;
     double growth = 1.0; // to how much of its size a burst grows
+    double period = 0.0; // s, for once along the way of what recurs
+    double phase = 0.0; // of a period: how much later it sets out the first time
     bool isCompanion = false; // of another, and not worth a word of its own
     friend bool operator==(const Extra&, const Extra&) = default;
 };

@@ -61,10 +61,25 @@ ExtraPose moving(const Extra& extra, double elapsed, double fraction)
     return pose;
 }
 
+// It sets out late, or stands for good where it would have set out from in time.
+ExtraPose recurring(const Extra& extra, double elapsed, MotionTaste taste)
+{
+    const bool moves = taste == MotionTaste::Full;
+    const double rounds = moves ? elapsed / extra.period - extra.phase : 1.0 - extra.phase;
+    if (rounds < 0.0) {
+        return { .opacity = 0.0 };
+    }
+    const double way = rounds - std::floor(rounds);
+    return { .x = extra.wayX * way, .y = extra.wayY * way };
+}
+
 } // namespace
 
 ExtraPose poseOf(const Extra& extra, double elapsed, MotionTaste taste)
 {
+    if (extra.motion == ExtraMotion::Recur) {
+        return recurring(extra, elapsed, taste);
+    }
     const double fraction = std::clamp(elapsed / extra.duration, 0.0, 1.0);
     switch (extra.motion) {
     case ExtraMotion::Swing:

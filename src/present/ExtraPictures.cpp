@@ -3,6 +3,7 @@
 #include "board/BoardGeometry.h"
 #include "present/CelebrationPictures.h"
 #include "present/ExtraWords.h"
+#include "present/FinalePictures.h"
 #include "present/FocusPictures.h"
 
 #include <array>
@@ -226,8 +227,8 @@ std::vector<std::string> extraPictureNames()
 {
     std::vector<std::string> names { "RowLight", "RowFlash", "Halo", "Shine", "Ring", "LimitEdge",
         "LimitRing", "LimitRow" };
-    for (const auto& others :
-        { wordPictureNames(), celebrationPictureNames(), focusPictureNames() }) {
+    for (const auto& others : { wordPictureNames(), celebrationPictureNames(), finalePictureNames(),
+             focusPictureNames() }) {
         names.insert(names.end(), others.begin(), others.end());
     }
     return names;

@@ -54,6 +54,8 @@ inline constexpr double kDustBegins = 0.2;
 inline constexpr double kDustSize = 0.10;
 inline constexpr ExtraFade kMedalFade { .in = 0.25, .out = 0.0, .travel = 0.5 };
 inline constexpr double kMedalDrops = 0.040;
+inline constexpr double kMedalAfterMedal = 0.12;
+inline constexpr double kSealDust = 0.07;
 
 // Words.
 inline constexpr double kTipAfter = 0.5;

@@ -68,14 +68,18 @@ ExtraPiece plate(const std::string& name, const ExtraRect& body, double size)
             .height = body.height + 2.0 * kShadowRoom * size } };
 }
 
-enum class Side { Right, Above, Below };
+enum class Side { Left, Right, Above, Below };
 
-// Things of the panel are explained to their right, all others below or above them: beside a stone
-// lie others, and beside a medal lies its button.
+// Things of the panel are explained to their right, the delete buttons to their left, where no
+// stone lies, all others below or above them: beside a stone lie others, and beside a medal lies
+// its button.
 Side sideFor(const ExtraRect& thing)
 {
     if (thing.x < 0.62) {
         return Side::Right;
+    }
+    if (thing.x < 0.67) {
+        return Side::Left;
     }
     return thing.y > 0.5 ? Side::Below : Side::Above;
 }
@@ -87,8 +91,12 @@ struct Layout {
 
 Layout layOut(const ExtraRect& thing, double width, double height, double size)
 {
-    const Side side = sideFor(thing);
-    const bool beside = side == Side::Right;
+    Side side = sideFor(thing);
+    const double roomOnTheLeft = thing.x - thing.width / 2.0 - kTipGap * size - kBoardMargin;
+    if (side == Side::Left && width > roomOnTheLeft) {
+        side = thing.y > 0.5 ? Side::Below : Side::Above; // large letters
+    }
+    const bool beside = side == Side::Right || side == Side::Left;
     const double away
         = kTipGap * size + (beside ? thing.width + width : thing.height + height) / 2.0;
     const double sign = side == Side::Right || side == Side::Above ? 1.0 : -1.0;
@@ -101,6 +109,7 @@ Layout layOut(const ExtraRect& thing, double width, double height, double size)
                         .height = height },
         .nose = {} };
     const char* const name = side == Side::Right ? "TipNoseLeft"
+        : side == Side::Left                     ? "TipNoseRight"
         : side == Side::Above                    ? "TipNoseDown"
                                                  : "TipNoseUp";
     const double toNose = (beside ? width : height) / 2.0 + (kNoseLength / 2.0 - 0.0045) * size;
@@ -258,7 +267,7 @@ Extra whisper(const std::string& text, const platform::TextMetrics& metrics, dou
 
 std::vector<std::string> wordPictureNames()
 {
-    std::vector<std::string> names { "TipNoseUp", "TipNoseDown", "TipNoseLeft" };
+    std::vector<std::string> names { "TipNoseUp", "TipNoseRight", "TipNoseDown", "TipNoseLeft" };
     for (int width = kTipNarrowest; width <= kTipWidest; width += kTipStep) {
         for (std::size_t lines = 1; lines <= kTipHeights.size(); ++lines) {
             names.push_back("TipPlate-" + std::to_string(width) + '-' + std::to_string(lines));

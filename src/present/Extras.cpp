@@ -16,6 +16,9 @@ namespace {
 // The drag image and messages lie at this height and above it, the board below.
 constexpr std::int64_t kAboveTheBoard = 10;
 
+constexpr double kQuickFade = 0.1; // s
+constexpr float kSeenAtOnce = 0.35F;
+
 std::string slotOf(const Extra& extra)
 {
     return extra.slot.empty() ? std::string(nameOf(extra.kind)) + ' ' + extra.key : extra.slot;
@@ -140,10 +143,13 @@ void Extras::enter(const Extra& extra)
     }
     entry.share.set(1.0F);
     if (extra.duration <= 0.0 && extra.fade.in > 0.0) {
-        entry.share.animate(0.0F, 1.0F, m_scene.now(), extra.fade.in, Timing::EaseOut);
-        m_scene.animationStarted(extra.fade.in);
+        // What answers a hand is seen in the first frame already, not in the second.
+        const float first = extra.fade.in < kQuickFade ? kSeenAtOnce : 0.0F;
+        entry.share.animate(first, 1.0F, entry.start, extra.fade.in, Timing::EaseOut);
+        m_scene.animationStarted(extra.delay + extra.fade.in);
     }
-    const bool comesFromAfar = extra.wayX != 0.0 || extra.wayY != 0.0;
+    const bool comesFromAfar
+        = extra.motion != ExtraMotion::Recur && (extra.wayX != 0.0 || extra.wayY != 0.0);
     if (extra.duration <= 0.0 && comesFromAfar && taste() == MotionTaste::Full) {
         entry.offset.animate(
             point(-extra.wayX, -extra.wayY), {}, m_scene.now(), extra.fade.travel, Timing::EaseOut);
@@ -193,10 +199,28 @@ void Extras::forgetWhatHasEnded()
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), ended), m_entries.end());
 }
 
+// What recurs has no end that could be told beforehand: every picture asks for another.
+void Extras::goOn()
+{
+    constexpr double kUntilTheNext = 0.25; // s, longer than any frame
+    const bool recurs = std::any_of(m_entries.begin(), m_entries.end(),
+        [](const Entry& entry) { return entry.extra.motion == ExtraMotion::Recur; });
+    if (recurs && taste() == MotionTaste::Full) {
+        m_scene.animationStarted(kUntilTheNext);
+    }
+}
+
 Extras::Moment Extras::momentOf(const Entry& entry) const
 {
     const double now = m_scene.now();
     const Extra& extra = entry.extra;
+    if (extra.motion == ExtraMotion::Recur) {
+        const ExtraPose pose = poseOf(extra, now - entry.start, taste());
+        return { .opacity = pose.opacity * static_cast<double>(entry.share.at(now)),
+            .x = pose.x,
+            .y = pose.y,
+            .motion = taste() == MotionTaste::Full ? Motion::Moving : Motion::Resting };
+    }
     if (extra.duration <= 0.0) {
         const platform::PointF offset = entry.offset.at(now);
         const bool moving = entry.offset.isAnimating(now) || entry.share.isAnimating(now);
@@ -292,6 +316,7 @@ void Extras::decorate(DisplayList& list, const BoardLayers& layers)
     if (m_entries.empty()) {
         return;
     }
+    goOn();
     const View view { layers.backgroundLayer().rectInRoot() };
     const Touches touches = touchesNow();
     std::unordered_map<std::uint64_t, Touched> touchedLayers;

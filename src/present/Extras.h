@@ -75,6 +75,7 @@ private:
     void replace(Entry& entry, const Extra& extra);
     void leave(Entry& entry);
     void forgetWhatHasEnded();
+    void goOn();
     [[nodiscard]] Moment momentOf(const Entry& entry) const;
     [[nodiscard]] Touches touchesNow() const;
     [[nodiscard]] DisplayList itemsOf(ExtraBand band, const View& view) const;

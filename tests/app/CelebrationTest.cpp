@@ -1,3 +1,4 @@
+#include "present/FinalePictures.h"
 #include "progress/PlayerKeys.h"
 #include "progress/Settings.h"
 #include "support/PlayedGame.h"
@@ -32,6 +33,22 @@ protected:
             }
         }
         return texts;
+    }
+    [[nodiscard]] std::vector<std::string> keysOf(present::ExtraKind kind)
+    {
+        std::vector<std::string> keys;
+        for (const auto& shown : game().game().layers().extras().shown()) {
+            if (shown.kind == kind) {
+                keys.push_back(shown.key);
+            }
+        }
+        return keys;
+    }
+    void finishTheGame()
+    {
+        play(at(11, 10, "YR", "YRG"));
+        click("chip-1-0");
+        wait(20.0);
     }
 };
 
@@ -76,15 +93,66 @@ TEST_F(CelebrationTest, ARankHasItsMedalAndColouredHeadingsLieOnPlates)
     play(at(4, 1, "YR", "YB"));
     game().controller().pages().show("showSuccessMessage");
     wait(1.0);
-    std::vector<std::string> keys;
-    for (const auto& shown : game().game().layers().extras().shown()) {
-        if (shown.kind == present::ExtraKind::Plate) {
-            keys.push_back(shown.key);
-        }
-    }
-    EXPECT_THAT(keys, ElementsAre("fullScreen-0", "fullScreen-2", "medal"));
+    EXPECT_THAT(
+        keysOf(present::ExtraKind::Plate), ElementsAre("fullScreen-0", "fullScreen-2", "medal"));
     game().key("Space");
     EXPECT_THAT(plates(), IsEmpty());
+}
+
+TEST_F(CelebrationTest, AMoveThatOpensHasItsSealAndDust)
+{
+    play(at(3, 1, "YR", "YB"));
+    game().controller().pages().show("stage21MessageWindow");
+    wait(0.5);
+    EXPECT_THAT(keysOf(present::ExtraKind::Plate), ElementsAre("seal"));
+    EXPECT_THAT(keysOf(present::ExtraKind::Dust), ::testing::SizeIs(present::kSealGrains));
+    wait(1.5);
+    EXPECT_THAT(keysOf(present::ExtraKind::Dust), IsEmpty());
+    EXPECT_THAT(keysOf(present::ExtraKind::Plate), ElementsAre("seal"));
+    game().key("Space");
+    EXPECT_THAT(keysOf(present::ExtraKind::Plate), IsEmpty());
+    game().controller().pages().show("stage9MessageWindow");
+    EXPECT_THAT(keysOf(present::ExtraKind::Plate), IsEmpty()) << "tells of no new move";
+}
+
+TEST_F(CelebrationTest, TheLastPuzzleEndsInAFinaleThatGoesOnUntilTheMenu)
+{
+    finishTheGame();
+    EXPECT_EQ(game().controller().messages().page(), "classicGameFinished");
+    EXPECT_THAT(keysOf(present::ExtraKind::Dust), ::testing::SizeIs(present::kRisingStones));
+    EXPECT_THAT(keysOf(present::ExtraKind::Plate), Contains("medal-10"));
+    EXPECT_THAT(plates(), Contains("110 puzzles, 150 points"));
+    game().key("Space");
+    const auto quiet = keysOf(present::ExtraKind::Dust);
+    EXPECT_THAT(quiet, Not(IsEmpty()));
+    EXPECT_LT(quiet.size(), present::kRisingStones / 2);
+    EXPECT_THAT(keysOf(present::ExtraKind::Plate), IsEmpty());
+    const auto before = table().keys();
+    for (int minute = 0; minute < 3; ++minute) {
+        wait(60.0);
+        const QImage one = game().picture();
+        wait(0.05);
+        EXPECT_NE(game().picture(), one) << "it moves on";
+    }
+    EXPECT_EQ(table().keys(), before) << "and nothing else happens by itself";
+    EXPECT_EQ(keysOf(present::ExtraKind::Dust), quiet);
+    click("button-menubuttonon");
+    wait(2.0);
+    EXPECT_THAT(keysOf(present::ExtraKind::Dust), IsEmpty());
+    EXPECT_FALSE(game().game().layers().scene().isAnimating());
+}
+
+TEST_F(CelebrationTest, TheFinaleStandsStillWhereMotionIsReduced)
+{
+    game().preferences().setRecord(
+        progress::kSettingsKey, { { "ReducedMotion", std::string("on") } });
+    game().controller().settingsChanged();
+    finishTheGame();
+    EXPECT_THAT(keysOf(present::ExtraKind::Dust), ::testing::SizeIs(present::kRisingStones));
+    const QImage one = game().picture();
+    wait(1.0);
+    EXPECT_EQ(game().picture(), one);
+    EXPECT_FALSE(game().game().layers().scene().isAnimating()) << "and costs nothing";
 }
 
 TEST_F(CelebrationTest, KeysCloseAPageButNotInItsFirstSecond)

@@ -264,6 +264,12 @@ TEST_F(Contrast, TipsWhispersAndThePlateOfASolvedPuzzleCanBeRead)
     click("chip-1-0");
     wait(2.5);
     measureEverything("plate");
+    wait(8.0); // no press counts before
+    play({ .root = "YR", .goal = "YRG", .par = 2, .level = 11, .stage = 10 });
+    click("chip-1-0");
+    wait(20.0);
+    ASSERT_EQ(game().controller().messages().page(), "classicGameFinished");
+    measureEverything("finale");
     showSmallest("answers");
 }
 

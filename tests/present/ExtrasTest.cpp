@@ -87,6 +87,15 @@ TEST_F(ExtrasTest, WhatIsWantedComesAndWhatIsNotGoesSoftly)
     EXPECT_THAT(pictures(), ElementsAre("WoodBackground", "RedChip"));
 }
 
+TEST_F(ExtrasTest, WhatAnswersAHandIsSeenInTheFirstFrame)
+{
+    extras().want({ heldDown("chip-0-0", stone()), lightUnder("delete-1", stone()) });
+    for (const auto& shown : extras().shown()) {
+        EXPECT_GT(shown.opacity, 0.3) << shown.key;
+    }
+    EXPECT_LT(itemOf("RedChip").rect.width, 0.075F * 900.0F);
+}
+
 TEST_F(ExtrasTest, LightLiesOnTheWoodRingsBeforeTheStonesAndBothBehindMessages)
 {
     add("fullScreen", 0.8, 0.5);
@@ -180,6 +189,7 @@ TEST_F(ExtrasTest, ATipLiesBesideWhatItExplainsAndOnTheBoard)
 {
     const test::SquareLetters metrics;
     for (const auto& thing : { placeOfChip(0, 0), placeOfChip(11, 3), placeOfChip(5, 11),
+             ExtraRect { .x = 0.645, .y = 0.5, .width = 0.0495, .height = 0.0495 },
              ExtraRect { .x = 0.3, .y = 0.4, .width = 0.05, .height = 0.06 },
              ExtraRect { .x = 1.4, .y = 0.5, .width = 0.15, .height = 0.15 } }) {
         for (const double size : { 1.0, 1.5, 2.0 }) {
@@ -256,6 +266,14 @@ TEST_F(ExtrasTest, ALargeWhisperStaysInThePanelWithEveryWord)
         EXPECT_GT(large.rect.y - large.rect.height / 2.0, 0.0);
         EXPECT_LT(large.rect.y + large.rect.height / 2.0, 0.26);
     }
+}
+
+TEST_F(ExtrasTest, TheTipOfADeleteButtonLiesOverNoStone)
+{
+    const test::SquareLetters metrics;
+    const ExtraRect button { .x = 0.645, .y = 0.875, .width = 0.0495, .height = 0.0495 };
+    const Extra tip = tipFor("delete-1", button, "takes 2 lines back", metrics);
+    EXPECT_LT(tip.rect.x + tip.rect.width / 2.0, button.x - button.width / 2.0);
 }
 
 } // namespace veyrand::present

@@ -62,7 +62,7 @@ def shine():
     size = .075 * UNITS_PER_HEIGHT
     drawing = Drawing(size, size)
     drawing.circle(size / 2, size / 2, size * .42, fill=drawing.radial(
-        size / 2, size * .62, size * .55, [(0, '#FFF3CC', .26), (.7, '#FFF3CC', .13), (1, '#FFF8E6', .05)]))
+        size / 2, size * .62, size * .55, [(0, '#FFF3CC', .2), (.7, '#FFF3CC', .08), (1, '#FFF8E6', .03)]))
     return drawing
 
 
@@ -210,18 +210,17 @@ def brass_plate():
 # --- a puzzle is solved
 
 def line_glow():
-    """A band of light behind a line; as long as the line, so its ends are soft over a fixed share."""
+    """A band of light behind a line; as long as the line, and soft on all sides."""
     width, height = .8 * UNITS_PER_HEIGHT, .11 * UNITS_PER_HEIGHT
     drawing = Drawing(width, height)
-    for step in range(16):
-        inset = 1 + step * 4.2
-        w, h = width - 2 * inset, height - 2 * inset
-        round_x, round_y = min(w * .04, 60), h * .3
-        drawing.path('M%s %sH%sA%s %s 0 0 1 %s %sV%sA%s %s 0 0 1 %s %sH%sA%s %s 0 0 1 %s %sV%sA%s %s 0 0 1 %s %sZ' % numbers(
-            inset + round_x, inset, inset + w - round_x, round_x, round_y, inset + w, inset + round_y,
-            inset + h - round_y, round_x, round_y, inset + w - round_x, inset + h, inset + round_x,
-            round_x, round_y, inset, inset + h - round_y, inset + round_y, round_x, round_y, inset + round_x, inset),
-            fill='#FFD27A' if step < 9 else '#FFE9A8', opacity=.022 + .0022 * step)
+    count = 44
+    for i in range(count):
+        away = abs((i + .5) / count * 2 - 1)
+        strength = .46 * (1 - away ** 2) ** 2
+        y = height * i / count
+        drawing.path(_box(0, y, width, height / count), fill=drawing.linear(0, 0, width, 0, [
+            (0, '#FFD27A', 0), (.05, '#FFD27A', strength * .22), (.12, '#FFDB90', strength * .8), (.2, '#FFE3A0', strength),
+            (.8, '#FFE3A0', strength), (.88, '#FFDB90', strength * .8), (.95, '#FFD27A', strength * .22), (1, '#FFD27A', 0)]))
     return drawing
 
 
@@ -278,8 +277,13 @@ def _star(points, outer, inner):
     return data + 'Z'
 
 
+_CROWN = 'M-62 30L-70 -34L-36 -6L0 -62L36 -6L70 -34L62 30Z'
+
+
 def medal(rank):
-    """Each rank's own: its star has a ray more than the one before, its metal shows how far one has come."""
+    """Each rank's own: its star has a ray more than the one before, its metal shows how far one has come.
+
+    The last has a crown."""
     drawing = Drawing(620, 420)
     c, cy = 310, 190
     metal = 'bronze' if rank <= 4 else 'silver' if rank <= 8 else 'gold'
@@ -299,13 +303,75 @@ def medal(rank):
     drawing.circle(c, cy, 128, fill=drawing.linear(c + 100, cy + 100, c - 100, cy - 100, _METALS[metal]))
     drawing.circle(c, cy, 114, fill='#0A1216')
     drawing.circle(c, cy, 110, fill=drawing.radial(c, cy, 112, _GLASSES[metal], (c + 10, cy + 20)))
-    star = _star(rank + 3, 78, 26 + 2.2 * rank)
-    drawing.path(star, fill='#000000', opacity=.45, at=(c + 3, cy + 5))
-    drawing.path(star, fill='#FFF8E6', at=(c, cy))
-    drawing.circle(c, cy, 13, fill=_GLASSES[metal][1][1])
+    if rank == MEDALS:
+        for at, fill, opacity in ((5, '#000000', .45), (0, '#FFF8E6', 1)):
+            drawing.path(_CROWN, fill=fill, opacity=opacity, at=(c + at * .6, cy + at))
+            drawing.path(_box(-62, 40, 124, 16), fill=fill, opacity=opacity, at=(c + at * .6, cy + at))
+    else:
+        star = _star(rank + 3, 78, 26 + 2.2 * rank)
+        drawing.path(star, fill='#000000', opacity=.45, at=(c + 3, cy + 5))
+        drawing.path(star, fill='#FFF8E6', at=(c, cy))
+        drawing.circle(c, cy, 13, fill=_GLASSES[metal][1][1])
     drawing.path('M%s %sA100 100 0 0 1 %s %sC%s %s %s %s %s %sZ' % numbers(
         c - 92, cy + 20, c + 60, cy - 80, c + 8, cy - 72, c - 62, cy - 42, c - 92, cy + 20),
         fill=drawing.linear(c - 80, cy - 80, c, cy, [(0, SHINE, .45), (1, SHINE, .02)]))
+    return drawing
+
+
+# --- great moments
+
+def rays():
+    """Light that fans out from behind the crest of a page."""
+    size = UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    c = size / 2
+    light = drawing.radial(c, c, c, [(0, WARM_LIGHT, .62), (.3, WARM_LIGHT, .30), (.65, WARM_LIGHT, .09), (1, WARM_LIGHT, 0)])
+    count = 14
+    for i in range(count):
+        angle = 2 * math.pi * (i + .18) / count
+        half = math.pi / count * (.52 if i % 2 else .34)
+        drawing.path('M%s %sL%s %sL%s %sZ' % numbers(
+            c, c, c + 1.2 * c * math.sin(angle - half), c - 1.2 * c * math.cos(angle - half),
+            c + 1.2 * c * math.sin(angle + half), c - 1.2 * c * math.cos(angle + half)), fill=light)
+    drawing.circle(c, c, c * .42, fill=drawing.radial(
+        c, c, c * .42, [(0, '#FFF3CC', .55), (.5, WARM_LIGHT, .2), (1, WARM_LIGHT, 0)]))
+    return drawing
+
+
+def trail():
+    """Behind a stone that rises; as long as it likes, for it is stretched."""
+    width, height = 33, 145
+    drawing = Drawing(width, height)
+    drawing.path('M0 0H%sL%s %sH%sZ' % numbers(width, width * .56, height, width * .44), fill=drawing.linear(
+        0, 0, 0, height, [(0, '#FFF3CC', .34), (.5, '#FFF3CC', .14), (1, '#FFF3CC', 0)]))
+    return drawing
+
+
+def move_seal():
+    """A new move is open: one stone becomes another."""
+    size = .19 * UNITS_PER_HEIGHT
+    drawing = Drawing(size, size)
+    c = size / 2
+    for radius, opacity in ((172, .07), (165, .10), (158, .16)):
+        drawing.circle(c + 1, c + 8, radius, fill=SHADOW, opacity=opacity)
+    coin = _star(16, 162, 146)
+    drawing.path(coin, fill=BRASS_EDGE, stroke=BRASS_EDGE, width=6, at=(c, c))
+    drawing.path(coin, fill=drawing.linear(-120, -120, 120, 130, BRASS), at=(c, c))
+    drawing.circle(c, c, 128, fill=drawing.linear(c + 100, c + 100, c - 100, c - 100, BRASS))
+    drawing.circle(c, c, 114, fill='#0A1216')
+    drawing.circle(c, c, 110, fill=drawing.radial(c, c, 112, _GLASSES['bronze'], (c + 10, c + 20)))
+    for side, stone in ((-1, 'Red'), (1, 'Green')):
+        x = c + side * 62
+        drawing.circle(x + 2, c + 5, 36, fill='#000000', opacity=.4)
+        drawing.circle(x, c, 36, fill=drawing.linear(x - 26, c - 26, x + 26, c + 26, BRASS))
+        drawing.circle(x, c, 29, fill=drawing.radial(
+            x, c, 30, [(0, CHIP[stone]['light']), (.6, CHIP[stone]['face']), (1, CHIP[stone]['deep'])]))
+    arrow = 'M-24 -8H2V-24L28 0L2 24V8H-24Z'
+    drawing.path(arrow, fill='#000000', opacity=.45, at=(c + 2, c + 4))
+    drawing.path(arrow, fill='#FFF8E6', at=(c, c))
+    drawing.path('M%s %sA100 100 0 0 1 %s %sC%s %s %s %s %s %sZ' % numbers(
+        c - 92, c + 20, c + 60, c - 80, c + 8, c - 72, c - 62, c - 42, c - 92, c + 20),
+        fill=drawing.linear(c - 80, c - 80, c, c, [(0, SHINE, .4), (1, SHINE, .02)]))
     return drawing
 
 
@@ -314,14 +380,14 @@ def pictures():
     known = {
         'RowLight': row_light, 'RowFlash': row_flash, 'Ring': ring, 'Halo': halo, 'Shine': shine, 'LimitEdge': limit_edge,
         'LimitRing': limit_ring, 'LimitRow': limit_row, 'BrassPlate': brass_plate, 'LineGlow': line_glow,
-        'Spark': spark,
+        'Spark': spark, 'Rays': rays, 'Trail': trail, 'MoveSeal': move_seal,
         'FocusStone': lambda: focus_round(83), 'FocusDelete': lambda: focus_round(58),
         'FocusPanel': lambda: focus_plate(322, 160, 21), 'FocusTitle': lambda: focus_plate(582, 262, 26),
         'FocusAnswer': lambda: focus_plate(862, 254, 26),
         'FocusHarder': lambda: focus_plate(418, 196, 21, bottom=0),
         'FocusEasier': lambda: focus_plate(418, 196, 21, top=0),
     }
-    for turn, name in ((0, 'Up'), (2, 'Down'), (3, 'Left')):
+    for turn, name in ((0, 'Up'), (1, 'Right'), (2, 'Down'), (3, 'Left')):
         known['TipNose' + name] = lambda turn=turn: tip_nose(turn)
     for width in TIP_WIDTHS:
         for lines in TIP_HEIGHTS:

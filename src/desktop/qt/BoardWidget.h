@@ -37,8 +37,6 @@ public:
         std::function<input::Cursor()> cursor {};
         // A key that no menu has: true if the game has a use for it.
         std::function<bool(const KeyPress&)> key {};
-        // Return or Space: true if they have closed something.
-        std::function<bool()> closePage {};
         // Frames a second; those of the window's screen when nobody says.
         std::function<double()> refreshRate {};
     };

@@ -9,6 +9,7 @@
 #include "platform/MemoryPreferences.h"
 #include "platform/fakes/FixedScreen.h"
 #include "platform/fakes/MemoryWindow.h"
+#include "platform/fakes/NotedAlerts.h"
 #include "platform/fakes/NotedLog.h"
 #include "platform/fakes/NotedOverlay.h"
 #include "platform/fakes/NotedQuit.h"
@@ -54,7 +55,8 @@ public:
                      .log = m_log,
                      .quit = m_quit,
                      .overlay = m_overlay,
-                     .window = m_window },
+                     .window = m_window,
+                     .alerts = m_alerts },
               m_currentGame, m_gameData)
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -151,6 +153,7 @@ private:
     desktop::qt::FileResources m_resources;
     platform::FixedScreen m_screen { { .width = kWidth, .height = kHeight } };
     platform::NotedLog m_log;
+    platform::NotedAlerts m_alerts;
     platform::NotedQuit m_quit;
     platform::NotedOverlay m_overlay;
     platform::MemoryWindow m_window;
