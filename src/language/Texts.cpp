@@ -4,9 +4,6 @@
 #include "language/Marks.h"
 #include "language/Pseudo.h"
 
-#include <unicode/numfmt.h>
-#include <unicode/plurrule.h>
-
 #include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
@@ -100,57 +97,11 @@ void checkValues(const std::vector<std::string>& names, const std::vector<std::s
 
 } // namespace
 
-// Made at the first number: a launch needs none.
-struct Texts::Grammar {
-    std::string code;
-    std::unique_ptr<icu::PluralRules> rules {};
-    std::unique_ptr<icu::NumberFormat> numbers {};
-
-    [[nodiscard]] icu::Locale locale() const
-    {
-        return icu::Locale(code == kPseudo ? "en" : code.c_str());
-    }
-
-    std::string formName(std::int64_t number)
-    {
-        UErrorCode status = U_ZERO_ERROR;
-        if (!rules) {
-            rules.reset(icu::PluralRules::forLocale(locale(), status));
-        }
-        std::string name(kOther);
-        if (rules && U_SUCCESS(status)) {
-            name.clear();
-            rules->select(static_cast<double>(number)).toUTF8String(name);
-        }
-        return name;
-    }
-
-    // Without a mark between thousands, as the counters beside the board are written.
-    std::string written(std::int64_t number)
-    {
-        UErrorCode status = U_ZERO_ERROR;
-        if (!numbers) {
-            numbers.reset(icu::NumberFormat::createInstance(locale(), status));
-            if (numbers && U_SUCCESS(status)) {
-                numbers->setGroupingUsed(0);
-            }
-        }
-        if (!numbers || U_FAILURE(status)) {
-            return std::to_string(number);
-        }
-        icu::UnicodeString text;
-        numbers->format(number, text);
-        std::string utf8;
-        return text.toUTF8String(utf8);
-    }
-};
-
 Texts::Texts(const platform::Resources& resources)
     : m_resources(resources)
     , m_code(kEnglish)
-    , m_grammar(std::make_unique<Grammar>())
+    , m_grammar(std::make_unique<Grammar>(m_code))
 {
-    m_grammar->code = m_code;
     m_english = read(kEnglish, m_englishFaults);
 }
 
@@ -159,8 +110,7 @@ Texts::~Texts() = default;
 void Texts::choose(std::string_view code)
 {
     m_code = std::string(code);
-    m_grammar = std::make_unique<Grammar>();
-    m_grammar->code = m_code;
+    m_grammar = std::make_unique<Grammar>(m_code == kPseudo ? std::string(kEnglish) : m_code);
     m_chosen = {};
     m_faults.clear();
     if (code == kPseudo) {

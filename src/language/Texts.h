@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language/Grammar.h"
 #include "platform/Resources.h"
 
 #include <cstdint>
@@ -72,7 +73,6 @@ private:
         std::map<std::string, Forms, std::less<>> texts;
         std::map<std::string, PageWords, std::less<>> pages;
     };
-    struct Grammar;
 
     [[nodiscard]] Table read(std::string_view code, std::string& faults) const;
     void readSections(

@@ -1,6 +1,7 @@
 #include "desktop/qt/Effects.h"
 
 #include "desktop/qt/Blur.h"
+#include "present/EffectTable.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -10,6 +11,8 @@
 #include <cmath>
 
 namespace veyrand::desktop::qt {
+
+namespace effects = present::effects;
 
 namespace {
 
@@ -50,26 +53,13 @@ QImage denser(QImage image, double gain)
     return image;
 }
 
-struct SetOff {
-    QColor color;
-    double radius = 0.0; // of the blur, in ems
-    double right = 0.0; // the fall, in ems
-    double down = 0.0;
-    double gain = 0.0;
-    double opacity = 0.0;
-};
-constexpr double kHaloRadius = 0.034;
-
-SetOff setOffFor(const QColor& color)
+const effects::SetOff& setOffFor(const QColor& color)
 {
     constexpr float kRed = 0.2126F;
     constexpr float kGreen = 0.7152F;
     constexpr float kBlue = 0.0722F;
     const float lightness = kRed * color.redF() + kGreen * color.greenF() + kBlue * color.blueF();
-    if (lightness > 0.5F) {
-        return { QColor(0x04, 0x12, 0x18), kHaloRadius, 0.010, 0.020, 1.5, 0.55 };
-    }
-    return { QColor(0xD9, 0xFA, 0xF6), 0.050, 0.0, 0.0, 2.4, 0.72 };
+    return lightness > 0.5F ? effects::kUnderLightLetters : effects::kRoundDarkLetters;
 }
 
 } // namespace
@@ -86,16 +76,16 @@ QImage glowOf(const QImage& picture, int radius)
     const int margin = kBlurReach * radius;
     const QImage body = withMargin(picture, margin);
 
-    // Light in glass gathers opposite to where it comes from: at the lower right.
     QImage inner = body;
     {
         const QRectF rect(QPointF(margin, margin), QSizeF(picture.size()));
-        const QPointF gathered
-            = rect.topLeft() + QPointF(rect.width() * 0.58, rect.height() * 0.62);
-        QRadialGradient light(gathered, std::max(rect.width(), rect.height()) * 0.62);
-        light.setColorAt(0.0, QColor(0, 0, 0, 150));
-        light.setColorAt(0.6, QColor(0, 0, 0, 95));
-        light.setColorAt(1.0, QColor(0, 0, 0, 50));
+        const QPointF gathered = rect.topLeft()
+            + QPointF(rect.width() * effects::kGatheredX, rect.height() * effects::kGatheredY);
+        QRadialGradient light(
+            gathered, std::max(rect.width(), rect.height()) * effects::kGatheredReach);
+        for (const effects::Stop& stop : effects::kLight) {
+            light.setColorAt(stop.place, QColor(0, 0, 0, stop.density));
+        }
         QPainter painter(&inner);
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
         painter.fillRect(inner.rect(), light);
@@ -106,7 +96,7 @@ QImage glowOf(const QImage& picture, int radius)
         QPainter painter(&glow);
         // A halo is seen round the picture; on it there is the light within.
         painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-        painter.setOpacity(0.85);
+        painter.setOpacity(effects::kHaloOutside);
         painter.drawImage(0, 0, body);
         painter.setOpacity(1.0);
         painter.setCompositionMode(QPainter::CompositionMode_Plus);
@@ -117,8 +107,9 @@ QImage glowOf(const QImage& picture, int radius)
 
 QImage shadowOf(const QImage& picture, int height)
 {
-    const QColor darkness(0, 0, 0, 140);
-    const QPointF fall(std::round(0.4 * height), std::round(0.8 * height));
+    const QColor darkness(0, 0, 0, effects::kShadowDarkness);
+    const QPointF fall(
+        std::round(effects::kFallRight * height), std::round(effects::kFallDown * height));
     const QImage body = withMargin(picture, 2 * height);
     const QImage soft = blurred(inColor(body, darkness), std::max(1, height / 2));
     QImage shadow = blank(body.size());
@@ -131,7 +122,6 @@ QImage shadowOf(const QImage& picture, int height)
 
 QImage pressedOf(const QImage& picture, int depth)
 {
-    constexpr double kEdgeShadow = 0.6;
     const QColor shade(0, 0, 0, 26);
     const int margin = kBlurReach * depth;
     QImage board(
@@ -146,16 +136,17 @@ QImage pressedOf(const QImage& picture, int depth)
     QPainter painter(&pressed);
     painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
     painter.fillRect(pressed.rect(), shade);
-    painter.setOpacity(kEdgeShadow);
+    painter.setOpacity(effects::kEdgeShadow);
     painter.drawImage(depth - margin, depth - margin, blurred(board, depth));
     return pressed;
 }
 
 QImage setOff(const QImage& letters, const QColor& color, double em)
 {
-    const SetOff style = setOffFor(color);
+    const effects::SetOff& style = setOffFor(color);
     const int radius = std::max(1, static_cast<int>(std::lround(style.radius * em)));
-    const QImage ground = denser(blurred(inColor(letters, style.color), radius), style.gain);
+    const QImage ground
+        = denser(blurred(inColor(letters, QColor::fromRgb(style.color)), radius), style.gain);
     QImage result = blank(letters.size());
     QPainter painter(&result);
     painter.setOpacity(style.opacity * color.alphaF());

@@ -3,6 +3,7 @@
 #include "desktop/qt/Dither.h"
 #include "desktop/qt/Effects.h"
 #include "desktop/qt/Logging.h"
+#include "present/EffectTable.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -83,8 +84,8 @@ const QPixmap& ImageStore::shadow(const std::string& name, QSize size, int heigh
 
 const QPixmap& ImageStore::pressed(const std::string& name, QSize size)
 {
-    constexpr int kDepths = 24; // in its height
-    return effect(QLatin1Char('p'), name, size, std::max(1, size.height() / kDepths), pressedOf);
+    const int depth = std::max(1, size.height() / present::effects::kPressDepths);
+    return effect(QLatin1Char('p'), name, size, depth, pressedOf);
 }
 
 const QPixmap& ImageStore::effect(QLatin1Char kind, const std::string& name, QSize size, int reach,

@@ -1,0 +1,192 @@
+#include "web/WebGame.h"
+
+#include "progress/PlayerKeys.h"
+#include "web/Host.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace veyrand::web {
+
+namespace {
+
+using controller::MenuItem;
+using controller::MenuItemId;
+using nlohmann::json;
+
+// What the page does by itself.
+void leaveToPage(MenuItemId id)
+{
+    if (id == MenuItemId::About) {
+        veyrand_host_menu("about");
+    }
+}
+
+const char* kindOf(const MenuItem& item)
+{
+    switch (item.kind) {
+    case MenuItem::Kind::Switch:
+        return "switch";
+    case MenuItem::Kind::Separator:
+        return "separator";
+    case MenuItem::Kind::Command:
+    case MenuItem::Kind::Hidden:
+        break;
+    }
+    return "command";
+}
+
+} // namespace
+
+WebGame::Parts::Parts(WebGame& own)
+    : currentGame(own.m_preferences, own.m_random, own.m_resources)
+    , gameData(own.m_screen)
+    , game({ .runLoop = own.m_runLoop,
+               .preferences = own.m_preferences,
+               .resources = own.m_resources,
+               .sounds = own.m_sounds,
+               .pointer = own.m_pointer,
+               .textMetrics = own.m_metrics,
+               .menu = own.m_menu,
+               .log = own.m_log,
+               .quit = own.m_quit,
+               .overlay = own.m_overlay,
+               .window = own.m_window,
+               .alerts = own.m_alerts,
+               .journal = &own.m_store,
+               .desktopLanguages = own.m_languages },
+          currentGame, gameData)
+    , view(game, own.m_pointer)
+{
+}
+
+WebGame::WebGame()
+    : m_preferences(m_store)
+    , m_menu(m_preferences)
+{
+    m_preferences.registerDefaults(progress::registeredDefaults());
+}
+
+std::string WebGame::start(platform::Size view)
+{
+    if (const std::string trouble = m_preferences.load(); !trouble.empty()) {
+        veyrand_host_report(trouble.c_str());
+    }
+    m_parts = std::make_unique<Parts>(*this);
+    const std::string fault = m_parts->currentGame.catalogueErrors() + m_parts->game.script().errors
+        + m_parts->game.texts().englishFaults();
+    if (!fault.empty()) {
+        m_parts.reset();
+        return fault;
+    }
+    m_menu.connectTo(*controller(), leaveToPage);
+    m_parts->game.setLanguageListener([this](const language::Texts& texts) {
+        veyrand_host_language(texts.code().c_str());
+        m_parts->view.forgetPainted();
+    });
+    veyrand_host_language(m_parts->game.texts().code().c_str());
+    m_parts->view.resize(view);
+    controller()->awake(view);
+    controller()->kept().setReporter(
+        [](const std::string& message) { veyrand_host_report(message.c_str()); });
+    return {};
+}
+
+controller::GameController* WebGame::controller()
+{
+    return m_parts ? &m_parts->game.controller() : nullptr;
+}
+
+std::string WebGame::menu()
+{
+    json menus = json::array();
+    const auto said = [this](const char* text) {
+        return controller::plainMenuText(
+            m_parts ? m_parts->game.texts().localized("GameMenu", text) : std::string(text));
+    };
+    const auto items = controller::menuItems();
+    for (const controller::MenuTitle& title : controller::menuTitles()) {
+        json entries = json::array();
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            const MenuItem& item = items[i];
+            if (item.menu != title.id || item.kind == MenuItem::Kind::Hidden) {
+                continue;
+            }
+            const bool isOn = item.id == MenuItemId::FullScreen ? m_window.isInFullScreenMode()
+                                                                : m_menu.isOn(item);
+            entries.push_back({ { "number", i }, { "kind", kindOf(item) },
+                { "text", said(m_menu.textOf(item)) }, { "keys", item.keys.front() },
+                { "on", isOn }, { "enabled", m_menu.mayChoose(item) },
+                { "fullScreen", item.id == MenuItemId::FullScreen } });
+        }
+        menus.push_back({ { "title", said(title.text) }, { "items", entries } });
+    }
+    return menus.dump();
+}
+
+void WebGame::choose(std::size_t item)
+{
+    const auto items = controller::menuItems();
+    if (m_parts && item < items.size()) {
+        m_menu.choose(items[item]);
+    }
+}
+
+bool WebGame::key(const std::string& keys, controller::GameController::Press press)
+{
+    if (!m_parts) {
+        return false;
+    }
+    for (const MenuItem& item : controller::menuItems()) {
+        if (std::find(item.keys.begin(), item.keys.end(), keys) != item.keys.end()) {
+            m_menu.choose(item);
+            return true;
+        }
+    }
+    return controller()->key(keys, press);
+}
+
+std::string WebGame::placeOf(const std::string& key)
+{
+    const auto record
+        = m_parts ? m_parts->gameData.gameObjects().objectForKey(key) : board::GameObjectPtr();
+    if (!record) {
+        return "null";
+    }
+    const platform::RectF board = m_parts->game.layers().backgroundLayer().rectInRoot();
+    const auto scale = static_cast<double>(board.height);
+    return json {
+        { "x", static_cast<double>(board.x) + record->x() * scale },
+        { "y", m_parts->view.size().height - static_cast<double>(board.y) - record->y() * scale }
+    }.dump();
+}
+
+std::string WebGame::state()
+{
+    if (!m_parts) {
+        return "null";
+    }
+    json lines = json::array();
+    if (const auto& proof = controller()->proof()) {
+        for (const engine::Theorem& line : proof->lines()) {
+            lines.push_back(line.theorem());
+        }
+    }
+    const progress::CurrentGame& current = m_parts->currentGame;
+    return json {
+        { "keys", m_parts->gameData.gameObjects().keys() }, { "lines", lines },
+        { "level", current.level() }, { "stage", current.stage() }, { "score", current.score() },
+        { "page", controller()->messages().page() }, { "dialogue", controller()->dialogueState() },
+        { "blocked", m_parts->game.view().block().blockClick() },
+        { "animating", m_parts->game.layers().scene().isAnimating() }
+    }.dump();
+}
+
+void WebGame::fullScreenChanged(bool on)
+{
+    if (m_parts && on != m_window.isInFullScreenMode()) {
+        controller()->toggleFullscreen();
+    }
+}
+
+} // namespace veyrand::web

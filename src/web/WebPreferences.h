@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/MemoryPreferences.h"
+#include "web/WebStore.h"
+
+#include <nlohmann/json.hpp>
+
+namespace veyrand::web {
+
+// Preferences as one JSON text of the store, written whole after every change. What cannot be
+// understood is set aside under another name, never overwritten; values that nobody here knows
+// survive.
+class WebPreferences final : public platform::MemoryPreferences {
+public:
+    static constexpr std::string_view kName = "preferences.json";
+
+    explicit WebPreferences(WebStore& store)
+        : m_store(store)
+    {
+    }
+
+    // When the store has been loaded. What went wrong, in words for the player; empty when nothing
+    // did.
+    [[nodiscard]] std::string load();
+
+    void setValue(std::string_view key, platform::PreferenceValue value) override;
+    void setRecord(std::string_view key, platform::PreferenceRecord record) override;
+
+private:
+    void save();
+
+    WebStore& m_store;
+    nlohmann::json m_document = nlohmann::json::object(); // with whatever else is in it
+};
+
+} // namespace veyrand::web

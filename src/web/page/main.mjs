@@ -1,0 +1,44 @@
+import createVeyrand from './veyrand.mjs';
+import { files } from './files.mjs';
+import { Game } from './game.mjs';
+import { end } from './notices.mjs';
+
+// What keeps the game from being played, in words.
+function giveUp(words) {
+  end({ title: 'Veyrand cannot be played here', text: words, button: 'Try Again', chosen: () => location.reload() });
+}
+
+async function fetched(url, what) {
+  let answer;
+  try {
+    answer = await fetch(url);
+  } catch {
+    throw new Error(`${what} could not be fetched: is the network there?`);
+  }
+  if (!answer.ok) {
+    throw new Error(`${what} could not be fetched: the server answers ${answer.status}.`);
+  }
+  return answer.arrayBuffer();
+}
+
+async function start() {
+  if (typeof WebAssembly !== 'object') {
+    throw new Error('This browser does not know WebAssembly. A newer one will do.');
+  }
+  const game = new Game(files);
+  globalThis.veyrand = game; // for whoever looks at the page from outside
+  const program = fetched(files.program, 'The program').then((wasmBinary) =>
+    createVeyrand({ wasmBinary, host: game.host }).catch(() => {
+      throw new Error('This browser cannot run the program. A newer one will do.');
+    }));
+  const resources = Promise.all(Object.entries(files.resources).map(async ([name, url]) =>
+    [name, new Uint8Array(await fetched(url, `The file ${name}`))]));
+  const font = document.fonts.load('100px "Veyrand Letters"').catch(() => []);
+  await game.start(await program, await resources, await font);
+  document.getElementById('curtain').hidden = true;
+  if ('serviceWorker' in navigator && !files.isTest) {
+    navigator.serviceWorker.register('sw.js').catch(() => {});
+  }
+}
+
+start().catch((error) => giveUp(error.message));

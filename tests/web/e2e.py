@@ -1,0 +1,327 @@
+"""The page as a player meets it: a real browser, a real pointer, finger and keyboard. The game's own
+clock runs, so everything is waited for and nothing is timed."""
+
+import json
+import os
+import random
+import shutil
+import tempfile
+import time
+
+import webserver
+from chromium import Chromium
+
+MOST_PROGRAM = 400_000  # bytes, in brotli
+MOST_TO_FIRST_FRAME = 1_200_000
+PHONE = {'width': 844, 'height': 390, 'touch': True}
+
+
+class Play:
+    """A page with the game on it."""
+
+    def __init__(self, browser, address, **shape):
+        self.page = browser.page(**shape)
+        self.page.go(address)
+        self.arrived()
+
+    def arrived(self):
+        self.page.until('globalThis.veyrand?.painter?.framesPainted > 0 && document.getElementById("curtain").hidden',
+                        'the first picture')
+
+    def reload(self):
+        self.page.run('globalThis.veyrand = undefined')
+        self.page.reload()
+        self.arrived()
+
+    def state(self):
+        return json.loads(self.page.run('veyrand.askText("state")'))
+
+    def until(self, condition, what):
+        self.page.until('((s) => %s)(JSON.parse(veyrand.askText("state")))' % condition, what)
+
+    def place(self, key):
+        return self.page.run('(() => { const at = JSON.parse(veyrand.askText("place_of", %s)); '
+                             'const box = veyrand.canvas.getBoundingClientRect(); '
+                             'return [at.x + box.left, at.y + box.top]; })()' % json.dumps(key))
+
+    def at_rest(self):
+        self.until('!s.blocked && !s.animating', 'rest')
+
+    def ready(self, key):
+        self.until('s.keys.includes(%s) && !s.blocked && !s.animating && s.page === ""' % json.dumps(key), key)
+
+    def click(self, key):
+        self.ready(key)
+        self.page.click(*self.place(key))
+
+    def tap(self, key):
+        self.ready(key)
+        self.page.touch([self.place(key)])
+
+    def drag(self, start, end):
+        self.ready(start)
+        self.page.drag(*self.place(start), *self.place(end))
+
+    def finger_drag(self, start, end):
+        self.ready(start)
+        (x, y), (to_x, to_y) = self.place(start), self.place(end)
+        self.page.touch([(x + (to_x - x) * step / 12, y + (to_y - y) * step / 12) for step in range(13)])
+
+    def press(self, key, code=None, number=0, modifiers=0):
+        self.page.key(key, code or key, number, modifiers)
+
+    def lines(self, lines):
+        self.until('JSON.stringify(s.lines) === %s' % json.dumps(json.dumps(lines, separators=(',', ':'))),
+                   'the lines %s, not %s' % (lines, self.state()['lines']))
+
+    def menu(self, title, item):
+        self.page.run('[...veyrand.bar.bar.children].find((b) => b.textContent === %s).click()' % json.dumps(title))
+        self.page.run('[...document.querySelectorAll(".menu button")].find((b) => '
+                      'b.firstChild.textContent === %s).click()' % json.dumps(item))
+
+    def go_on(self, press):
+        """From the title page back to the puzzle that was left."""
+        press('button-classicbuttonon')
+        press('fullScreen-3i')
+
+    def clear_pages(self):
+        """Pages and notes come one after the other; Escape closes each, which nothing does in its first moment."""
+        calm = """(async () => {
+            for (let calm = 0, turn = 0; turn < 20; ++turn) {
+              const s = JSON.parse(veyrand.askText("state"));
+              const isOpen = s.page !== "";
+              if (isOpen && !s.blocked) { veyrand.tell("key", "Esc", 0); }
+              calm = isOpen || s.blocked || s.lines.length === 0 ? 0 : calm + 1;
+              if (calm === 6) { return true; }
+              await new Promise((go) => setTimeout(go, 40));
+            }
+            return false; })()"""
+        self.page.until('await ' + calm, 'the last page, at ' + str(self.state()))
+
+    def store(self, record, settings=None):
+        """What a player has, in the place of what is there; and the page anew."""
+        text = json.dumps({'Player-New': record, 'Settings': settings or {'Tempo': 'fast'}, 'TRNPlayMusicKey': True})
+        self.page.run('veyrand.store.replace([["preferences.json", %s]])' % json.dumps(text))
+        self.reload()
+
+    def stored(self):
+        self.page.until('veyrand.store.pending === 0', 'the disk')
+
+
+def at(level, stage):
+    return {'TRNLevelKey': level, 'TRNStageKey': stage, 'TRNScoreKey': 500, 'TRNFirstHintClickKey': False}
+
+
+def looked(play, out, name):
+    play.page.screenshot(os.path.join(out, name + '.png'))
+
+
+def first_puzzles(play, click, pages=True):
+    """1-1 to 1-3."""
+    for stage, moves in ((1, ['chip-0-0']), (2, ['chip-0-0', 'chip-0-1']), (3, ['chip-1-0'])):
+        play.until('s.stage === %d && s.lines.length === 1' % stage, 'the puzzle 1-%d' % stage)
+        play.clear_pages()
+        for number, move in enumerate(moves):
+            play.clear_pages()
+            click(move)
+            play.until('s.lines.length === %d' % (number + 2), 'line %d of 1-%d' % (number + 2, stage))
+    play.until('s.stage === 4 && s.lines.length === 1', 'the puzzle 1-4')
+
+
+def by_mouse(site, out):
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        play = Play(browser, address)
+        looked(play, out, 'title-1440x900')
+        play.click('button-classicbuttonon')
+        first_puzzles(play, play.click)
+        assert play.state()['score'] == 450, play.state()
+        # Loaded anew, the game is found again as it was left.
+        play.clear_pages()
+        play.click('chip-0-0')
+        play.lines(['YR', 'YRR'])
+        play.stored()
+        play.reload()
+        play.go_on(play.click)
+        play.lines(['YR', 'YRR'])
+    server.shutdown()
+
+
+def by_drag_and_hint(site, out):
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        play = Play(browser, address)
+        play.store(at(1, 8))
+        play.go_on(play.click)
+        play.until('s.stage === 8', 'the puzzle 1-8')
+        play.clear_pages()
+        play.drag('chip-1-0', 'chip-3-0')
+        play.lines(['YRRR', 'YG'])
+        play.store(at(2, 1))
+        play.go_on(play.click)
+        play.until('s.level === 2 && s.lines.length === 1', 'the puzzle 2-1')
+        play.clear_pages()
+        # A step back, by keys, and again by the menu.
+        before = play.state()['lines']
+        play.click('chip-0-0')
+        play.until('s.lines.length === 2', 'the second line')
+        after = play.state()['lines']
+        play.at_rest()
+        play.press('z', 'KeyZ', 90, modifiers=2)
+        play.lines(before)
+        play.at_rest()
+        play.menu('Edit', 'Redo Move')
+        play.lines(after)
+        play.at_rest()
+        play.click('button-lightbulbon')
+        play.until('s.score !== 500 || s.page !== ""', 'what a hint costs, or says first')
+        play.page.run('new Promise((go) => setTimeout(go, 600))')
+        looked(play, out, 'board-1440x900')
+        assert play.page.run('veyrand.painter.isWhole'), 'a picture is missing'
+    server.shutdown()
+
+
+def by_finger(site, out):
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        for ratio in (2, 3):
+            play = Play(browser, address, ratio=ratio, **PHONE)
+            play.store(at(1, 1))
+            looked(play, out, 'title-phone-%d' % ratio)
+            play.tap('button-classicbuttonon')
+            first_puzzles(play, play.tap)
+            looked(play, out, 'board-phone-%d' % ratio)
+            play.store(at(1, 8))
+            play.go_on(play.tap)
+            play.until('s.stage === 8', 'the puzzle 1-8')
+            play.clear_pages()
+            play.finger_drag('chip-1-0', 'chip-3-0')
+            play.lines(['YRRR', 'YG'])
+            assert play.page.run('visualViewport.scale === 1 && scrollX === 0 && scrollY === 0'), 'the page has moved'
+            # Turned in the middle of a move.
+            play.page.shape(390, 844, ratio, True)
+            play.page.until('veyrand.canvas.width < veyrand.canvas.height', 'the upright page')
+            play.until('!s.animating', 'rest')
+            play.lines(['YRRR', 'YG'])
+            looked(play, out, 'upright-phone-%d' % ratio)
+            play.page.tell('Page.close')
+    server.shutdown()
+
+
+def by_keys(site, out):
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        play = Play(browser, address)
+        play.store(at(1, 1))
+        play.press('Tab', number=9)
+        play.press('Enter', number=13)
+        play.until('s.lines.length === 1', 'the puzzle 1-1')
+        play.clear_pages()
+        play.press('Home', number=36)
+        play.press('Enter', number=13)
+        play.lines(['YGR', 'YGRGR'])
+        play.until('s.stage === 2', 'the puzzle 1-2')
+    server.shutdown()
+
+
+def second_tab(site, _out):
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        first = Play(browser, address)
+        first.store(at(3, 3))
+        second = Play(browser, address)
+        second.page.until('document.querySelector("dialog")?.textContent.includes("another tab")', 'the word of the other')
+        second.page.run('document.querySelector("dialog button").click()')
+        second.menu('Options', 'Say Why')
+        second.stored()
+        kept = first.page.run('veyrand.store.load().then(({ texts }) => texts.get("preferences.json"))')
+        assert 'SayWhy' not in kept, 'the second tab has saved'
+    server.shutdown()
+
+
+def offline(site, _out):
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        play = Play(browser, address)
+        play.page.run('navigator.serviceWorker.ready.then(() => true)')
+        play.reload()
+        server.shutdown()
+        server.server_close()
+        play.reload()
+        play.click('button-classicbuttonon')
+        play.until('s.lines.length === 1', 'the puzzle 1-1 without a network')
+
+
+def kills(site, _out, count=5):
+    """A browser that is killed loses at most the move whose record was under way."""
+    server, address = webserver.serve(site)
+    profile = tempfile.mkdtemp(prefix='veyrand-killed-')
+    die = random.Random(os.environ.get('VEYRAND_SEED', '14'))
+    expected = None
+    try:
+        for _ in range(count):
+            with Chromium(profile) as browser:
+                play = Play(browser, address)
+                if expected is None:
+                    play.store(at(2, 1), {'Tempo': 'off'})
+                play.go_on(play.click)
+                play.until('s.lines.length > 0', 'the puzzle')
+                play.clear_pages()
+                found = play.state()['lines']
+                assert expected is None or found in expected, 'found %s, expected one of %s' % (found, expected)
+                key = 'delete-1' if len(found) > 2 else 'chip-0-0'
+                play.click(key)
+                time.sleep(die.uniform(0, 0.2))
+                now, pending = play.page.run('[JSON.parse(veyrand.askText("state")).lines, veyrand.store.pending]')
+                expected = [now] if pending == 0 else [now, found]
+                browser.kill()
+    finally:
+        server.shutdown()
+        shutil.rmtree(profile, ignore_errors=True)
+
+
+def troubles(site, out):
+    """What is missing is told in words."""
+    folder = os.path.join(out, 'broken')
+    shutil.rmtree(folder, ignore_errors=True)
+    shutil.copytree(site, folder)
+    server, address = webserver.serve(folder)
+    with Chromium() as browser:
+        for name in os.listdir(folder + '/assets'):
+            if name.startswith('ClassicButton-') or name.startswith('Marble-'):
+                os.remove(os.path.join(folder, 'assets', name))
+        play = Play(browser, address)
+        play.page.until('!document.getElementById("mention").hidden', 'the word of a missing picture')
+        looked(play, out, 'missing-picture')
+        # Rubbish in the database is kept and told.
+        play.page.run('veyrand.store.replace([["preferences.json", "{rubbish"]])')
+        play.reload()
+        play.page.until('document.querySelector("dialog")?.textContent.includes("cannot be read")', 'the word of rubbish')
+        play.stored()
+        kept = play.page.run('veyrand.store.load().then(({ texts }) => [...texts].filter(([name]) => name.includes("damaged")))')
+        assert kept == [['preferences.json.damaged-1', '{rubbish']], kept
+        # Quitting leaves a still page with one button.
+        play.page.run('document.querySelector("dialog button").click()')
+        play.click('button-quitbuttonon')
+        play.page.until('document.querySelector("#curtain button")?.textContent === "Play"', 'the last page')
+        looked(play, out, 'quit')
+        code = [name for name in os.listdir(folder) if name.startswith('code-')][0]
+        for name in ('veyrand.wasm', 'veyrand.wasm.br'):
+            os.remove(os.path.join(folder, code, name))
+        other = browser.page()
+        other.go(address.replace('127.0.0.1', 'localhost'))
+        other.until('document.querySelector("#curtain h1")?.textContent.includes("cannot be played")', 'the word of a missing program')
+        other.screenshot(os.path.join(out, 'missing-program.png'))
+    server.shutdown()
+
+
+TESTS = {
+    'played by mouse, loaded anew and resumed': by_mouse,
+    'a drag, a step back and a hint': by_drag_and_hint,
+    'played by finger on a phone': by_finger,
+    'played by keys': by_keys,
+    'a second tab does not save': second_tab,
+    'played without a network': offline,
+    'killed at any moment': kills,
+    'told what is missing': troubles,
+}
