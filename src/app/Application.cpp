@@ -20,6 +20,7 @@
 #include "desktop/qt/QtOverlayWindow.h"
 #include "desktop/qt/QtRunLoop.h"
 #include "desktop/qt/QtWindow.h"
+#include "desktop/qt/SettingsWindow.h"
 #include "desktop/qt/SystemPorts.h"
 #include "play/Recording.h"
 #include "progress/Misunderstood.h"
@@ -106,6 +107,8 @@ public:
         m_menu.connectTo(m_game.controller(), [this](controller::MenuItemId id) {
             if (id == controller::MenuItemId::About) {
                 showAboutBox(m_window);
+            } else if (id == controller::MenuItemId::Settings) {
+                showSettings();
             }
         });
     }
@@ -218,6 +221,19 @@ private:
     {
         m_game.controller().updateContentViewFrame(size);
         m_game.controller().windowDidResize();
+    }
+
+    void showSettings()
+    {
+        desktop::qt::showSettingsWindow({ .preferences = m_preferences,
+                                            .clock = m_runLoop,
+                                            .changed = [this] { m_game.settingsChanged(); },
+                                            .playEffect =
+                                                [this] {
+                                                    m_game.controller().context().effects.play(
+                                                        platform::Effect::Marble);
+                                                } },
+            m_window);
     }
 
     void savePlaceOfWindow()

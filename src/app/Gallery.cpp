@@ -129,6 +129,7 @@ public:
         paintAnswers();
         paintRewards();
         paintEdges();
+        paintOtherStones();
         return m_complete;
     }
 
@@ -346,6 +347,30 @@ private:
         m_game.wait(kCrest);
         take(picture);
         m_game.wait(kEverythingHasFadedIn);
+    }
+
+    // A puzzle on the board and a page with stones, drawn in each of the other ways.
+    void paintOtherStones()
+    {
+        using Chips = progress::Settings::Chips;
+        for (const auto& [chips, name] :
+            { std::pair(Chips::Contrast, "contrast"), std::pair(Chips::Letters, "letters"),
+                std::pair(Chips::Patterns, "patterns"), std::pair(Chips::Pictures, "") }) {
+            progress::Settings settings = progress::readSettings(m_game.preferences());
+            settings.chips = chips;
+            progress::writeSettings(m_game.preferences(), settings);
+            m_game.controller().settingsChanged();
+            if (chips == Chips::Pictures) {
+                continue; // as it was
+            }
+            m_game.play({ .root = "YRRRGB", .goal = "YGRRB", .par = 3, .level = 5, .stage = 2 });
+            m_game.wait(kEverythingHasFadedIn);
+            take(std::string("chips-") + name);
+            m_game.controller().pages().show("movesMessageWindow");
+            m_game.wait(kEverythingHasFadedIn);
+            take(std::string("chips-page-") + name);
+            m_game.controller().messages().dismiss();
+        }
     }
 
     void pointAt(const char* key)

@@ -1,5 +1,7 @@
 #include "controller/MenuChoices.h"
 
+#include "controller/GameController.h"
+#include "controller/SettingsTable.h"
 #include "progress/PlayerKeys.h"
 
 #include <algorithm>
@@ -64,6 +66,21 @@ bool MenuChoices::choose(const MenuItem& item)
         item.choose(*m_game);
     } else if (m_others && item.setting == nullptr) {
         m_others(item.id);
+    }
+    return true;
+}
+
+bool MenuChoices::turn(std::string_view text)
+{
+    const SettingItem* const item = settingSwitch(text);
+    if (item == nullptr) {
+        return false;
+    }
+    Settings settings = progress::readSettings(m_preferences);
+    item->set(settings, 1 - item->get(settings));
+    progress::writeSettings(m_preferences, settings);
+    if (m_game != nullptr) {
+        m_game->settingsChanged();
     }
     return true;
 }

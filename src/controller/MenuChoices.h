@@ -36,6 +36,9 @@ public:
     [[nodiscard]] const char* textOf(const MenuItem& item) const;
     // Turns a switch round, then does what the item does. False when it may not be chosen now.
     bool choose(const MenuItem& item);
+    // Turns a switch of the settings window round, by its text without an ampersand. False when
+    // there is none.
+    bool turn(std::string_view text);
 
 private:
     platform::Preferences& m_preferences;

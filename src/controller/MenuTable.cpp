@@ -48,24 +48,9 @@ const char* redoText(GameController& game)
     return !step ? "&Redo" : *step == History::Kind::Move ? "&Redo Move" : "&Redo Removal";
 }
 
-void applySettings(GameController& game)
-{
-    game.settingsChanged();
-}
-
 constexpr MenuItem separator(MenuId menu)
 {
     return { .id = MenuItemId::Separator, .menu = menu, .kind = Kind::Separator };
-}
-
-constexpr MenuItem setting(MenuItemId id, const char* text, bool Settings::*which)
-{
-    return { .id = id,
-        .menu = MenuId::Options,
-        .kind = Kind::Switch,
-        .text = text,
-        .setting = which,
-        .choose = applySettings };
 }
 
 template <class Choose, class MayChoose>
@@ -134,15 +119,10 @@ constexpr std::array kItems {
         .keys = { "Ctrl+Shift+M" },
         .setting = &Settings::effects },
     separator(MenuId::Options),
-    setting(MenuItemId::Answers, "&Answers", &Settings::answers),
-    setting(MenuItemId::SayWhy, "Sa&y Why", &Settings::sayWhy),
-    setting(MenuItemId::RememberPress, "&Remember a Press", &Settings::rememberPress),
-    setting(MenuItemId::ForgivingClicks, "F&orgiving Clicks", &Settings::forgivingClicks),
-    setting(MenuItemId::LiftByClick, "&Lift by Click", &Settings::liftByClick),
-    setting(MenuItemId::WoodToTheEdges, "&Wood to the Edges", &Settings::woodToTheEdges),
-    separator(MenuId::Options),
-    setting(MenuItemId::KeepUnfinishedPuzzles, "&Keep Unfinished Puzzles",
-        &Settings::keepUnfinishedPuzzles),
+    MenuItem { .id = MenuItemId::Settings,
+        .menu = MenuId::Options,
+        .text = "Se&ttings…",
+        .keys = { "Ctrl+," } },
     separator(MenuId::Options),
     MenuItem { .id = MenuItemId::FullScreen,
         .menu = MenuId::Options,

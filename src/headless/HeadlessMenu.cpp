@@ -51,7 +51,7 @@ bool HeadlessMenu::trigger(std::string_view text)
             return m_choices.choose(item);
         }
     }
-    return false;
+    return m_choices.turn(text);
 }
 
 bool HeadlessMenu::triggerKeys(std::string_view keys)

@@ -70,8 +70,8 @@ TEST(MenuChoices, HandOnWhatTheTableLeavesToTheWindow)
     choices.connectTo(game.controller(), [&](MenuItemId id) { asked.push_back(id); });
     choices.choose(menuItem(MenuItemId::About));
     choices.choose(menuItem(MenuItemId::SoundEffects));
-    choices.choose(menuItem(MenuItemId::Answers));
-    EXPECT_EQ(asked, std::vector { MenuItemId::About });
+    choices.choose(menuItem(MenuItemId::Settings));
+    EXPECT_EQ(asked, (std::vector { MenuItemId::About, MenuItemId::Settings }));
 }
 
 TEST(MenuChoices, MayBeNarrowedToWhatNeedsNoPlayer)
@@ -88,6 +88,18 @@ TEST(MenuChoices, MayBeNarrowedToWhatNeedsNoPlayer)
     EXPECT_TRUE(choices.choose(menuItem(MenuItemId::Quit)));
     EXPECT_EQ(asked, (std::vector { MenuItemId::Leave, MenuItemId::Quit }));
     EXPECT_FALSE(game.quit().terminated());
+}
+
+TEST(MenuChoices, TurnTheSwitchesOfTheSettingsWindow)
+{
+    headless::HeadlessGame game({});
+    MenuChoices choices(game.preferences());
+    choices.connectTo(game.controller(), {});
+    EXPECT_TRUE(choices.turn("Keep Unfinished Puzzles"));
+    EXPECT_FALSE(progress::readSettings(game.preferences()).keepUnfinishedPuzzles);
+    EXPECT_TRUE(choices.turn("Keep Unfinished Puzzles"));
+    EXPECT_TRUE(progress::readSettings(game.preferences()).keepUnfinishedPuzzles);
+    EXPECT_FALSE(choices.turn("Music")) << "which the menu has";
 }
 
 TEST(MenuChoices, NameTheStepThatUndoTakesBack)

@@ -141,7 +141,7 @@ bool GameMenu::trigger(const QString& text)
         }
     }
     enableAll();
-    return false;
+    return m_choices.turn(text.toStdString());
 }
 
 } // namespace veyrand::desktop::qt
