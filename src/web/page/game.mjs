@@ -190,8 +190,11 @@ export class Game {
   fit(pixels) {
     const ratio = devicePixelRatio || 1;
     const box = this.canvas.getBoundingClientRect();
-    const width = pixels?.inlineSize ?? Math.round(box.width * ratio);
-    const height = pixels?.blockSize ?? Math.round(box.height * ratio);
+    // The browser knows its pixels to the last one; but where it only pretends to have others, as its
+    // tools for developers do, it tells of those of the machine.
+    const isTold = pixels && Math.abs(pixels.inlineSize - box.width * ratio) < 2;
+    const width = isTold ? pixels.inlineSize : Math.round(box.width * ratio);
+    const height = isTold ? pixels.blockSize : Math.round(box.height * ratio);
     this.painter.resize(Math.max(1, width), Math.max(1, height), ratio);
     return { width: width / ratio, height: height / ratio };
   }
