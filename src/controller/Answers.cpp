@@ -266,6 +266,7 @@ void Answers::restHere()
 
 void Answers::pressBegins()
 {
+    m_controller.speaker().gestureBegins();
     ++m_rests;
     m_tipIsDue = false;
     m_advised.clear();

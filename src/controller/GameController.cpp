@@ -26,6 +26,7 @@ GameController::GameController(GameContext& context)
     , m_tutorial(*this)
     , m_fullScreen(*this)
     , m_focus(context.view, context.board.gameData.gameObjects(), *this)
+    , m_speaker(*this)
     , m_answers(*this)
 {
     m_context.view.setGestureTarget(*this);
@@ -111,14 +112,56 @@ bool GameController::key(std::string_view keys, Press press)
     if (input::isSingleLetter(keys) && !progress::readSettings(m_context.preferences).spokenKeys) {
         return false;
     }
-    const bool taken = m_focus.perform(*command);
+    m_speaker.gestureBegins();
+    const std::string before = m_context.view.keyLifted();
+    const auto stop = m_focus.shown();
+    const bool wantsToLift = command->verb == input::KeyCommand::Verb::Lift && before.empty()
+        && stop && stop->group == input::Stop::Group::Line;
+    const bool taken = m_focus.perform(*command) || speak(command->verb);
+    const std::string lifted = m_context.view.keyLifted();
+    if (lifted != before && !lifted.empty()) {
+        m_speaker.chipLifted(lifted);
+    } else if (lifted.empty() && !before.empty()
+        && command->verb == input::KeyCommand::Verb::PutBack) {
+        m_speaker.chipPutBack();
+    } else if (wantsToLift && lifted.empty()) {
+        m_speaker.liftRefused();
+    }
     m_answers.handsChanged();
     return taken;
+}
+
+bool GameController::speak(input::KeyCommand::Verb verb)
+{
+    using Verb = input::KeyCommand::Verb;
+    switch (verb) {
+    case Verb::SpeakGoal:
+        m_speaker.sayGoal();
+        return true;
+    case Verb::SpeakLine:
+        m_speaker.sayLastLine();
+        return true;
+    case Verb::SpeakDifference:
+        m_speaker.sayDifference();
+        return true;
+    case Verb::SpeakPoints:
+        m_speaker.sayPoints();
+        return true;
+    case Verb::SpeakAgain:
+        m_speaker.sayAgain();
+        return true;
+    case Verb::SpeakChoices:
+        m_speaker.sayChoices();
+        return true;
+    default:
+        return false;
+    }
 }
 
 void GameController::escape()
 {
     if (m_focus.putBack()) {
+        m_speaker.chipPutBack();
         m_answers.handsChanged();
     } else if (dialogueState() != 0) {
         if (!m_context.view.block().blockClick()) {

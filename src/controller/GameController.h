@@ -13,6 +13,7 @@
 #include "controller/PreviousGames.h"
 #include "controller/ProofLines.h"
 #include "controller/SettingsInForce.h"
+#include "controller/Speaker.h"
 #include "controller/TitlePage.h"
 #include "controller/Tutorial.h"
 #include "input/Focus.h"
@@ -59,6 +60,7 @@ public:
     [[nodiscard]] Tutorial& tutorial() { return m_tutorial; }
     [[nodiscard]] Answers& answers() { return m_answers; }
     [[nodiscard]] input::Focus& focus() { return m_focus; }
+    [[nodiscard]] Speaker& speaker() { return m_speaker; }
     [[nodiscard]] const FullScreen& fullScreen() const { return m_fullScreen; }
     [[nodiscard]] const std::shared_ptr<engine::Proof>& proof() const { return m_flow.proof(); }
 
@@ -101,6 +103,8 @@ public:
     [[nodiscard]] int dialogueState() const; // 0 when no dialogue asks
 
 private:
+    bool speak(input::KeyCommand::Verb verb);
+
     GameContext& m_context;
     SettingsInForce m_settingsInForce;
     Hints m_hints;
@@ -117,6 +121,7 @@ private:
     Tutorial m_tutorial;
     FullScreen m_fullScreen;
     input::Focus m_focus;
+    Speaker m_speaker;
     Answers m_answers;
 };
 

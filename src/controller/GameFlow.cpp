@@ -195,6 +195,7 @@ void GameFlow::resume(play::Replay kept)
     }
     m_controller.hints().drawAsLeft();
     m_controller.answers().puzzleLaidOut();
+    m_controller.speaker().puzzleResumed();
 }
 
 void GameFlow::layOutPuzzle()
@@ -207,6 +208,7 @@ void GameFlow::layOutPuzzle()
     m_game.board.newGame(proof()->root().theorem(), proof()->goal().theorem());
     m_game.board.panel.drawCounters();
     m_controller.answers().puzzleLaidOut();
+    m_controller.speaker().puzzleLaidOut();
 }
 
 void GameFlow::startMusic()
@@ -267,6 +269,7 @@ void GameFlow::returnToMenu()
     m_game.board.gameData.gameObjects().removeAllEntries();
     m_game.effects.play(platform::Effect::GlockE2);
     m_controller.titlePage().createTitleAndStartButtons();
+    m_controller.speaker().titleShown();
 }
 
 void GameFlow::easierButtonClick()

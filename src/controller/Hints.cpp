@@ -69,6 +69,7 @@ void Hints::apply(const play::Hint& hint)
     const auto answer = m_controller.flow().apply(hint);
     if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
         show(hint.kind, *outcome);
+        m_controller.speaker().hintGiven(hint.kind);
     }
 }
 
@@ -134,6 +135,7 @@ void Hints::completeHint()
         m_game.board.lines.createDeleteButton(outcome.row);
     }
     clearHint();
+    m_controller.speaker().hintLanded();
     m_controller.lines().checkProofComplete();
 }
 
@@ -145,6 +147,7 @@ void Hints::findLastGood()
         walkBack(outcome);
     } else {
         lastGoodFound();
+        m_controller.speaker().hintGiven(play::Hint::Kind::Good);
     }
 }
 
@@ -154,6 +157,7 @@ void Hints::walkBack(const play::Outcome& outcome)
     m_game.view.block().blockAtLeast(m_game.tempo.delay(times::kWalkBackStep));
     m_game.effects.play(platform::Effect::Triangle);
     m_controller.lines().clearRows(outcome.row, outcome.gone, ProofLines::DeleteButtons::Remove);
+    m_controller.speaker().linesTaken(outcome);
 }
 
 void Hints::lastGoodFound()

@@ -60,6 +60,7 @@ void History::undo()
         } else {
             showRemovalUndone(*outcome);
         }
+        m_controller.speaker().undone();
     }
 }
 
@@ -75,6 +76,7 @@ void History::redo()
         } else {
             showMoveAgain(*outcome);
         }
+        m_controller.speaker().redone();
     }
 }
 

@@ -30,6 +30,7 @@ void Messages::showMessageWindow(std::unique_ptr<present::InfoLayer> window, std
     m_game.view.setOverlay(input::Overlay::Page);
     playMessageWindowSound();
     blockForReading();
+    m_controller.speaker().messageShown();
 }
 
 void Messages::showMessageInfo(std::unique_ptr<present::InfoLayer> window, std::string page)
@@ -38,6 +39,7 @@ void Messages::showMessageInfo(std::unique_ptr<present::InfoLayer> window, std::
     m_game.view.setOverlay(input::Overlay::Note);
     playMessageWindowSound();
     blockForReading();
+    m_controller.speaker().messageShown();
 }
 
 void Messages::showDialogue(std::unique_ptr<present::InfoLayer> window)
@@ -45,6 +47,7 @@ void Messages::showDialogue(std::unique_ptr<present::InfoLayer> window)
     hold(std::move(window), {});
     m_game.view.setOverlay(input::Overlay::Question);
     playMessageWindowSound();
+    m_controller.speaker().questionAsked();
 }
 
 // The old one goes first, or it would take what is left of its keys along.

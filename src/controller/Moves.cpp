@@ -70,6 +70,7 @@ bool Moves::perform(const play::Gesture& gesture)
     if (action == nullptr) {
         playNoRuleApplied();
         m_controller.answers().refused(gesture, std::get<play::Refusal>(decision));
+        m_controller.speaker().refused(std::get<play::Refusal>(decision));
         return false;
     }
     const auto& move = std::get<play::Move>(*action);
@@ -94,6 +95,7 @@ void Moves::make(const play::Move& move, const board::Choreography& choreography
 {
     const std::string lineBefore = m_controller.proof()->lines().back().theorem();
     static_cast<void>(m_controller.flow().apply(move)); // decided, so it is granted
+    m_controller.speaker().moveMade(move.rule);
     const unsigned newRow = m_controller.lineCount() - 1;
     show(choreography, lineBefore, newRow);
     m_controller.lines().checkProofComplete();

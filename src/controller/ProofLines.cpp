@@ -43,6 +43,7 @@ void ProofLines::calculateScore()
     const auto points
         = play::pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount());
     m_controller.answers().solved(points);
+    m_controller.speaker().solved(points);
     m_game.currentGame.addToScore(points);
 }
 
@@ -86,6 +87,7 @@ void ProofLines::deleteClick(unsigned row)
         m_game.effects.play(platform::Effect::DeleteDing);
         dropRows(*outcome);
         m_controller.hints().resetHintMode();
+        m_controller.speaker().linesTaken(*outcome);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
 
+#include <utility>
+
 namespace veyrand::headless {
 
 using platform::Point;
@@ -161,6 +163,18 @@ void HeadlessGame::key(std::string_view keys)
     } else {
         controller().key(keys);
     }
+}
+
+void HeadlessGame::listen()
+{
+    controller().speaker().setListener(
+        [this](const std::string& sentence) { m_announced.push_back(sentence); });
+}
+
+std::vector<std::string> HeadlessGame::takeAnnouncements()
+{
+    controller().speaker().flush();
+    return std::exchange(m_announced, {});
 }
 
 void HeadlessGame::leave()

@@ -20,6 +20,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace veyrand::headless {
 
@@ -78,6 +79,9 @@ public:
     void rightClick(platform::Point place);
     // Chooses the menu item under the keys, or else does what they do on the board.
     void key(std::string_view keys);
+    // What is spoken from now on is kept, for whoever takes it.
+    void listen();
+    [[nodiscard]] std::vector<std::string> takeAnnouncements();
     // The view gets another size (points), under a pointer that rests.
     void resize(platform::Size size);
     // Whoever shows the view does the resizing: full screen and zoom then call this instead.
@@ -129,6 +133,7 @@ private:
     std::function<void(platform::Size)> m_resizer;
     platform::Size m_viewSize;
     platform::Point m_place;
+    std::vector<std::string> m_announced;
     bool m_held = false;
     Modifier m_modifier = Modifier::None;
 };

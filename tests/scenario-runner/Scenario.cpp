@@ -49,6 +49,7 @@ void Scenario::relaunch()
     m_hasEnded = false;
     m_hasQuit = false;
     m_stage = m_makeStage(m_launch);
+    m_stage->game().listen();
     m_stage->launch();
 }
 

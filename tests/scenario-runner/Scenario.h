@@ -61,6 +61,9 @@ private:
     Json layer(const Arguments& arguments);
 
     Json focus(const Arguments& arguments);
+    Json announcements(const Arguments& arguments);
+    Json accessible(const Arguments& arguments);
+    Json act(const Arguments& arguments);
     Json cursor(const Arguments& arguments);
     Json tip(const Arguments& arguments);
     Json whisper(const Arguments& arguments);

@@ -1,4 +1,5 @@
 #include "Scenario.h"
+#include "controller/AccessibleTree.h"
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 
@@ -15,6 +16,16 @@ namespace {
 std::string chipAt(unsigned row, unsigned column)
 {
     return board::generateKeyChipKey(column, row);
+}
+
+Json describe(const controller::AccessibleNode& node)
+{
+    Json children = Json::array();
+    for (const controller::AccessibleNode& child : node.children) {
+        children.push_back(describe(child));
+    }
+    return { { "role", controller::nameOf(node.role) }, { "name", node.name },
+        { "value", node.value }, { "actions", node.actions }, { "children", children } };
 }
 
 } // namespace
@@ -63,6 +74,28 @@ Json Scenario::focus(const Arguments& /*arguments*/)
 {
     const auto stop = game().controller().focus().shown();
     return stop ? Json(stop->key) : Json();
+}
+
+Json Scenario::announcements(const Arguments& /*arguments*/)
+{
+    return game().takeAnnouncements();
+}
+
+Json Scenario::accessible(const Arguments& /*arguments*/)
+{
+    return describe(controller::accessibleTree(game().controller()));
+}
+
+Json Scenario::act(const Arguments& arguments)
+{
+    const std::string name = arguments.text(0);
+    const std::string action = arguments.text(1);
+    const auto tree = controller::accessibleTree(game().controller());
+    const auto* const found = controller::find(tree, name, action);
+    if (found == nullptr) {
+        throw std::runtime_error("nothing is named \"" + name + "\" that can \"" + action + '"');
+    }
+    return controller::actOn(game().controller(), found->id, action);
 }
 
 Json Scenario::cursor(const Arguments& /*arguments*/)
@@ -275,9 +308,10 @@ const std::vector<Scenario::Operation>& Scenario::table()
         { "drag", &Scenario::drag }, { "touch", &Scenario::touch },
         { "touchDrag", &Scenario::touchDrag }, { "longPress", &Scenario::longPress },
         { "rightClick", &Scenario::rightClick }, { "focus", &Scenario::focus },
-        { "key", &Scenario::key }, { "resize", &Scenario::resize }, { "menu", &Scenario::menu },
-        { "screenshot", &Scenario::screenshot }, { "keys", &Scenario::keys },
-        { "object", &Scenario::object }, { "text", &Scenario::textOf },
+        { "announcements", &Scenario::announcements }, { "accessible", &Scenario::accessible },
+        { "act", &Scenario::act }, { "key", &Scenario::key }, { "resize", &Scenario::resize },
+        { "menu", &Scenario::menu }, { "screenshot", &Scenario::screenshot },
+        { "keys", &Scenario::keys }, { "object", &Scenario::object }, { "text", &Scenario::textOf },
         { "layer", &Scenario::layer }, { "cursor", &Scenario::cursor }, { "tip", &Scenario::tip },
         { "whisper", &Scenario::whisper }, { "extras", &Scenario::extras },
         { "lines", &Scenario::lines }, { "goal", &Scenario::goal }, { "par", &Scenario::par },

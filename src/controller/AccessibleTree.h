@@ -1,0 +1,47 @@
+#pragma once
+
+#include "board/GameObject.h"
+#include "present/Extra.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veyrand::controller {
+
+class GameController;
+
+enum class AccessibleRole { Pane, Dialog, List, ListItem, Button, Text, Image, Status };
+
+// "pane", "dialog", "list", "list item", "button", "text", "image", "status".
+[[nodiscard]] std::string_view nameOf(AccessibleRole role);
+
+// One thing on the screen as a reader knows it, without a toolkit. Names and values are for people.
+struct AccessibleNode {
+    std::string id; // the same for as long as the thing is there: its key, or what it stands for
+    AccessibleRole role = AccessibleRole::Text;
+    std::string name;
+    std::string value {};
+    std::vector<std::string> actions {}; // what comes before a colon is the action's own name
+    std::vector<AccessibleNode> children {};
+    present::ExtraRect place {}; // in game heights, by its centre; no width where it has none
+    bool isFocusable = false;
+    friend bool operator==(const AccessibleNode&, const AccessibleNode&) = default;
+};
+
+// Everything that can be read and done now. It is made anew for whoever asks, and costs nothing
+// while nobody does. What can be done is what the keyboard's stops are.
+[[nodiscard]] AccessibleNode accessibleTree(GameController& controller);
+
+// The first that has the name, and an action of that name if one is asked for; null for none.
+[[nodiscard]] const AccessibleNode* find(
+    const AccessibleNode& tree, std::string_view name, std::string_view action);
+
+// Does what a reader asks of the thing; false when there is nothing to do. A block takes it for a
+// press.
+bool actOn(GameController& controller, const std::string& id, std::string_view action);
+
+// The names of everything that has an action.
+[[nodiscard]] std::vector<std::string> namesOfChoices(const AccessibleNode& tree);
+
+} // namespace veyrand::controller

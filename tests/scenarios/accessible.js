@@ -1,0 +1,47 @@
+// The board as a reader finds it: names, values, and what can be done.
+const all = (node) => node.children.reduce((list, child) => list.concat(all(child)), [node]);
+const nodes = () => all(game.accessible());
+const names = (role) => nodes().filter((n) => n.role === role).map((n) => n.name);
+const actions = (name) => nodes().find((n) => n.name === name).actions;
+
+game.start();
+game.wait(1);
+equal(names("button"), ["Classic", "Endless", "Quit"], "the title page's buttons");
+const lock = nodes().find((n) => n.name === "locked");
+equal(lock.value, "opens when you reach 5-5 in Classic", "the lock tells why");
+game.act("Classic", "press");
+game.wait(1.5);
+equal(names("dialog"), ["How to Play"], "a page hides the board");
+equal(names("list"), [], "all of it");
+game.act("How to Play", "close");
+game.wait(1.5);
+ok(nodes().some((n) => n.name.startsWith("Click on yellow to double")), "pictures are words");
+equal(actions("Move #1"), ["close"], "a page can be closed");
+
+game.play({ root: "YBYBG", goal: "BYBYG", par: 3, level: 6, stage: 1 });
+game.wait(1);
+equal(names("list"), ["goal: blue, yellow, blue, yellow, green", "start line: yellow, blue, yellow, blue, green"], "lists");
+equal(actions("yellow, start line, place 1"), ["click: doubles what follows", "lift"], "a chip that can be clicked and lifted");
+equal(actions("blue, start line, place 2"), ["lift"], "a chip that can only be lifted");
+equal(actions("green, start line, place 5"), [], "a chip from which there is no move");
+game.act("blue, start line, place 2", "lift");
+equal(actions("blue, start line, place 4"), ["drop: takes away what lies between the two blues"], "its only target");
+equal(actions("blue, start line, place 2"), ["put back"], "or back");
+game.act("blue, start line, place 2", "put back");
+game.act("blue, start line, place 2", "lift");
+game.act("blue, start line, place 4", "drop");
+equal(game.lines(), ["YBYBG", "YBBG"], "dropped");
+game.wait(3);
+equal(names("list")[2], "line 1: yellow, two blues, green", "the next line");
+equal(actions("delete line 1"), ["press: takes one line back"], "its removal");
+game.act("delete line 1", "press");
+equal(game.lines(), ["YBYBG"], "taken back");
+game.wait(2);
+const par = nodes().find((n) => n.name === "par");
+equal([par.role, par.value], ["text", "2"], "a counter with its value");
+game.act("yellow, start line, place 1", "click: doubles what follows");
+equal(game.lines().length, 2, "an action by its whole name");
+game.wait(3);
+game.act("Moves", "press");
+game.wait(1.5);
+equal(names("dialog").length, 1, "the list of moves is a page");
