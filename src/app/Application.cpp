@@ -13,6 +13,7 @@
 #include "controller/Game.h"
 #include "controller/ReplayShow.h"
 #include "desktop/posix/UserJournal.h"
+#include "desktop/qt/BoardReader.h"
 #include "desktop/qt/DataFolder.h"
 #include "desktop/qt/FilePreferences.h"
 #include "desktop/qt/Logging.h"
@@ -88,6 +89,7 @@ public:
                   [this](const desktop::qt::BoardWidget::KeyPress& press) {
                       return pressKey(m_game.controller(), press);
                   } })
+        , m_reader(m_board, m_game.layers(), m_game.controller())
         , m_window(m_menu, m_board)
     {
         m_overlay.setMainWindow(m_window);
@@ -264,6 +266,7 @@ private:
     progress::CurrentGame& m_currentGame;
     controller::Game m_game;
     desktop::qt::BoardWidget m_board;
+    desktop::qt::BoardReader m_reader;
     MainWindow m_window;
     std::optional<controller::ReplayShow> m_show;
 };

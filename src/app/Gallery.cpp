@@ -66,6 +66,7 @@ constexpr std::array kScenes {
     Scene { "stage41MessageWindow", 5, 1 },
     Scene { "stage45MessageWindow", 5, 5 },
     Scene { "takingBackMessageWindow", 6, 2 },
+    Scene { "keysMessageWindow", 6, 2 },
     Scene { "classicGameFinished", kLastLevel, 10, "chip-1-0" },
     Scene { "endlessGameLockedMessage", kTitlePage, 0 },
 };

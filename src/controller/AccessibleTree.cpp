@@ -87,12 +87,17 @@ private:
             const MessageWords words
                 = wordsOf(*window, m_controller.context().layers.textMetrics());
             made.name = words.title;
-            made.children.push_back({ .id = "message", .role = Role::Text, .name = words.body });
+            if (!words.body.empty()) {
+                made.children.push_back(
+                    { .id = "message", .role = Role::Text, .name = words.body });
+            }
         }
         if (const Stop* const place = stop(made.id)) {
             made.place
                 = { .x = place->x, .y = place->y, .width = place->width, .height = place->height };
-            made.children.front().place = made.place;
+            for (AccessibleNode& child : made.children) {
+                child.place = made.place;
+            }
         }
         allow(made, sentences::closeAction());
         return made;

@@ -145,6 +145,9 @@ constexpr std::array kItems {
         [](GameController& game) { game.pages().show("movesMessageWindow"); },
         [](GameController& game) { return game.canListMoves(); }),
     page(
+        MenuItemId::Keys, "&Keys", {},
+        [](GameController& game) { game.pages().show("keysMessageWindow"); }, canOpenPage),
+    page(
         MenuItemId::TakingBack, "&Taking Back", {},
         [](GameController& game) { game.pages().show("takingBackMessageWindow"); }, canOpenPage),
     page(

@@ -28,6 +28,7 @@ enum class MenuItemId {
     Leave,
     HowToPlay,
     Moves,
+    Keys,
     TakingBack,
     Scoring,
     BoardAnswers,

@@ -84,6 +84,10 @@ MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetr
     }
     std::stable_sort(
         pieces.begin(), pieces.end(), [](const Piece& a, const Piece& b) { return a.y > b.y; });
+    // What lies on no pane is a note beside the board, and has no heading.
+    const auto& images = message.images();
+    const bool hasHeading = std::any_of(images.begin(), images.end(),
+        [](const auto& record) { return record->imageName() == "MessageBackground"; });
     MessageWords words;
     for (auto begin = pieces.begin(); begin != pieces.end();) {
         const auto end = std::find_if(
@@ -94,6 +98,8 @@ MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetr
         const std::string text = joined(row);
         if (words.title.empty()) {
             words.title = text;
+        } else if (!hasHeading) {
+            words.title += ' ' + text;
         } else {
             words.body += (words.body.empty() ? "" : " ") + text;
         }

@@ -113,6 +113,12 @@ std::string question()
     return "Continue the game or start a new one?";
 }
 
+std::string message(const std::string& title, const std::string& body)
+{
+    const bool isClosed = title.empty() || title.find_last_of(".!?)") + 1 == title.size();
+    return title + (isClosed ? "" : ".") + (title.empty() || body.empty() ? "" : " ") + body;
+}
+
 std::string titlePage()
 {
     return "Title page.";
@@ -147,7 +153,7 @@ std::string dropAction(char letter)
     case 'B':
         return "drop: takes away what lies between the two blues";
     default:
-        return "drop: swaps the yellow with the chip two places on";
+        return "drop: jumps over two chips, which swap places";
     }
 }
 

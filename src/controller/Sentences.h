@@ -21,6 +21,7 @@ namespace veyrand::controller::sentences {
 [[nodiscard]] std::string removal(unsigned row); // "delete line 2"
 [[nodiscard]] std::string hintPieces(const std::vector<std::string>& pieces);
 [[nodiscard]] std::string question();
+[[nodiscard]] std::string message(const std::string& title, const std::string& body);
 [[nodiscard]] std::string titlePage();
 
 // --- Actions. The word before a colon is the action's own name.

@@ -6,6 +6,7 @@
 #include "controller/Legality.h"
 #include "controller/MessageWords.h"
 #include "controller/Sentences.h"
+#include "controller/Speech.h"
 
 namespace veyrand::controller {
 
@@ -44,29 +45,30 @@ std::string Speaker::state() const
     return text;
 }
 
+// What is said in one go is one sentence, however long the clock says it took.
 void Speaker::say(const std::string& sentence)
 {
     if (!m_listener || sentence.empty()) {
         return;
     }
-    const double now = m_game.runLoop.now();
-    if (m_saidAt != now) {
+    if (!m_isOpen) {
+        m_isOpen = true;
         m_waiting.clear();
+        m_game.runLoop.performAfterDelay(0.0, [this] { finishSentence(); });
     }
-    m_saidAt = now;
     m_state = state();
     m_waiting.push_back(sentence);
-    const double due = m_toldAt < 0.0 ? now : std::max(now, m_toldAt + kBetweenTwo);
-    await(due - now);
 }
 
-void Speaker::await(double seconds)
+void Speaker::finishSentence()
 {
-    m_game.runLoop.performAfterDelay(seconds, [this, number = ++m_number] {
-        if (number == m_number) {
-            flush();
-        }
-    });
+    m_isOpen = false;
+    const double wait = m_toldAt < 0.0 ? 0.0 : m_toldAt + kBetweenTwo - m_game.runLoop.now();
+    if (wait > 0.0) {
+        m_game.runLoop.performAfterDelay(wait, [this] { flush(); });
+    } else {
+        flush();
+    }
 }
 
 void Speaker::flush()
@@ -118,7 +120,7 @@ void Speaker::moveMade(unsigned rule)
 void Speaker::refused(const play::Refusal& why)
 {
     if (isHeard()) {
-        say(play::wordsFor(why));
+        say(wordsFor(m_game.texts, why));
     }
 }
 
@@ -219,8 +221,7 @@ void Speaker::messageShown()
         return;
     }
     const MessageWords words = wordsOf(*message, m_game.layers.textMetrics());
-    say(words.title + (words.title.empty() ? "" : ".") + (words.body.empty() ? "" : " ")
-        + words.body);
+    say(sentences::message(words.title, words.body));
 }
 
 void Speaker::questionAsked()

@@ -57,7 +57,7 @@ public:
 private:
     void say(const std::string& sentence);
     void sayLine();
-    void await(double seconds);
+    void finishSentence();
     [[nodiscard]] std::string state() const;
     [[nodiscard]] const engine::Proof* proof() const; // null when no line stands
     [[nodiscard]] int movesToPar() const;
@@ -68,9 +68,8 @@ private:
     std::vector<std::string> m_waiting; // the parts of one sentence
     std::string m_last;
     std::string m_state; // of the board when they were said
-    double m_saidAt = -1.0;
     double m_toldAt = -1.0;
-    unsigned m_number = 0;
+    bool m_isOpen = false; // a sentence to which more is added until the run loop comes round
 };
 
 } // namespace veyrand::controller

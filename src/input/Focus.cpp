@@ -81,11 +81,13 @@ std::optional<Stop> Focus::current(const std::vector<Stop>& stops) const
     if (const Stop* const same = withKey(stops, m_place.key)) {
         return *same;
     }
-    if (const Stop* const entry = entryOf(stops, m_place.group)) {
+    // A button of the panel goes only with everything else; then the line comes first.
+    const bool isElsewhere = m_place.group == Group::Panel || m_place.group == Group::Message;
+    if (const Stop* const entry = entryOf(stops, isElsewhere ? Group::Line : m_place.group)) {
         return *entry;
     }
-    // A line that cannot be played on yet will be, once what moves has come to rest.
-    if (m_place.group == Group::Line && m_game.lineCount() > 0 && m_view.block().blockClick()) {
+    // What cannot be played on yet will be, once what moves has come to rest.
+    if (m_view.block().blockClick()) {
         return std::nullopt;
     }
     for (const Group group : { Group::Line, Group::Removal, Group::Panel }) {

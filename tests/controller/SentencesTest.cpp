@@ -33,6 +33,13 @@ TEST(Sentences, ASolvedPuzzleTellsItsPoints)
     EXPECT_EQ(solved(160, -1), "Solved one move under par: 160 points.");
 }
 
+TEST(Sentences, AMessageEndsItsHeadingAsASentence)
+{
+    EXPECT_EQ(message("How to Play", "Click."), "How to Play. Click.");
+    EXPECT_EQ(message("Goal!", ""), "Goal!");
+    EXPECT_EQ(message("", "Click."), "Click.");
+}
+
 TEST(Sentences, ADifferenceBeginsWhereTheLinesPart)
 {
     EXPECT_EQ(difference("YR", "YR"), "The line is the goal.");

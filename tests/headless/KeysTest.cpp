@@ -2,6 +2,8 @@
 #include "progress/PlayerKeys.h"
 #include "support/HeadlessPlay.h"
 
+#include <gmock/gmock.h>
+
 namespace veyrand::test {
 
 class Keys : public HeadlessPlay {
@@ -285,6 +287,32 @@ TEST_F(Keys, ANoteIsReadFirstAndThenPlayGoesOnBesideIt)
     key("Return"); // of a note that has just opened, closes it alone
     EXPECT_EQ(game().controller().messages().page(), "");
     EXPECT_EQ(lines().size(), 2U);
+}
+
+TEST_F(Keys, ANewBoardPutsTheFocusOnItsLine)
+{
+    key("Down");
+    EXPECT_EQ(focus(), "button-classicbuttonon");
+    key("Return");
+    settle();
+    while (!game().controller().messages().page().empty()) {
+        key("Return");
+        settle();
+    }
+    EXPECT_EQ(focus(), "chip-0-0");
+}
+
+TEST_F(Keys, TheFocusWaitsForTheNextPuzzleWhileOneIsCelebrated)
+{
+    play("YR", "YRG");
+    key("2");
+    key("Return");
+    for (int tenths = 0; tenths < 64; ++tenths) {
+        wait(0.1);
+        EXPECT_THAT(focus(), ::testing::AnyOf("", ::testing::StartsWith("chip-")));
+    }
+    settle();
+    EXPECT_THAT(focus(), ::testing::StartsWith("chip-"));
 }
 
 TEST_F(Keys, AQuestionIsAnsweredAmongItsTwoAnswers)

@@ -116,6 +116,18 @@ TEST_F(Reader, SolvesTheFirstThirtyPuzzlesByNamesAndActions)
     }
 }
 
+// The clock of a real game goes on between the parts of one sentence; nothing of it is lost.
+TEST_F(Reader, OneGestureIsOneSentenceHoweverManyPartsItHas)
+{
+    game().listen();
+    play("YR", "YRG");
+    static_cast<void>(game().takeAnnouncements());
+    click("chip-1-0");
+    EXPECT_EQ(game().takeAnnouncements(),
+        (std::vector<std::string> {
+            "Move 2. Line 1: yellow, red, green. Solved at par: 150 points." }));
+}
+
 TEST_F(Reader, NothingIsSpokenWhileNobodyListens)
 {
     play("YR", "YRG");

@@ -11,6 +11,9 @@ namespace veyrand::bench {
 // A hint on a full board that no line of leads to the goal, against the reference.
 void measureHint(Results& results);
 
+// What telling a move costs while nobody listens, and what the accessible tree does.
+void measureSpeech(Results& results);
+
 // Exact distances without a search's limits.
 void measureDistances(Results& results);
 

@@ -64,6 +64,9 @@ QSize BoardWidget::sizeHint() const
 // Changes come in bursts; the first asks for a frame and the rest find it asked for.
 void BoardWidget::scheduleFrame()
 {
+    if (m_changed) {
+        m_changed();
+    }
     if (!m_frameTimer.isActive()) {
         m_frameTimer.start(0);
     }

@@ -49,6 +49,9 @@ public:
     // own points) that has to be painted again for it.
     QRegion nextFrame();
 
+    // Called on every change of what is shown, so often that the listener should only take note.
+    void setChangeListener(std::function<void()> listener) { m_changed = std::move(listener); }
+
     // How many frames have been painted, and whether the next is already on its way.
     [[nodiscard]] int framesPainted() const { return m_framesPainted; }
     [[nodiscard]] bool isFrameDue() const { return m_frameTimer.isActive(); }
@@ -91,6 +94,7 @@ private:
     QElapsedTimer m_clock;
     FramePace m_pace;
     bool m_moving = false; // the last frame asked for another
+    std::function<void()> m_changed;
     std::optional<QPointF> m_pointerOnDesktop;
     std::optional<platform::Point> m_dragged; // where the held button was last seen
     input::Cursor m_cursor = input::Cursor::Arrow;
