@@ -77,7 +77,9 @@ public:
                          },
                      .journal = journal(),
                      .desktopLanguages = desktopLanguages(),
-                     .motionWish = m_motionWish.get() },
+                     .motionWish = m_motionWish.get(),
+                     .calendar = &m_calendar,
+                     .clipboard = &m_clipboard },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -157,6 +159,11 @@ public:
         m_window.open({});
         m_show.emplace(m_game.controller(), std::move(actions));
         m_show->start();
+    }
+
+    void open(const std::string& puzzleCode)
+    {
+        m_game.controller().practice().openOrTell(puzzleCode);
     }
 
     // The application's own loop has ended by now, and what is asked here still needs one to be
@@ -255,6 +262,8 @@ private:
     desktop::qt::MainScreen m_screen;
     desktop::qt::QtQuit m_quit;
     desktop::qt::QtLog m_log;
+    desktop::qt::SystemCalendar m_calendar;
+    desktop::qt::SystemClipboard m_clipboard;
     platform::TrackedPointer m_pointer;
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images;
@@ -314,7 +323,7 @@ int showJournal(const QString& dataFolder, const QString& file)
     return status;
 }
 
-int runGame(const QString& dataFolder)
+int runGame(const QString& dataFolder, const std::string& puzzleCode)
 {
     Application application(
         dataFolder, desktop::qt::FilePreferences::usualFile(), Application::Games::Kept);
@@ -326,6 +335,9 @@ int runGame(const QString& dataFolder)
         return 1;
     }
     application.show();
+    if (!puzzleCode.empty()) {
+        application.open(puzzleCode);
+    }
     const int status = GuardedApplication::failure() ? EXIT_FAILURE : QApplication::exec();
     if (const auto reason = GuardedApplication::failure()) {
         application.giveUp(*reason);

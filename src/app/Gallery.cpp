@@ -67,6 +67,9 @@ constexpr std::array kScenes {
     Scene { "stage45MessageWindow", 5, 5 },
     Scene { "takingBackMessageWindow", 6, 2 },
     Scene { "keysMessageWindow", 6, 2 },
+    Scene { "practiceMessageWindow", 6, 2 },
+    Scene { "allMovesMessageWindow", 3, 2 },
+    Scene { "hintsInClassicMessageWindow", 3, 2 },
     Scene { "classicGameFinished", kLastLevel, 10, "chip-1-0" },
     Scene { "endlessGameLockedMessage", kTitlePage, 0 },
 };

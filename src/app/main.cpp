@@ -36,7 +36,8 @@ struct Pictures {
     [[nodiscard]] QSize shape() const { return { size.at(0), size.at(1) }; }
 };
 
-int run(const Pictures& pictures, const std::optional<std::string>& journal)
+int run(const Pictures& pictures, const std::optional<std::string>& journal,
+    const std::string& puzzleCode)
 {
     const QString dataFolder = veyrand::desktop::qt::findDataFolder();
     if (dataFolder.isEmpty()) {
@@ -66,7 +67,7 @@ int run(const Pictures& pictures, const std::optional<std::string>& journal)
     }
     QApplication::setWindowIcon(veyrand::desktop::qt::applicationIcon(dataFolder));
     return journal ? veyrand::app::showJournal(dataFolder, QString::fromStdString(*journal))
-                   : veyrand::app::runGame(dataFolder);
+                   : veyrand::app::runGame(dataFolder, puzzleCode);
 }
 
 // Pictures and sounds are taken and given back in large pieces. Left to itself the C library keeps
@@ -165,6 +166,12 @@ int start(int argc, char** argv)
     std::optional<std::string> journal;
     addPictureOptions(options, pictures, journal);
     addLooks(options, pictures);
+    std::string puzzleCode;
+    options.add_option("CODE", puzzleCode, "Open the puzzle of this code, or of a veyrand: link")
+        ->excludes("--demo")
+        ->excludes("--gallery")
+        ->excludes("--replay")
+        ->excludes("--page");
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -177,7 +184,7 @@ int start(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral(VEYRAND_ID)); // whose icon the desktop shows
-    return run(pictures, journal);
+    return run(pictures, journal, puzzleCode);
 }
 
 } // namespace

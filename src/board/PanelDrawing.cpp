@@ -96,11 +96,15 @@ void PanelDrawing::drawLabels()
 void PanelDrawing::drawCounters()
 {
     const bool endless = m_currentGame.endlessGame();
+    const auto& practice = m_currentGame.practice();
     setCounter("counter-score",
-        std::to_string(endless ? m_currentGame.endlessScore() : m_currentGame.score()));
+        practice ? "\u2013"
+                 : std::to_string(endless ? m_currentGame.endlessScore() : m_currentGame.score()));
     if (!endless) {
         setCounter("counter-stage",
-            std::to_string(m_currentGame.level()) + '-' + std::to_string(m_currentGame.stage()));
+            practice ? practice->caption
+                     : std::to_string(m_currentGame.level()) + '-'
+                    + std::to_string(m_currentGame.stage()));
     }
     // The player counts moves; the par is kept in lines, the start line included.
     setCounter("counter-par", std::to_string(m_currentGame.par() - 1));

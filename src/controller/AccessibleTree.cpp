@@ -189,7 +189,8 @@ private:
             return std::any_of(m_actions.begin(), m_actions.end(), test);
         };
         if (has([&](const play::Gesture& gesture) {
-                return gesture == play::Gesture(play::Click { row, column });
+                const auto* const click = std::get_if<play::Click>(&gesture);
+                return click != nullptr && *click == play::Click { row, column };
             })) {
             chip.actions.push_back(sentences::clickAction(chips[column]));
         }

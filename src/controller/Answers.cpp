@@ -101,6 +101,10 @@ Answers::Situation Answers::situation() const
 {
     Situation now;
     now.isOn = m_settings.answers;
+    now.sheet = m_controller.sheets().revision();
+    if (m_controller.sheets().isOpen()) {
+        return now;
+    }
     now.whisper = m_whisper;
     now.tipSize = m_settings.tipSize;
     now.focus = m_controller.focus().shown();
@@ -149,6 +153,7 @@ void Answers::direct()
         m_celebration.pageOpened(m_shown.page);
     }
     std::vector<Extra> wanted;
+    m_controller.sheets().addTo(wanted);
     if (m_shown.isOn) {
         addRows(wanted);
         addHands(wanted);
@@ -182,6 +187,9 @@ std::string Answers::thingUnderPointer() const
 
 Cursor Answers::cursor() const
 {
+    if (m_controller.sheets().isOpen() || m_controller.sheets().isPointing()) {
+        return m_controller.sheets().isPointing() ? Cursor::Pointing : Cursor::Arrow;
+    }
     const input::InputBlock& block = m_game.view.block();
     if (!m_settings.answers || m_game.view.messageWindow()
         || (block.blockClick() && block.length() >= kBlockThatShows)) {

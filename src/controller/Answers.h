@@ -59,6 +59,7 @@ private:
         std::string whisper;
         std::optional<input::Stop> focus;
         std::string celebration;
+        unsigned sheet = 0; // the revision of what lies before the board
         std::string page;
         Finale finale = Finale::None;
         std::size_t words = 0; // lines of the message on show

@@ -42,6 +42,7 @@ bool Celebration::isOn() const
 void Celebration::puzzleLaidOut()
 {
     m_headline.clear();
+    m_inMoves.clear();
     m_proof.reset();
     m_purseAtStart = purse();
 }
@@ -81,8 +82,17 @@ void Celebration::solved(long points)
 
 void Celebration::showPlate()
 {
-    m_headline = headlineFor(
-        m_points, static_cast<int>(m_controller.lineCount()) - m_game.currentGame.par());
+    const auto lines = static_cast<int>(m_controller.lineCount());
+    const int over = lines - m_game.currentGame.par();
+    if (m_game.currentGame.practice()) {
+        m_headline = m_game.texts.text(over == 0 ? "practice.atPar" : "practice.overPar",
+            { { "moves", std::int64_t { over } } });
+        m_inMoves
+            = m_game.texts.text("practice.inMoves", { { "moves", std::int64_t { lines - 1 } } });
+        m_controller.answers().handsChanged();
+        return;
+    }
+    m_headline = headlineFor(m_points, over);
     if (m_game.layers.extras().taste() == present::MotionTaste::Full) {
         count(0);
     } else {
@@ -134,8 +144,8 @@ void Celebration::pageOpened(const std::string& page)
 void Celebration::addTo(std::vector<present::Extra>& wanted) const
 {
     if (!m_headline.empty()) {
-        const std::string below
-            = (m_hints.empty() ? std::string() : m_hints + "  \u00B7  ") + std::to_string(m_shown);
+        const std::string below = (m_hints.empty() ? std::string() : m_hints + "  \u00B7  ")
+            + (m_inMoves.empty() ? std::to_string(m_shown) : m_inMoves);
         wanted.push_back(
             present::brassPlate(m_row, m_headline, below, m_game.layers.textMetrics()));
         if (!m_hints.empty()) {

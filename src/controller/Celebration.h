@@ -52,6 +52,7 @@ private:
     long m_points = 0;
     unsigned m_row = 0;
     std::string m_headline; // empty while no plate is shown
+    std::string m_inMoves; // in the place of points
     std::string m_hints; // what they cost, if anything
 };
 

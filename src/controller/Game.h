@@ -29,6 +29,8 @@ struct GamePorts {
     // chosen another language.
     std::vector<std::string> desktopLanguages {};
     platform::MotionWish* motionWish = nullptr; // null: the desktop has none
+    const platform::Calendar* calendar = nullptr; // see GameContext
+    platform::Clipboard* clipboard = nullptr; // see GameContext
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -69,7 +71,10 @@ public:
             .alerts = ports.alerts,
             .offerInstallation = ports.offerInstallation,
             .journal = ports.journal,
-            .motionWish = ports.motionWish }
+            .motionWish = ports.motionWish,
+            .resources = ports.resources,
+            .calendar = ports.calendar,
+            .clipboard = ports.clipboard }
         , m_controller(m_context)
     {
         speakAsChosen();

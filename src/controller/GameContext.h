@@ -6,12 +6,15 @@
 #include "input/GameView.h"
 #include "language/Texts.h"
 #include "platform/Alerts.h"
+#include "platform/Calendar.h"
+#include "platform/Clipboard.h"
 #include "platform/Journal.h"
 #include "platform/Log.h"
 #include "platform/MotionWish.h"
 #include "platform/OverlayWindow.h"
 #include "platform/Preferences.h"
 #include "platform/Quit.h"
+#include "platform/Resources.h"
 #include "platform/Window.h"
 #include "present/BoardLayers.h"
 #include "progress/CurrentGame.h"
@@ -46,6 +49,9 @@ struct GameContext {
     std::function<void(std::function<void()>)> offerInstallation;
     platform::Journal* journal; // null: no puzzle outlasts the board
     platform::MotionWish* motionWish; // null: the desktop has none
+    const platform::Resources& resources;
+    const platform::Calendar* calendar; // null: it is always the first day of 1970
+    platform::Clipboard* clipboard; // null: nothing can be copied or pasted
 };
 
 } // namespace veyrand::controller

@@ -17,6 +17,8 @@ GameController::GameController(GameContext& context)
     , m_flow(*this)
     , m_kept(*this)
     , m_previous(*this)
+    , m_book(*this)
+    , m_practice(*this)
     , m_lines(*this)
     , m_moves(*this)
     , m_titlePage(context)
@@ -27,6 +29,7 @@ GameController::GameController(GameContext& context)
     , m_fullScreen(*this)
     , m_focus(context.view, context.board.gameData.gameObjects(), *this)
     , m_speaker(*this)
+    , m_sheets(*this)
     , m_answers(*this)
 {
     m_context.view.setGestureTarget(*this);
@@ -36,6 +39,7 @@ void GameController::awake(platform::Size viewSize)
 {
     updateContentViewFrame(viewSize);
     m_kept.recoverAll();
+    m_book.load();
     m_previous.finishChanging();
     m_titlePage.createTitleAndStartButtons();
 }
@@ -105,6 +109,9 @@ bool GameController::closePage()
 
 bool GameController::key(std::string_view keys, Press press)
 {
+    if (m_sheets.isOpen()) {
+        return m_sheets.key(keys);
+    }
     const auto command = input::commandFor(keys);
     if (!command || (press == Press::Repeated && !input::movesFocus(command->verb))) {
         return false;
@@ -160,6 +167,9 @@ bool GameController::speak(input::KeyCommand::Verb verb)
 
 void GameController::escape()
 {
+    if (m_sheets.escape()) {
+        return;
+    }
     if (m_focus.putBack()) {
         m_speaker.chipPutBack();
         m_answers.handsChanged();
@@ -185,7 +195,8 @@ bool GameController::gameMenuItemEnabled() const
 
 bool GameController::canOpenPage() const
 {
-    return m_context.view.overlay() == input::Overlay::None && !m_context.view.block().blockClick();
+    return m_context.view.overlay() == input::Overlay::None && !m_context.view.block().blockClick()
+        && !m_sheets.isOpen();
 }
 
 void GameController::showHowToPlay()

@@ -10,9 +10,12 @@
 #include "controller/Messages.h"
 #include "controller/Moves.h"
 #include "controller/Pages.h"
+#include "controller/Practice.h"
 #include "controller/PreviousGames.h"
 #include "controller/ProofLines.h"
+#include "controller/ResultBook.h"
 #include "controller/SettingsInForce.h"
+#include "controller/Sheets.h"
 #include "controller/Speaker.h"
 #include "controller/TitlePage.h"
 #include "controller/Tutorial.h"
@@ -53,6 +56,10 @@ public:
     [[nodiscard]] GameFlow& flow() { return m_flow; }
     [[nodiscard]] KeptGames& kept() { return m_kept; }
     [[nodiscard]] PreviousGames& previous() { return m_previous; }
+    [[nodiscard]] Sheets& sheets() { return m_sheets; }
+    [[nodiscard]] Practice& practice() { return m_practice; }
+    [[nodiscard]] const Practice& practice() const { return m_practice; }
+    [[nodiscard]] ResultBook& book() { return m_book; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
     [[nodiscard]] Messages& messages() { return m_messages; }
     [[nodiscard]] Pages& pages() { return m_pages; }
@@ -112,6 +119,8 @@ private:
     GameFlow m_flow;
     KeptGames m_kept;
     PreviousGames m_previous;
+    ResultBook m_book;
+    Practice m_practice;
     ProofLines m_lines;
     Moves m_moves;
     TitlePage m_titlePage;
@@ -122,6 +131,7 @@ private:
     FullScreen m_fullScreen;
     input::Focus m_focus;
     Speaker m_speaker;
+    Sheets m_sheets;
     Answers m_answers;
 };
 

@@ -68,7 +68,9 @@ play::Puzzle GameFlow::puzzleInPlay() const
         .root = game.proof()->root().theorem(),
         .goal = game.proof()->goal().theorem(),
         .par = game.par(),
-        .saved = isEndless ? game.endlessScore() : game.score(),
+        .saved = game.practice() ? game.practice()->purse
+            : isEndless          ? game.endlessScore()
+                                 : game.score(),
         .spent = 0 };
 }
 
@@ -201,6 +203,7 @@ void GameFlow::resume(play::Replay kept)
 void GameFlow::layOutPuzzle()
 {
     // Whatever was open goes with the board it lay on.
+    m_controller.sheets().close();
     m_controller.messages().dismiss();
     m_controller.dialogues().dismiss();
     m_controller.hints().resetHintMode();
@@ -223,7 +226,9 @@ void GameFlow::puzzleFinished()
         return m_successor();
     }
     const CurrentGame& game = m_game.currentGame;
-    if (!game.endlessGame() && game.level() == kLastLevel && game.stage() == kLastStage) {
+    if (game.practice()) {
+        m_controller.practice().finished();
+    } else if (!game.endlessGame() && game.level() == kLastLevel && game.stage() == kLastStage) {
         finishClassicGame();
     } else {
         nextLevel();
@@ -261,6 +266,7 @@ void GameFlow::finishClassicGame()
 
 void GameFlow::returnToMenu()
 {
+    const bool wasPractice = m_game.currentGame.practice() && m_session;
     m_controller.kept().close();
     m_controller.messages().dismiss();
     m_controller.hints().resetHintMode();
@@ -270,6 +276,9 @@ void GameFlow::returnToMenu()
     m_game.effects.play(platform::Effect::GlockE2);
     m_controller.titlePage().createTitleAndStartButtons();
     m_controller.speaker().titleShown();
+    if (wasPractice) {
+        m_controller.sheets().openMap(); // it came from there
+    }
 }
 
 void GameFlow::easierButtonClick()

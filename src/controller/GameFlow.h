@@ -51,6 +51,7 @@ public:
 
     // Puts the current game's puzzle on the board, without greeting or music.
     void layOutPuzzle();
+    void startMusic();
     // Draws every chip of every line anew, at once in its place. A move that was still being shown
     // is over then.
     void regenerateBoard();
@@ -78,7 +79,6 @@ private:
     void layOutKeptOrNewPuzzle();
     void repairPosition();
     void finishClassicGame();
-    void startMusic();
     void saveEndlessScore();
     void updateRecord(const progress::PlayerRecordChange& change);
 

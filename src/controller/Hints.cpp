@@ -25,6 +25,9 @@ Hints::Hints(GameController& controller)
 void Hints::lightBulbClick()
 {
     const progress::CurrentGame& game = m_game.currentGame;
+    if (m_controller.practice().isOn()) {
+        return practiceClick();
+    }
     if ((game.endlessGame() ? game.endlessScore() : game.score()) < kPrice) {
         if (m_controller.proof()) {
             m_controller.pages().show("stopHintClick");
@@ -51,6 +54,22 @@ void Hints::hintClick()
         m_game.currentGame.addToScore(kPrice);
         return;
     }
+    giveHint();
+}
+
+// Free, and nothing has to be explained first: the record must not hear of it.
+void Hints::practiceClick()
+{
+    if (m_controller.practice().givesHints()) {
+        giveHint();
+    } else {
+        m_controller.pages().show("hintsInClassicMessageWindow");
+    }
+}
+
+void Hints::giveHint()
+{
+    const auto& proof = m_controller.proof();
     const auto decision = play::decideHint(proof, stage(), kPrice);
     if (const auto* const hint = std::get_if<play::Hint>(&decision)) {
         apply(*hint);

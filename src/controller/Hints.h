@@ -19,6 +19,8 @@ public:
 
     // One click's worth of hint, its price already taken.
     void hintClick();
+    void practiceClick();
+    void giveHint();
 
     // A hint that has been decided elsewhere, paid for here.
     void give(const play::Hint& hint);

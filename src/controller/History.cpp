@@ -39,7 +39,8 @@ bool History::canRedo() const
 // Beside a note play goes on; a page or a question comes first.
 bool History::mayStep() const
 {
-    return (m_game.view.overlay() == input::Overlay::None || m_game.view.tutorialWindow())
+    return !m_controller.sheets().isOpen()
+        && (m_game.view.overlay() == input::Overlay::None || m_game.view.tutorialWindow())
         && (!m_game.view.block().blockClick() || isOwnBlock());
 }
 

@@ -163,7 +163,9 @@ void KeptGames::setAside(Mode mode, std::string_view reason, const std::string& 
 const Replay* KeptGames::inPlay() const
 {
     const play::Session* const session = m_controller.flow().session();
-    return session != nullptr ? &session->settled() : nullptr;
+    // What is practised is nobody's unfinished puzzle.
+    const bool isKept = session != nullptr && !m_game.currentGame.practice();
+    return isKept ? &session->settled() : nullptr;
 }
 
 void KeptGames::begin()
@@ -184,6 +186,9 @@ void KeptGames::begin()
 
 void KeptGames::add(const play::Action& action)
 {
+    if (inPlay() == nullptr) {
+        return;
+    }
     const Replay& replay = *inPlay();
     const Mode mode = replay.puzzle()->mode;
     File& file = fileOf(mode);

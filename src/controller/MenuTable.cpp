@@ -78,6 +78,12 @@ constexpr std::array kItems {
         .keys = { "Ctrl+E" },
         .choose = [](GameController& game) { game.flow().newEndlessGame(); },
         .mayChoose = canStart },
+    MenuItem { .id = MenuItemId::Puzzles,
+        .menu = MenuId::Game,
+        .text = "&Puzzles\u2026",
+        .keys = { "Ctrl+P" },
+        .choose = [](GameController& game) { game.sheets().openMap(); },
+        .mayChoose = [](GameController& game) { return game.sheets().canOpen(); } },
     MenuItem { .id = MenuItemId::BringBack,
         .menu = MenuId::Game,
         .text = "&Bring Back the Previous Game",
@@ -156,6 +162,9 @@ constexpr std::array kItems {
     page(
         MenuItemId::BoardAnswers, "The &Board Answers", {},
         [](GameController& game) { game.pages().show("boardAnswersMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::Practice, "&Practice", {},
+        [](GameController& game) { game.pages().show("practiceMessageWindow"); }, canOpenPage),
     separator(MenuId::Help),
     MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
 };

@@ -18,6 +18,7 @@ enum class MenuItemId {
     ClassicGame,
     EndlessGame,
     BringBack,
+    Puzzles,
     Quit,
     Undo,
     Redo,
@@ -32,6 +33,7 @@ enum class MenuItemId {
     TakingBack,
     Scoring,
     BoardAnswers,
+    Practice,
     About,
 };
 

@@ -42,6 +42,7 @@ void ProofLines::calculateScore()
     const progress::CurrentGame& game = m_game.currentGame;
     const auto points
         = play::pointsForSolving(game.endlessGame(), game.par(), m_controller.lineCount());
+    m_controller.book().solved(m_controller.book().nameOfPuzzleInPlay());
     m_controller.answers().solved(points);
     m_controller.speaker().solved(points);
     m_game.currentGame.addToScore(points);

@@ -29,7 +29,7 @@ Tutorial::Tutorial(GameController& controller)
 
 const Gate* Tutorial::gate() const
 {
-    if (!m_running || m_game.currentGame.endlessGame()) {
+    if (!m_running || m_game.currentGame.endlessGame() || m_game.currentGame.practice()) {
         return nullptr;
     }
     for (const Gate& gate : m_game.script.gates) {

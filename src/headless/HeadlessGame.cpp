@@ -49,6 +49,7 @@ HeadlessGame::HeadlessGame(const Options& options)
     , m_random(options.seed)
     , m_resources(options.resources != nullptr ? *options.resources : noResources())
     , m_screen(options.screen)
+    , m_calendar(options.today)
     , m_alerts(options.alerts != nullptr ? *options.alerts : m_ownAlerts)
     , m_menu(m_preferences)
     , m_currentGame(m_preferences, m_random, m_resources)
@@ -67,7 +68,9 @@ HeadlessGame::HeadlessGame(const Options& options)
                  .alerts = m_alerts,
                  .offerInstallation = options.offerInstallation,
                  .journal = options.journal,
-                 .motionWish = options.motionWish },
+                 .motionWish = options.motionWish,
+                 .calendar = &m_calendar,
+                 .clipboard = &m_clipboard },
           m_currentGame, m_gameData)
     , m_touch(m_game.view(), m_game.layers(), m_pointer)
     , m_resizer([this](platform::Size size) { resize(size); })

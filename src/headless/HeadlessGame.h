@@ -6,7 +6,9 @@
 #include "input/Touch.h"
 #include "platform/MemoryPreferences.h"
 #include "platform/TrackedPointer.h"
+#include "platform/fakes/FixedCalendar.h"
 #include "platform/fakes/FixedScreen.h"
+#include "platform/fakes/MemoryClipboard.h"
 #include "platform/fakes/MemoryWindow.h"
 #include "platform/fakes/NotedAlerts.h"
 #include "platform/fakes/NotedLog.h"
@@ -46,7 +48,9 @@ public:
         std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
         platform::Journal* journal = nullptr; // outlives the game; null: nothing is kept
         platform::MotionWish* motionWish = nullptr; // outlives the game; null: the desktop has none
+        std::int64_t today = kUsualDay; // see Calendar
     };
+    static constexpr std::int64_t kUsualDay = 20'778; // 21 November 2026, a Saturday
     enum class Modifier { None, Held };
 
     explicit HeadlessGame(const Options& options);
@@ -104,6 +108,8 @@ public:
     [[nodiscard]] const platform::NotedLog& log() const { return m_log; }
     [[nodiscard]] const platform::NotedOverlay& overlay() const { return m_overlay; }
     [[nodiscard]] platform::MemoryWindow& window() { return m_window; }
+    [[nodiscard]] platform::FixedCalendar& calendar() { return m_calendar; }
+    [[nodiscard]] platform::MemoryClipboard& clipboard() { return m_clipboard; }
     [[nodiscard]] platform::NotedAlerts& alerts() { return m_alerts; }
 
 private:
@@ -121,6 +127,8 @@ private:
     platform::NotedLog m_log;
     platform::NotedOverlay m_overlay;
     platform::MemoryWindow m_window;
+    platform::FixedCalendar m_calendar;
+    platform::MemoryClipboard m_clipboard;
     platform::NotedAlerts m_ownAlerts;
     platform::NotedAlerts& m_alerts;
     platform::TrackedPointer m_pointer;

@@ -39,6 +39,12 @@ GameView::GameView(const Parts& parts)
 
 void GameView::mouseDown(const MouseEvent& event)
 {
+    m_foregroundHasPress
+        = m_foreground != nullptr && m_foreground->pressed(onBoard(event.location));
+    if (m_foregroundHasPress) {
+        cancelGesture();
+        return;
+    }
     tellPointerUsed();
     if (m_lift != Lift::ByPointer) {
         cancelGesture();
@@ -131,6 +137,9 @@ void GameView::activate(const std::string& key)
 
 void GameView::mouseDragged(const MouseEvent& event)
 {
+    if (m_foregroundHasPress) {
+        return;
+    }
     if (!m_drag && m_click && !m_blockDrag && hasMoved(event.location)) {
         tryToStartDrag(event.location);
     }
@@ -146,6 +155,10 @@ void GameView::mouseDragged(const MouseEvent& event)
 
 void GameView::followPointer()
 {
+    if (const auto place = m_pointer.position();
+        m_foreground != nullptr && place && m_foreground->hovered(onBoard(*place))) {
+        return;
+    }
     // To what can be dropped on, a lifted chip is one that is dragged.
     m_hover.pointerMoved(m_lift == Lift::ByPointer ? Hover::Button::Held : m_held);
     if (m_onlooker != nullptr) {
@@ -155,6 +168,11 @@ void GameView::followPointer()
 
 void GameView::mouseUp(const MouseEvent& event)
 {
+    if (m_foregroundHasPress) {
+        m_foregroundHasPress = false;
+        m_foreground->released(onBoard(event.location));
+        return;
+    }
     m_held = Hover::Button::Up; // whatever the game's answer opens has no gesture to cancel
     letGo();
     if (m_lift == Lift::ByPointer) {
@@ -303,6 +321,14 @@ std::string GameView::keyHit(platform::Point location) const
 {
     const present::GameObjectLayer* const layer = chipLayerHit(location);
     return layer != nullptr ? layer->gameObjectKey() : std::string();
+}
+
+platform::Point GameView::onBoard(platform::Point location) const
+{
+    const platform::RectF board = m_layers.backgroundLayer().rectInRoot();
+    const auto height = static_cast<double>(board.height);
+    return { .x = (location.x - static_cast<double>(board.x)) / height,
+        .y = (location.y - static_cast<double>(board.y)) / height };
 }
 
 platform::PointF GameView::onBackground(platform::Point location) const

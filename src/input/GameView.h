@@ -1,6 +1,7 @@
 #pragma once
 
 #include "input/DragImage.h"
+#include "input/Foreground.h"
 #include "input/Hover.h"
 #include "input/InputBlock.h"
 #include "input/Onlooker.h"
@@ -37,6 +38,8 @@ public:
 
     void setGestureTarget(GestureTarget& target) { m_target = &target; }
     void setOnlooker(Onlooker* onlooker) { m_onlooker = onlooker; }
+    // What lies before the board; null for nothing.
+    void setForeground(Foreground* foreground) { m_foreground = foreground; }
     // What the player has chosen; asked whenever it matters.
     void setHabits(std::function<Habits()> habits) { m_habits = std::move(habits); }
     // Called whenever the mouse or a finger is used.
@@ -95,6 +98,7 @@ private:
 
     [[nodiscard]] present::GameObjectLayer* chipLayerHit(platform::Point location) const;
     [[nodiscard]] std::string keyHit(platform::Point location) const; // empty when none
+    [[nodiscard]] platform::Point onBoard(platform::Point location) const; // in game heights
     [[nodiscard]] platform::PointF onBackground(platform::Point location) const;
     [[nodiscard]] bool hasMoved(platform::Point location) const;
     [[nodiscard]] present::GameObjectLayer* originLayer() const;
@@ -129,6 +133,8 @@ private:
     present::BoardLayers& m_layers;
     GestureTarget* m_target = nullptr;
     Onlooker* m_onlooker = nullptr;
+    Foreground* m_foreground = nullptr;
+    bool m_foregroundHasPress = false;
     std::function<Habits()> m_habits;
     std::function<void()> m_pointerUsed;
     platform::RunLoop& m_runLoop;

@@ -9,7 +9,20 @@
 
 namespace veyrand::present {
 
-enum class ExtraKind { Shake, Ring, Row, Limit, Plate, Light, Dust, Tip, Whisper, Focus };
+enum class ExtraKind {
+    Shake,
+    Ring,
+    Row,
+    Limit,
+    Plate,
+    Light,
+    Dust,
+    Tip,
+    Whisper,
+    Focus,
+    Sheet,
+    Place
+};
 
 // "shake", "ring" and so on.
 [[nodiscard]] std::string_view nameOf(ExtraKind kind);

@@ -5,6 +5,7 @@
 #include "present/ExtraWords.h"
 #include "present/FinalePictures.h"
 #include "present/FocusPictures.h"
+#include "present/SheetDrawing.h"
 
 #include <array>
 
@@ -228,7 +229,7 @@ std::vector<std::string> extraPictureNames()
     std::vector<std::string> names { "RowLight", "RowFlash", "Halo", "Shine", "Ring", "LimitEdge",
         "LimitRing", "LimitRow" };
     for (const auto& others : { wordPictureNames(), celebrationPictureNames(), finalePictureNames(),
-             focusPictureNames() }) {
+             focusPictureNames(), sheetPictureNames() }) {
         names.insert(names.end(), others.begin(), others.end());
     }
     return names;

@@ -44,8 +44,8 @@ void scaleAboutCentre(platform::RectF& rect, float scale)
 
 std::string_view nameOf(ExtraKind kind)
 {
-    constexpr std::array<std::string_view, 10> kNames { "shake", "ring", "row", "limit", "plate",
-        "light", "dust", "tip", "whisper", "focus" };
+    constexpr std::array<std::string_view, 12> kNames { "shake", "ring", "row", "limit", "plate",
+        "light", "dust", "tip", "whisper", "focus", "sheet", "place" };
     return kNames.at(static_cast<std::size_t>(kind));
 }
 

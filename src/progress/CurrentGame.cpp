@@ -117,10 +117,12 @@ void CurrentGame::placePuzzle(const Puzzle& puzzle)
     m_stage = puzzle.stage;
     m_mode = puzzle.mode;
     setProof(puzzle.root, puzzle.goal, puzzle.par);
+    m_practice = puzzle.practice;
 }
 
 void CurrentGame::setProof(const std::string& root, const std::string& goal, int par)
 {
+    m_practice.reset();
     m_par = par;
     m_proof
         = std::make_shared<engine::Proof>(engine::Theorem(root), engine::Theorem(goal), m_rules);
@@ -128,11 +130,16 @@ void CurrentGame::setProof(const std::string& root, const std::string& goal, int
 
 void CurrentGame::addToScore(std::int64_t points)
 {
-    (endlessGame() ? m_endlessScore : m_score) += points;
+    if (!m_practice) {
+        (endlessGame() ? m_endlessScore : m_score) += points;
+    }
 }
 
 int CurrentGame::highestRule() const
 {
+    if (m_practice) {
+        return m_practice->open;
+    }
     return endlessGame() ? kMoveCount : highestRuleAt(m_level, m_stage);
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace veyrand::platform {
@@ -28,6 +29,13 @@ class CurrentGame {
 public:
     using Mode = progress::Mode;
 
+    // A puzzle beside both modes, for no points.
+    struct Practice {
+        int open = 0; // moves
+        std::string caption; // in the place of level and stage
+        std::int64_t purse = 0; // to pay hints from: nobody's points
+    };
+
     // Where a puzzle stands, and what it is, for placing one that is in no catalogue.
     struct Puzzle {
         std::string root;
@@ -36,6 +44,7 @@ public:
         int level = 1;
         int stage = 1;
         Mode mode = Mode::Classic;
+        std::optional<Practice> practice {};
     };
 
     // Reads both catalogues. No puzzle is in play yet and every number is 0. The preferences and
@@ -71,7 +80,7 @@ public:
     // played again.
     void nextLevel();
 
-    // To the score of the mode in progress. Negative points subtract.
+    // To the score of the mode in progress. Negative points subtract. Practice has no points.
     void addToScore(std::int64_t points);
 
     // How many moves are open to the player, 1 to 7: those whose labels carry the numbers 1 to
@@ -94,6 +103,9 @@ public:
     void setEndlessPar(int par) { m_endlessPar = par; }
     [[nodiscard]] std::int64_t endlessScore() const { return m_endlessScore; }
     void setEndlessScore(std::int64_t score) { m_endlessScore = score; }
+
+    // Nothing while the puzzle in play is one of the two modes'.
+    [[nodiscard]] const std::optional<Practice>& practice() const { return m_practice; }
 
     // The puzzles that a mode can bring.
     [[nodiscard]] const Catalogue& catalogueOf(Mode mode) const
@@ -128,6 +140,7 @@ private:
     int m_level = 0;
     int m_endlessPar = 0;
     Mode m_mode = Mode::Classic;
+    std::optional<Practice> m_practice;
 };
 
 } // namespace veyrand::progress

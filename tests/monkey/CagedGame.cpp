@@ -145,8 +145,10 @@ std::string CagedGame::restart()
     }
     const play::Session* const session = m_game->controller().flow().session();
     const bool isKept = progress::readSettings(m_preferences).keepUnfinishedPuzzles;
-    const auto before
-        = session != nullptr && isKept ? std::optional(session->settled()) : std::nullopt;
+    const bool isPractice = m_game->controller().practice().isOn(); // which nothing keeps
+    const auto before = session != nullptr && isKept && !isPractice
+        ? std::optional(session->settled())
+        : std::nullopt;
     launch();
     if (!before) {
         return {};
@@ -201,6 +203,9 @@ std::string CagedGame::faultOfPurse()
     if (session == nullptr || session->phase() == play::Phase::HintFlying) {
         return {}; // the line that is settled counts when it has landed
     }
+    if (m_game->controller().practice().isOn()) {
+        return {}; // played for no points
+    }
     const progress::CurrentGame& game = m_game->currentGame();
     const std::int64_t score = game.endlessGame() ? game.endlessScore() : game.score();
     return score == session->settled().purse() ? std::string() : "the points do not add up";
@@ -229,8 +234,8 @@ std::string CagedGame::faultOfLayers()
 std::string CagedGame::faultOfJournals() const
 {
     for (const auto& [name, text] : m_journal.texts()) {
-        if (name.find("previous") != std::string::npos) {
-            continue;
+        if (name.find("previous") != std::string::npos || name.ends_with("-results.txt")) {
+            continue; // not journals, though they lie beside them
         }
         if (name.find(".txt.") != std::string::npos) {
             return "a journal was set aside: " + name;

@@ -90,7 +90,7 @@ TEST(TheShortestWays, AreThoseThatTheBoardAccepts)
                 for (unsigned moves = 0; moves < 2; ++moves) {
                     std::vector<PackedLine> after;
                     for (const PackedLine line : next) {
-                        for (const Step& step : stepsFrom(line, kAllMoves)) {
+                        for (const Step& step : stepsFrom(line, play::kAllMoves)) {
                             after.push_back(step.line);
                             found.push_back(step.line.text());
                         }
@@ -149,7 +149,7 @@ TEST(TheShortestWays, AreEachAnother)
         EXPECT_EQ(way.size(), ways.moves() + 1);
         for (std::size_t at = 1; at < way.size(); ++at) {
             EXPECT_TRUE(
-                moveBetween(lineOf(way[at - 1].c_str()), lineOf(way[at].c_str()), kAllMoves));
+                moveBetween(lineOf(way[at - 1].c_str()), lineOf(way[at].c_str()), play::kAllMoves));
         }
         EXPECT_EQ(std::count(all.begin(), all.end(), way), 0);
         all.push_back(way);

@@ -107,6 +107,54 @@ Json Scenario::play(const Arguments& arguments)
     return {};
 }
 
+namespace {
+
+progress::CalendarDate dateOf(const std::string& text)
+{
+    const auto date = progress::dateIn(text);
+    if (!date) {
+        throw std::runtime_error(text + " is no date such as 2026-11-21");
+    }
+    return *date;
+}
+
+void complain(const std::string& fault)
+{
+    if (!fault.empty()) {
+        throw std::runtime_error(fault);
+    }
+}
+
+} // namespace
+
+Json Scenario::practice(const Arguments& arguments)
+{
+    const progress::Place place { static_cast<int>(arguments.number(0)),
+        static_cast<int>(arguments.number(1)) };
+    if (!game().controller().practice().play(place)) {
+        complain(play::nameOf(place) + " has not been reached");
+    }
+    return {};
+}
+
+Json Scenario::open(const Arguments& arguments)
+{
+    complain(game().controller().practice().open(arguments.text(0)));
+    return {};
+}
+
+Json Scenario::daily(const Arguments& arguments)
+{
+    complain(game().controller().practice().openDaily(dateOf(arguments.text(0))));
+    return {};
+}
+
+Json Scenario::today(const Arguments& arguments)
+{
+    game().calendar().setToday(progress::dayNumber(dateOf(arguments.text(0))));
+    return {};
+}
+
 Json Scenario::show(const Arguments& arguments)
 {
     const std::string page = arguments.text(0);
@@ -130,7 +178,13 @@ platform::Point Scenario::place(const Json& target)
         const Arguments place(target);
         return { .x = place.number(0), .y = place.number(1) };
     }
-    const auto centre = game().centreOf(text(target));
+    auto centre = game().centreOf(text(target));
+    for (const auto& extra : game().game().layers().extras().shown()) {
+        // What a sheet offers lies before the board.
+        if (extra.kind == present::ExtraKind::Place && extra.key == text(target)) {
+            centre = platform::Point { .x = extra.rect.x, .y = extra.rect.y };
+        }
+    }
     if (!centre) {
         throw std::runtime_error("nothing on the board has the key \"" + text(target) + '"');
     }

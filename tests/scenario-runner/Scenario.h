@@ -36,6 +36,10 @@ private:
     Json start(const Arguments& arguments);
     Json play(const Arguments& arguments);
     Json show(const Arguments& arguments);
+    Json practice(const Arguments& arguments);
+    Json open(const Arguments& arguments);
+    Json daily(const Arguments& arguments);
+    Json today(const Arguments& arguments);
     Json quit(const Arguments& arguments);
     Json kill(const Arguments& arguments);
     Json restart(const Arguments& arguments);
@@ -88,6 +92,9 @@ private:
     Json alert(const Arguments& arguments);
     Json answer(const Arguments& arguments);
     Json sounds(const Arguments& arguments);
+    Json statistics(const Arguments& arguments);
+    Json clipboard(const Arguments& arguments);
+    Json sheet(const Arguments& arguments);
     Json music(const Arguments& arguments);
     Json preference(const Arguments& arguments);
     Json record(const Arguments& arguments);

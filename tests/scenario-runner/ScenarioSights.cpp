@@ -30,6 +30,34 @@ Json describe(const controller::AccessibleNode& node)
 
 } // namespace
 
+Json Scenario::statistics(const Arguments& /*arguments*/)
+{
+    const play::Statistics statistics = game().controller().book().statistics();
+    Json levels = Json::array();
+    for (const auto& level : statistics.levels) {
+        levels.push_back({ { "solved", level.solved }, { "atPar", level.atPar } });
+    }
+    return { { "solved", statistics.solved }, { "atPar", statistics.atPar },
+        { "over", statistics.over }, { "hints", statistics.hints }, { "daily", statistics.daily },
+        { "others", statistics.others }, { "streak", statistics.streak.current },
+        { "bestStreak", statistics.streak.best }, { "levels", std::move(levels) } };
+}
+
+Json Scenario::sheet(const Arguments& /*arguments*/)
+{
+    const auto& sheets = game().controller().sheets();
+    return sheets.isOpen() ? Json({ { "name", sheets.name() }, { "focus", sheets.focus() } })
+                           : Json();
+}
+
+Json Scenario::clipboard(const Arguments& arguments)
+{
+    if (!arguments.at(0).is_null()) {
+        game().clipboard().setText(arguments.text(0));
+    }
+    return game().clipboard().text();
+}
+
 Json Scenario::keys(const Arguments& /*arguments*/)
 {
     return game().gameData().gameObjects().keys();
@@ -301,11 +329,14 @@ Json Scenario::terminated(const Arguments& /*arguments*/)
 const std::vector<Scenario::Operation>& Scenario::table()
 {
     static const std::vector<Operation> kOperations { { "start", &Scenario::start },
-        { "play", &Scenario::play }, { "show", &Scenario::show }, { "quit", &Scenario::quit },
-        { "kill", &Scenario::kill }, { "restart", &Scenario::restart }, { "wait", &Scenario::wait },
-        { "move", &Scenario::move }, { "press", &Scenario::press },
-        { "release", &Scenario::release }, { "click", &Scenario::click },
-        { "drag", &Scenario::drag }, { "touch", &Scenario::touch },
+        { "play", &Scenario::play }, { "show", &Scenario::show },
+        { "practice", &Scenario::practice }, { "open", &Scenario::open },
+        { "daily", &Scenario::daily }, { "today", &Scenario::today },
+        { "statistics", &Scenario::statistics }, { "clipboard", &Scenario::clipboard },
+        { "sheet", &Scenario::sheet }, { "quit", &Scenario::quit }, { "kill", &Scenario::kill },
+        { "restart", &Scenario::restart }, { "wait", &Scenario::wait }, { "move", &Scenario::move },
+        { "press", &Scenario::press }, { "release", &Scenario::release },
+        { "click", &Scenario::click }, { "drag", &Scenario::drag }, { "touch", &Scenario::touch },
         { "touchDrag", &Scenario::touchDrag }, { "longPress", &Scenario::longPress },
         { "rightClick", &Scenario::rightClick }, { "focus", &Scenario::focus },
         { "announcements", &Scenario::announcements }, { "accessible", &Scenario::accessible },

@@ -77,7 +77,7 @@ bool flush(const fs::path& folder)
 }
 
 // Both names change hands in one step, where the file system knows how.
-Error exchange(const fs::path& one, const fs::path& other)
+Error exchangeAtOnce(const fs::path& one, const fs::path& other)
 {
     if (::renameat2(AT_FDCWD, one.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0) {
         return {};
@@ -136,7 +136,7 @@ bool PosixFiles::replace(const std::string& path, const std::string& newcomer)
         return !error;
     }
     error = m_exchange == Exchange::InOneStep
-        ? exchange(path, newcomer)
+        ? exchangeAtOnce(path, newcomer)
         : std::make_error_code(std::errc::function_not_supported);
     if (error == std::errc::invalid_argument || error == std::errc::function_not_supported) {
         error = exchangeByHand(path, newcomer);

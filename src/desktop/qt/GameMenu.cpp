@@ -10,7 +10,7 @@ using controller::MenuItemId;
 
 namespace {
 
-QString tr(const char* text)
+QString menuText(const char* text)
 {
     return QCoreApplication::translate("GameMenu", text);
 }
@@ -42,7 +42,7 @@ GameMenu::GameMenu(platform::Preferences& preferences)
 
 void GameMenu::addMenu(const controller::MenuTitle& title)
 {
-    QMenu& menu = *m_bar.addMenu(tr(title.text));
+    QMenu& menu = *m_bar.addMenu(menuText(title.text));
     // What may not be chosen is grey while the menu is open. A shortcut meets the test itself, for
     // nothing tells when the answer to it changes.
     QObject::connect(&menu, &QMenu::aboutToShow, &m_bar, [this] { refresh(); });
@@ -60,8 +60,9 @@ void GameMenu::addItem(QMenu& menu, const MenuItem& entry)
         menu.addSeparator();
         return;
     }
-    QAction* const action = entry.kind == MenuItem::Kind::Hidden ? new QAction(&m_bar)
-                                                                 : menu.addAction(tr(entry.text));
+    QAction* const action = entry.kind == MenuItem::Kind::Hidden
+        ? new QAction(&m_bar)
+        : menu.addAction(menuText(entry.text));
     addShortcuts(*action, entry);
     action->setCheckable(entry.kind == MenuItem::Kind::Switch);
     action->setChecked(m_choices.isOn(entry));
@@ -98,7 +99,7 @@ void GameMenu::refresh()
         if (item.entry.kind == MenuItem::Kind::Hidden) {
             continue;
         }
-        item.action->setText(tr(m_choices.textOf(item.entry)));
+        item.action->setText(menuText(m_choices.textOf(item.entry)));
         item.action->setEnabled(m_choices.mayChoose(item.entry));
         if (item.entry.setting != nullptr) {
             item.action->setChecked(m_choices.isOn(item.entry));
@@ -110,7 +111,7 @@ void GameMenu::retranslate()
 {
     const auto titles = controller::menuTitles();
     for (std::size_t i = 0; i < titles.size(); ++i) {
-        m_bar.actions().at(static_cast<qsizetype>(i))->setText(tr(titles[i].text));
+        m_bar.actions().at(static_cast<qsizetype>(i))->setText(menuText(titles[i].text));
     }
     refresh();
     enableAll();

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "platform/Calendar.h"
+#include "platform/Clipboard.h"
 #include "platform/Quit.h"
 #include "platform/Random.h"
 #include "platform/Screen.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QDate>
 #include <QGuiApplication>
 #include <QRandomGenerator>
 #include <QScreen>
@@ -24,6 +28,26 @@ public:
     {
         const QSizeF size = QGuiApplication::primaryScreen()->size();
         return { .width = size.width(), .height = size.height() };
+    }
+};
+
+class SystemCalendar final : public platform::Calendar {
+public:
+    [[nodiscard]] std::int64_t today() const override
+    {
+        return QDate(1970, 1, 1).daysTo(QDate::currentDate());
+    }
+};
+
+class SystemClipboard final : public platform::Clipboard {
+public:
+    [[nodiscard]] std::string text() const override
+    {
+        return QGuiApplication::clipboard()->text().toStdString();
+    }
+    void setText(const std::string& text) override
+    {
+        QGuiApplication::clipboard()->setText(QString::fromStdString(text));
     }
 };
 

@@ -1,0 +1,254 @@
+#include "controller/MapSheet.h"
+
+#include "controller/GameController.h"
+
+namespace veyrand::controller {
+
+using present::SheetDrawing;
+using progress::Place;
+using Ink = SheetDrawing::Ink;
+using Align = SheetDrawing::Align;
+
+namespace {
+
+// The board's own rows; the first place of a level stands over the board's second column.
+constexpr double kFirstStone = 734.0;
+constexpr double kApart = 74.0;
+constexpr double kStone = 72.0;
+constexpr double kRing = 88.0;
+
+double rowY(int row)
+{
+    return 1000.0 * (1.0 - board::yPositionForRow(static_cast<unsigned>(row)));
+}
+
+double stoneX(int stage)
+{
+    return kFirstStone + kApart * (stage - 1);
+}
+
+std::string keyOf(const Place& place)
+{
+    return "puzzle-" + play::nameOf(place);
+}
+
+std::optional<Place> placeOf(const std::string& key)
+{
+    for (int level = 1; level <= progress::kLastLevel; ++level) {
+        for (int stage = 1; stage <= progress::kLastStage; ++stage) {
+            if (keyOf({ level, stage }) == key) {
+                return Place { level, stage };
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+MapSheet::MapSheet(GameController& controller)
+    : m_controller(controller)
+    , m_chosen(controller.practice().lastPlace().value_or(controller.practice().standing()))
+{
+}
+
+std::string MapSheet::firstFocus() const
+{
+    return keyOf(m_chosen);
+}
+
+void MapSheet::focused(const std::string& key)
+{
+    if (const auto place = placeOf(key)) {
+        m_chosen = *place;
+    }
+}
+
+void MapSheet::press(const std::string& key)
+{
+    if (placeOf(key) || key == "play") {
+        m_controller.practice().choose(m_chosen);
+    } else if (key == "copy-code") {
+        if (m_controller.context().clipboard != nullptr && !codeOfChosen().empty()) {
+            m_controller.context().clipboard->setText(codeOfChosen());
+        }
+    } else if (key == "daily") {
+        m_controller.practice().openToday();
+    } else if (key == "paste-code") {
+        pasteCode();
+    } else if (key == "menu") {
+        m_controller.sheets().close();
+    }
+}
+
+std::string MapSheet::codeOfChosen() const
+{
+    const auto* const entry = m_controller.practice().entryAt(m_chosen);
+    return entry != nullptr && m_controller.practice().isReached(m_chosen)
+        ? play::codeOf(entry->root, entry->goal).value_or(std::string())
+        : std::string();
+}
+
+std::string MapSheet::text(const char* id, language::Arguments arguments) const
+{
+    return m_controller.context().texts.text(std::string("practice.") + id, arguments);
+}
+
+void MapSheet::pasteCode()
+{
+    if (const auto* const clipboard = m_controller.context().clipboard) {
+        m_controller.practice().openOrTell(clipboard->text());
+    }
+}
+
+bool MapSheet::takeKey(std::string_view keys)
+{
+    if (keys == "Ctrl+V") {
+        pasteCode();
+    } else if (keys == "Ctrl+C") {
+        press("copy-code");
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// As a screen reader says it.
+std::string MapSheet::nameForPeople(const Place& place) const
+{
+    const Practice& practice = m_controller.practice();
+    const std::string name = play::nameOf(place);
+    if (!practice.isReached(place)) {
+        return text("saidClosed", { { "name", name } });
+    }
+    if (const play::Result* const result = m_controller.book().results().of(name)) {
+        return text("saidSolvedIn",
+            { { "name", name }, { "moves", std::to_string(result->moves.size()) },
+                { "par", std::to_string(result->par) } });
+    }
+    return text(practice.isSolved(place) ? "saidSolved" : "saidReached", { { "name", name } });
+}
+
+void MapSheet::draw(SheetDrawing& drawing) const
+{
+    for (int stage = 1; stage <= progress::kLastStage; ++stage) {
+        drawing.words(std::to_string(stage), stoneX(stage), 52, 36, Ink::Gold);
+    }
+    for (int level = 1; level <= progress::kLastLevel; ++level) {
+        drawLevel(drawing, level);
+    }
+    drawLegend(drawing);
+    drawPanel(drawing);
+}
+
+void MapSheet::drawLevel(SheetDrawing& drawing, int level) const
+{
+    const double y = rowY(level);
+    const auto statistics
+        = m_controller.book().statistics().levels.at(static_cast<std::size_t>(level - 1));
+    drawing.words(std::to_string(level), 612, y, 34, Ink::Gold);
+    const bool isDone = statistics.solved == progress::kLastStage;
+    drawing.picture("Medal-" + std::to_string(level), 662, y + 3, 88.6, 60, isDone ? 1.0 : 0.22);
+    for (int stage = 1; stage <= progress::kLastStage; ++stage) {
+        drawStone(drawing, { level, stage });
+    }
+    if (statistics.solved > 0) {
+        drawing.words(
+            std::to_string(statistics.solved) + "/10", 1522, y, 27, Ink::Ivory, Align::Right);
+        drawing.picture("PuzzleStar", 1546, y, 24, 24);
+        drawing.words(std::to_string(statistics.atPar), 1562, y, 27, Ink::Ivory, Align::Left);
+    } else if (!m_controller.practice().isReached({ level, 1 })) {
+        drawing.words(text("closed"), 1510, y, 25, Ink::Pale, Align::Middle, 130);
+    }
+}
+
+void MapSheet::drawStone(SheetDrawing& drawing, const Place& place) const
+{
+    const double x = stoneX(place.stage);
+    const double y = rowY(place.level);
+    const Practice& practice = m_controller.practice();
+    const auto* const entry = practice.entryAt(place);
+    const play::Result* const result = m_controller.book().results().of(play::nameOf(place));
+    const std::string par = entry != nullptr ? std::to_string(entry->par - 1) : std::string();
+    if (!practice.isReached(place)) {
+        drawing.picture("PuzzleClosed", x, y, kStone, kStone);
+    } else if (result != nullptr && result->over() == 0) {
+        drawing.picture("PuzzleAtPar", x, y, kStone, kStone);
+        drawing.words(par, x, y + 11, 27, Ink::Dark);
+    } else if (practice.isSolved(place)) {
+        drawing.picture("PuzzleSolved", x, y, kStone, kStone);
+        if (result != nullptr) {
+            drawing.words(std::to_string(result->moves.size()) + '/' + par, x, y, 27, Ink::Ivory,
+                Align::Middle, 44);
+        } else {
+            drawing.picture("Checkmark", x, y, 34, 34); // in how many moves, nobody noted
+        }
+    } else {
+        drawing.picture("PuzzleReached", x, y, kStone, kStone);
+    }
+    if (drawing.isFocused(keyOf(place))) {
+        drawing.picture("PuzzleChosen", x, y, kRing, kRing);
+    }
+    drawing.place(keyOf(place), nameForPeople(place), x, y, kApart, kApart);
+}
+
+void MapSheet::drawLegend(SheetDrawing& drawing) const
+{
+    constexpr double kSmall = 58.0;
+    const double y = rowY(12);
+    const auto entry = [&](const char* picture, double x, const char* id, double room) {
+        drawing.picture(picture, x, y, kSmall, kSmall);
+        drawing.words(text(id), x + 36, y, 27, Ink::Pale, Align::Left, room);
+    };
+    entry("PuzzleClosed", 640, "closed", 90);
+    entry("PuzzleReached", 800, "reached", 110);
+    entry("PuzzleSolved", 978, "solved", 236);
+    entry("PuzzleAtPar", 1290, "par", 236);
+}
+
+void MapSheet::drawPanel(SheetDrawing& drawing) const
+{
+    const play::Statistics statistics = m_controller.book().statistics();
+    drawing.title(text("puzzles"));
+    drawing.words(text("solvedOf", { { "solved", std::to_string(statistics.solved) } }), 295, 152,
+        38, Ink::Ivory, Align::Middle, 480);
+    drawing.words(text("countAtPar", { { "stars", std::to_string(statistics.atPar) } }), 295, 200,
+        34, Ink::Gold);
+    drawCard(drawing);
+    drawing.button("play", text("play"), 180, 706, 232, 74, SheetDrawing::Button::Main);
+    drawing.button("daily", text("daily"), 422, 706, 232, 74);
+    drawing.button("copy-code", text("copyCode"), 180, 792, 232, 66);
+    drawing.button("paste-code", text("pasteCode"), 422, 792, 232, 66);
+    drawing.button("menu", text("menu"), 422, 872, 232, 66);
+}
+
+void MapSheet::drawCard(SheetDrawing& drawing) const
+{
+    const Practice& practice = m_controller.practice();
+    drawing.card(295, 440, 474, 388);
+    drawing.words(text("puzzle", { { "name", play::nameOf(m_chosen) } }), 295, 292, 42, Ink::Dark,
+        Align::Middle, 420);
+    const auto* const entry = practice.entryAt(m_chosen);
+    if (entry == nullptr || !practice.isReached(m_chosen)) {
+        drawing.words(text("notReached"), 295, 440, 32, Ink::Dark);
+        return;
+    }
+    constexpr double kPitch = 34.0; // twelve fit
+    drawing.words(text("from"), 92, 344, 29, Ink::Dark, Align::Left);
+    drawing.chips(entry->root, 90, 386, kPitch);
+    drawing.words(text("to"), 92, 432, 29, Ink::Dark, Align::Left);
+    drawing.chips(entry->goal, 90, 474, kPitch);
+    const std::int64_t par = entry->par - 1;
+    const play::Result* const result = m_controller.book().results().of(play::nameOf(m_chosen));
+    const std::string state = result != nullptr
+        ? text("parNeeded",
+            { { "moves", static_cast<std::int64_t>(result->moves.size()) },
+                { "par", std::to_string(par) } })
+        : text(practice.isSolved(m_chosen) ? "parSolved" : "parYours",
+            { { "par", std::to_string(par) } });
+    drawing.words(state, 295, 546, 32, Ink::Dark, Align::Middle, 420);
+    drawing.words(
+        text("code", { { "code", codeOfChosen() } }), 295, 594, 29, Ink::Dark, Align::Middle, 420);
+}
+
+} // namespace veyrand::controller

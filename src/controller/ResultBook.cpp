@@ -1,0 +1,106 @@
+#include "controller/ResultBook.h"
+
+#include "controller/GameController.h"
+#include "play/JournalText.h"
+#include "play/Scoring.h"
+
+namespace veyrand::controller {
+
+ResultBook::ResultBook(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+{
+}
+
+std::string ResultBook::fileName() const
+{
+    return play::percentEncoded(m_controller.flow().playerName()) + "-results.txt";
+}
+
+void ResultBook::load()
+{
+    if (m_game.journal == nullptr) {
+        return;
+    }
+    const platform::Journal::Text text = m_game.journal->read(fileName());
+    auto read = play::Results::read(text.contents.value_or(""));
+    m_results = std::move(read.results);
+    if (!text.fault.empty() || read.damaged > 0) {
+        const auto kept = m_game.journal->keepAside(fileName(), "damaged");
+        m_controller.kept().report("The results in " + fileName() + " cannot be read"
+            + (read.damaged > 0 ? " in full: " + std::to_string(read.damaged) + " damaged" : "")
+            + (text.fault.empty() ? "" : ": " + text.fault)
+            + (kept ? ". The file is kept as " + *kept + '.' : "."));
+        save();
+    }
+}
+
+progress::CalendarDate ResultBook::today() const
+{
+    return m_game.calendar != nullptr ? progress::dateOfDay(m_game.calendar->today())
+                                      : progress::CalendarDate {};
+}
+
+play::Statistics ResultBook::statistics() const
+{
+    return play::statisticsOf(m_results, m_controller.practice().standing(), today());
+}
+
+std::string ResultBook::nameOfPuzzleInPlay() const
+{
+    const progress::CurrentGame& game = m_game.currentGame;
+    if (game.practice()) {
+        return m_controller.practice().nameInPlay();
+    }
+    return game.endlessGame() ? std::string()
+                              : play::nameOf(progress::Place { game.level(), game.stage() });
+}
+
+void ResultBook::solved(const std::string& name)
+{
+    const play::Session* const session = m_controller.flow().session();
+    if (name.empty() || session == nullptr) {
+        return;
+    }
+    const play::Replay& replay = session->settled();
+    const play::Puzzle& puzzle = *replay.puzzle();
+    const auto points = play::pointsForSolving(puzzle.mode == progress::Mode::Endless, puzzle.par,
+        static_cast<unsigned>(replay.lines().size()));
+    play::Result result { .puzzle = { puzzle.root, puzzle.goal },
+        .par = static_cast<unsigned>(std::max(puzzle.par - 1, 0)),
+        .moves = {},
+        .hints = static_cast<unsigned>((puzzle.saved + points - replay.purse()) / play::kHintPrice),
+        .solvedOn = today() };
+    for (std::size_t row = 1; row < replay.lines().size(); ++row) {
+        result.moves.push_back(replay.lines()[row].move);
+    }
+    m_results.add(name, result);
+    save();
+}
+
+void ResultBook::playerKnowsAllMoves()
+{
+    m_results.setKnowsAllMoves();
+    save();
+}
+
+void ResultBook::join(const play::Results& others)
+{
+    m_results.join(others);
+    save();
+}
+
+// Told once, until a write succeeds.
+void ResultBook::save()
+{
+    if (m_game.journal == nullptr) {
+        return;
+    }
+    const std::string fault = m_game.journal->begin(fileName(), m_results.lines());
+    if (!fault.empty() && m_mayWrite) {
+        m_controller.kept().report("The results cannot be kept: " + fault + '.');
+    }
+    m_mayWrite = fault.empty();
+}
+
+} // namespace veyrand::controller

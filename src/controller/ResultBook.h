@@ -1,0 +1,42 @@
+#pragma once
+
+#include "controller/GameContext.h"
+#include "play/Results.h"
+
+namespace veyrand::controller {
+
+class GameController;
+
+// Keeps what has been solved, in a file of its own beside the unfinished puzzles: never in the
+// player's record. Without a journal it lasts as long as the game.
+class ResultBook {
+public:
+    explicit ResultBook(GameController& controller);
+
+    // Before anything is shown.
+    void load();
+
+    [[nodiscard]] const play::Results& results() const { return m_results; }
+    [[nodiscard]] progress::CalendarDate today() const;
+    [[nodiscard]] play::Statistics statistics() const;
+
+    // The puzzle in play has been solved, under this name.
+    void solved(const std::string& name);
+    void playerKnowsAllMoves();
+    // The better of each result.
+    void join(const play::Results& others);
+
+    // The names of the puzzles of both modes as they are kept; empty for what is not kept.
+    [[nodiscard]] std::string nameOfPuzzleInPlay() const;
+
+private:
+    void save();
+    [[nodiscard]] std::string fileName() const;
+
+    GameController& m_controller;
+    GameContext& m_game;
+    play::Results m_results;
+    bool m_mayWrite = true;
+};
+
+} // namespace veyrand::controller

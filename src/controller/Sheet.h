@@ -1,0 +1,33 @@
+#pragma once
+
+#include "present/SheetDrawing.h"
+
+#include <string>
+#include <string_view>
+
+namespace veyrand::controller {
+
+// One page that the view lays over the board. It draws itself from what the game knows at the
+// moment, and answers presses on its places; how it is walked over is the sheets' business.
+class Sheet {
+public:
+    Sheet() = default;
+    Sheet(const Sheet&) = delete;
+    Sheet& operator=(const Sheet&) = delete;
+    virtual ~Sheet() = default;
+
+    // "map", "replay" and so on.
+    [[nodiscard]] virtual std::string_view name() const = 0;
+    virtual void draw(present::SheetDrawing& drawing) const = 0;
+    virtual void press(const std::string& key) = 0;
+    // The keys or the pointer have come to the place.
+    virtual void focused(const std::string& /*key*/) { }
+    // A key that does not walk: true when it has a use here.
+    virtual bool takeKey(std::string_view /*keys*/) { return false; }
+    // Where the keys begin.
+    [[nodiscard]] virtual std::string firstFocus() const = 0;
+    // What Esc leads back to: false to leave the sheets.
+    virtual bool goBack() { return false; }
+};
+
+} // namespace veyrand::controller

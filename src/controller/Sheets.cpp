@@ -1,0 +1,277 @@
+#include "controller/Sheets.h"
+
+#include "board/Buttons.h"
+#include "controller/GameController.h"
+#include "controller/MapSheet.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace veyrand::controller {
+
+using present::SheetPlace;
+
+namespace {
+
+constexpr std::string_view kButton = "button-puzzles";
+
+bool holds(const present::ExtraRect& rect, platform::Point place)
+{
+    return std::abs(place.x - rect.x) <= rect.width / 2.0
+        && std::abs(place.y - rect.y) <= rect.height / 2.0;
+}
+
+} // namespace
+
+Sheets::Sheets(GameController& controller)
+    : m_controller(controller)
+    , m_game(controller.context())
+{
+    m_game.view.setForeground(this);
+}
+
+Sheets::~Sheets()
+{
+    m_game.view.setForeground(nullptr);
+}
+
+bool Sheets::canOpen() const
+{
+    return isOpen() || m_controller.canOpenPage();
+}
+
+void Sheets::open(std::unique_ptr<Sheet> sheet)
+{
+    if (m_sheet) {
+        m_closed.push_back(std::move(m_sheet));
+    } else {
+        m_controller.focus().hide();
+    }
+    m_sheet = std::move(sheet);
+    m_focus = m_sheet->firstFocus();
+    m_hovered.clear();
+    m_held.clear();
+    changed();
+}
+
+void Sheets::openMap()
+{
+    open(std::make_unique<MapSheet>(m_controller));
+}
+
+void Sheets::close()
+{
+    if (m_sheet) {
+        m_closed.push_back(std::move(m_sheet));
+        m_hovered.clear();
+        m_held.clear();
+        changed();
+    }
+}
+
+std::string Sheets::name() const
+{
+    return m_sheet ? std::string(m_sheet->name()) : std::string();
+}
+
+void Sheets::changed()
+{
+    ++m_revision;
+    m_controller.answers().handsChanged();
+    m_game.layers.scene().setNeedsDisplay();
+}
+
+void Sheets::focusOn(const std::string& key)
+{
+    if (m_sheet && key != m_focus) {
+        m_focus = key;
+        m_sheet->focused(key);
+        changed();
+    }
+}
+
+bool Sheets::showsButton() const
+{
+    const auto& button = board::buttonFor(board::ButtonAction::ClassicGame);
+    return !m_sheet && m_game.view.overlay() == input::Overlay::None
+        && m_game.board.gameData.gameObjects().contains(std::string(button.key))
+        && progress::readSettings(m_game.preferences).answers;
+}
+
+unsigned Sheets::revision() const
+{
+    if (m_sheet) {
+        return m_revision;
+    }
+    constexpr unsigned kLit = 2;
+    return showsButton() ? (m_hovered == kButton ? kLit : 1) : 0;
+}
+
+present::SheetDrawing Sheets::drawing() const
+{
+    present::SheetDrawing drawing(m_game.layers.textMetrics(), m_focus);
+    drawing.wood();
+    m_sheet->draw(drawing);
+    return drawing;
+}
+
+void Sheets::addTo(std::vector<present::Extra>& wanted) const
+{
+    if (showsButton()) {
+        wanted.push_back(present::puzzlesButton(m_game.texts.text("practice.puzzles"),
+            m_hovered == kButton, m_game.layers.textMetrics()));
+    }
+    if (!m_sheet) {
+        return;
+    }
+    const present::SheetDrawing drawn = drawing();
+    wanted.push_back({ .kind = present::ExtraKind::Sheet,
+        .key = std::string(m_sheet->name()),
+        .text = {},
+        .rect = { .x = 0.8, .y = 0.5, .width = 1.6, .height = 1.0 },
+        .band = present::ExtraBand::OverMessages,
+        .pieces = drawn.pieces(),
+        .slot = "sheet",
+        .fade = { .in = 0.15, .out = 0.15 } });
+    // Places have no look of their own, but a name and a place for whoever reads the screen.
+    for (const SheetPlace& place : drawn.places()) {
+        wanted.push_back({ .kind = present::ExtraKind::Place,
+            .key = place.key,
+            .text = place.text,
+            .rect = place.rect,
+            .band = present::ExtraBand::OverMessages });
+    }
+}
+
+std::string Sheets::placeAt(platform::Point place) const
+{
+    if (!m_sheet) {
+        return showsButton() && holds(present::puzzlesButtonPlace(), place) ? std::string(kButton)
+                                                                            : std::string();
+    }
+    const present::SheetDrawing drawn = drawing();
+    const auto found = std::find_if(drawn.places().begin(), drawn.places().end(),
+        [place](const SheetPlace& each) { return holds(each.rect, place); });
+    return found != drawn.places().end() ? found->key : std::string();
+}
+
+bool Sheets::pressed(platform::Point place)
+{
+    m_held = placeAt(place);
+    return m_sheet || !m_held.empty();
+}
+
+void Sheets::released(platform::Point place)
+{
+    const std::string held = std::exchange(m_held, {});
+    if (!held.empty() && held == placeAt(place)) {
+        focusOn(held);
+        act(held);
+    }
+}
+
+bool Sheets::hovered(platform::Point place)
+{
+    if (!m_sheet && !showsButton() && m_hovered.empty()) {
+        return false;
+    }
+    const std::string now = placeAt(place);
+    if (now != m_hovered) {
+        m_hovered = now;
+        if (m_sheet && !now.empty()) {
+            focusOn(now);
+        }
+        m_game.layers.scene().setNeedsDisplay();
+    }
+    return m_sheet || !m_hovered.empty();
+}
+
+void Sheets::act(const std::string& key)
+{
+    if (key == kButton) {
+        openMap();
+    } else if (m_sheet) {
+        m_sheet->press(key);
+        changed();
+    }
+    m_closed.clear();
+}
+
+bool Sheets::escape()
+{
+    if (!m_sheet) {
+        return false;
+    }
+    if (!m_sheet->goBack()) {
+        close();
+    }
+    m_closed.clear();
+    return true;
+}
+
+bool Sheets::key(std::string_view keys)
+{
+    if (!m_sheet) {
+        return false;
+    }
+    if (m_sheet->takeKey(keys)) {
+        changed();
+        m_closed.clear();
+    } else if (keys == "Left" || keys == "Right") {
+        walk(keys == "Left" ? -1 : 1, 0);
+    } else if (keys == "Up" || keys == "Down") {
+        walk(0, keys == "Down" ? -1 : 1);
+    } else if (keys == "Tab" || keys == "Shift+Tab" || keys == "Shift+Backtab") {
+        step(keys == "Tab" ? 1 : -1);
+    } else if (keys == "Return" || keys == "Enter" || keys == "Space") {
+        act(m_focus);
+    } else if (keys == "Esc" || keys == "Escape") {
+        escape();
+    }
+    return true; // nothing below is played on meanwhile
+}
+
+// To the nearest that lies more that way than aside.
+void Sheets::walk(int x, int y)
+{
+    const present::SheetDrawing drawn = drawing();
+    const auto& places = drawn.places();
+    const auto here = std::find_if(places.begin(), places.end(),
+        [this](const SheetPlace& place) { return place.key == m_focus; });
+    if (here == places.end()) {
+        return focusOn(m_sheet->firstFocus());
+    }
+    constexpr double kAsideCounts = 3.0;
+    const SheetPlace* best = nullptr;
+    double least = 0.0;
+    for (const SheetPlace& place : places) {
+        const double dx = place.rect.x - here->rect.x;
+        const double dy = place.rect.y - here->rect.y;
+        const double ahead = dx * x + dy * y;
+        const double aside = std::abs(dx * y) + std::abs(dy * x);
+        const double cost = ahead + kAsideCounts * aside;
+        if (ahead > 0.01 && (best == nullptr || cost < least)) {
+            best = &place;
+            least = cost;
+        }
+    }
+    if (best != nullptr) {
+        focusOn(best->key);
+    }
+}
+
+void Sheets::step(int by)
+{
+    const present::SheetDrawing drawn = drawing();
+    const auto& places = drawn.places();
+    const auto here = std::find_if(places.begin(), places.end(),
+        [this](const SheetPlace& place) { return place.key == m_focus; });
+    if (places.empty()) {
+        return;
+    }
+    const auto count = static_cast<std::ptrdiff_t>(places.size());
+    const auto at = here == places.end() ? 0 : here - places.begin() + by;
+    focusOn(places[static_cast<std::size_t>((at % count + count) % count)].key);
+}
+
+} // namespace veyrand::controller

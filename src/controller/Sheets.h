@@ -1,0 +1,70 @@
+#pragma once
+
+#include "controller/GameContext.h"
+#include "controller/Sheet.h"
+#include "input/Foreground.h"
+#include "present/Extra.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veyrand::controller {
+
+class GameController;
+
+// The sheet that lies over the board, if one does: takes its presses and keys before the board, and
+// has it drawn as what the view adds. Under it the board stays as it is. Also the brass button on
+// the title page that leads to the map, which is gone with Answers.
+class Sheets final : public input::Foreground {
+public:
+    explicit Sheets(GameController& controller);
+    ~Sheets() override;
+
+    void open(std::unique_ptr<Sheet> sheet);
+    void close();
+    [[nodiscard]] bool isOpen() const { return m_sheet != nullptr; }
+    [[nodiscard]] std::string name() const; // empty when none is open
+    [[nodiscard]] const std::string& focus() const { return m_focus; }
+
+    // Whether one may be opened over what is on the screen now.
+    [[nodiscard]] bool canOpen() const;
+    void openMap();
+
+    // What the sheet shows has changed.
+    void changed();
+    void focusOn(const std::string& key);
+    bool key(std::string_view keys);
+    bool escape(); // true when a sheet was open
+
+    // For whoever directs the extras: a number that changes with what is to be seen, and what that
+    // is.
+    [[nodiscard]] unsigned revision() const;
+    void addTo(std::vector<present::Extra>& wanted) const;
+    // Over something that can be pressed.
+    [[nodiscard]] bool isPointing() const { return !m_hovered.empty(); }
+
+    bool pressed(platform::Point place) override;
+    void released(platform::Point place) override;
+    bool hovered(platform::Point place) override;
+
+private:
+    [[nodiscard]] present::SheetDrawing drawing() const;
+    [[nodiscard]] std::string placeAt(platform::Point place) const;
+    [[nodiscard]] bool showsButton() const;
+    void walk(int x, int y);
+    void step(int by);
+    void act(const std::string& key);
+
+    GameController& m_controller;
+    GameContext& m_game;
+    std::unique_ptr<Sheet> m_sheet;
+    std::vector<std::unique_ptr<Sheet>> m_closed; // until whoever they called has returned
+    std::string m_focus;
+    std::string m_hovered;
+    std::string m_held;
+    unsigned m_revision = 1;
+};
+
+} // namespace veyrand::controller

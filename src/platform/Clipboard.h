@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace veyrand::platform {
+
+// What the player has copied, here or elsewhere, and means to paste.
+class Clipboard {
+public:
+    Clipboard() = default;
+    Clipboard(const Clipboard&) = delete;
+    Clipboard& operator=(const Clipboard&) = delete;
+    virtual ~Clipboard() = default;
+
+    [[nodiscard]] virtual std::string text() const = 0; // empty when it holds none
+    virtual void setText(const std::string& text) = 0;
+};
+
+} // namespace veyrand::platform

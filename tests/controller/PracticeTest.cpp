@@ -1,0 +1,216 @@
+#include "headless/HeadlessGame.h"
+#include "platform/fakes/MemoryJournal.h"
+#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
+#include "support/FolderResources.h"
+#include "support/Places.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace veyrand::controller {
+namespace {
+
+// A player at 3-4 with an unfinished puzzle in both modes.
+class PracticeTest : public ::testing::Test {
+protected:
+    PracticeTest()
+    {
+        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+            { .level = 3,
+                .stage = 4,
+                .score = 310,
+                .firstHintClick = false,
+                .endlessScore = 120,
+                .endlessPar = 4 });
+        m_preferences.setValue(progress::kEndlessGameUnlockedKey, true);
+        launch();
+        game().flow().startClassicGame();
+        game().flow().returnToMenu();
+        m_game->currentGame().newPlayer(
+            std::string(progress::kDefaultPlayerName), progress::CurrentGame::Mode::Endless);
+        game().flow().startEndlessGame();
+        game().flow().returnToMenu();
+        m_game->wait(3.0);
+    }
+
+    void launch()
+    {
+        m_game.reset();
+        m_game = std::make_unique<headless::HeadlessGame>(headless::HeadlessGame::Options {
+            .store = &m_preferences, .resources = &test::gameResources(), .journal = &m_journal });
+        m_game->launch();
+    }
+    [[nodiscard]] GameController& game() { return m_game->controller(); }
+
+    // Everything that is Classic's and Endless's, to the byte.
+    [[nodiscard]] std::string kept() const
+    {
+        std::string all;
+        for (const auto& [name, text] : m_journal.texts()) {
+            all += name.find("results") == std::string::npos ? name + '\n' + text : "";
+        }
+        const auto record
+            = m_preferences.record(progress::playerRecordKey(progress::kDefaultPlayerName));
+        for (const auto& [key, value] : record.value()) {
+            all += key + '=' + std::to_string(platform::integerForKey(*record, key)) + '\n';
+        }
+        return all;
+    }
+
+    // Whatever can be played.
+    void playSomething()
+    {
+        const play::Gesture gesture = game().actions().front();
+        if (const auto* const click = std::get_if<play::Click>(&gesture)) {
+            game().moves().mouseClick(click->row, click->column);
+        } else if (const auto* const drag = std::get_if<play::Drag>(&gesture)) {
+            game().moves().mouseDrag(drag->fromRow, drag->from, drag->toRow, drag->to);
+        }
+    }
+
+    void solveByHints()
+    {
+        for (int click = 0; click < 60 && game().proof() && !game().proof()->checkSolved();
+             ++click) {
+            game().hints().lightBulbClick();
+            m_game->wait(3.0);
+        }
+    }
+
+    platform::MemoryPreferences m_preferences;
+    platform::MemoryJournal m_journal;
+    std::unique_ptr<headless::HeadlessGame> m_game;
+};
+
+} // namespace
+
+TEST_F(PracticeTest, LeavesBothGamesAsTheyAreToTheByte)
+{
+    const std::string before = kept();
+    ASSERT_NE(before.find("New-classic.txt"), std::string::npos);
+    ASSERT_NE(before.find("New-endless.txt"), std::string::npos);
+    ASSERT_TRUE(game().practice().play({ 2, 5 }));
+    m_game->wait(2.0);
+    solveByHints();
+    m_game->wait(8.0);
+    EXPECT_EQ(kept(), before);
+    EXPECT_EQ(game().practice().openDaily({ 2026, 11, 16 }), "");
+    m_game->wait(2.0);
+    game().closePage();
+    m_game->wait(1.0);
+    solveByHints();
+    m_game->wait(8.0);
+    EXPECT_EQ(kept(), before);
+    EXPECT_EQ(game().practice().open("3373NECJ"), "");
+    m_game->wait(2.0);
+    game().moves().mouseClick(0, 0);
+    m_game->wait(2.0);
+    game().history().undo();
+    m_game->wait(2.0);
+    game().flow().returnToMenu();
+    EXPECT_EQ(kept(), before);
+    launch();
+    EXPECT_EQ(kept(), before);
+    EXPECT_EQ(game().book().results().all().size(), 2U);
+    EXPECT_EQ(m_game->currentGame().practice().has_value(), false);
+}
+
+TEST_F(PracticeTest, LeavesAPuzzleInPlayWhereItIsFoundAgain)
+{
+    game().flow().startClassicGame();
+    m_game->wait(2.0);
+    game().closePage();
+    m_game->wait(1.0);
+    playSomething();
+    m_game->wait(3.0);
+    const auto lines = game().proof()->lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(game().practice().open("3373NECJ"), "");
+    EXPECT_EQ(game().proof()->lines(), lines); // it is asked first
+    m_game->alerts().answer({ .button = platform::AlertAnswer::Button::Default });
+    EXPECT_EQ(game().proof()->goal().theorem(), "YRRG");
+    game().flow().returnToMenu();
+    game().flow().startClassicGame();
+    EXPECT_EQ(game().proof()->lines(), lines);
+}
+
+TEST_F(PracticeTest, KeepsTheBetterOfTwoResults)
+{
+    for (const bool detour : { true, false, true }) {
+        ASSERT_TRUE(game().practice().play({ 1, 3 })); // YR to YRG
+        m_game->wait(2.0);
+        if (detour) {
+            game().moves().mouseClick(0, 0);
+            m_game->wait(2.0);
+            game().deleteClick(1);
+            m_game->wait(2.0);
+            game().hints().lightBulbClick();
+            m_game->wait(2.0);
+        }
+        game().moves().mouseClick(0, 1);
+        m_game->wait(8.0);
+    }
+    const play::Result* const result = game().book().results().of("1-3");
+    ASSERT_NE(result, nullptr);
+    EXPECT_EQ(result->moves.size(), 1U);
+    EXPECT_EQ(result->hints, 0U);
+    EXPECT_EQ(result->solvedOn, (progress::CalendarDate { 2026, 11, 21 }));
+}
+
+TEST_F(PracticeTest, KeepsWhatIsSolvedInClassicToo)
+{
+    progress::updatePlayerRecord(
+        m_preferences, progress::kDefaultPlayerName, { .level = 1, .stage = 4 });
+    launch();
+    game().flow().startClassicGame();
+    m_game->wait(2.0);
+    game().closePage();
+    m_game->wait(1.0);
+    ASSERT_EQ(game().proof()->goal().theorem(), "YRRG"); // from YR
+    game().moves().mouseClick(0, 0);
+    m_game->wait(3.0);
+    game().moves().mouseClick(1, 2);
+    const play::Result* const result = game().book().results().of("1-4");
+    ASSERT_NE(result, nullptr);
+    EXPECT_EQ(result->puzzle.goal, "YRRG");
+    EXPECT_EQ(result->moves.size(), 2U);
+    EXPECT_EQ(result->hints, 0U);
+}
+
+TEST_F(PracticeTest, GivesNoHintsForThePuzzleThatClassicAsks)
+{
+    game().flow().startClassicGame();
+    const auto code
+        = play::codeOf(game().proof()->root().theorem(), game().proof()->goal().theorem());
+    game().flow().returnToMenu();
+    EXPECT_EQ(game().practice().open(code.value()), "");
+    m_game->wait(2.0);
+    game().closePage();
+    m_game->wait(1.0);
+    EXPECT_FALSE(game().practice().givesHints());
+    game().hints().lightBulbClick();
+    EXPECT_EQ(game().messages().page(), "hintsInClassicMessageWindow");
+    EXPECT_EQ(game().hints().hintMode(), 0);
+}
+
+TEST_F(PracticeTest, SaysWhichResultsAreDamaged)
+{
+    ASSERT_TRUE(game().practice().play({ 1, 3 }));
+    m_game->wait(2.0);
+    game().moves().mouseClick(0, 1);
+    m_game->wait(8.0);
+    std::string text = m_journal.read("New-results.txt").contents.value();
+    text[text.find("1-3") + 2] = '4';
+    m_journal.write("New-results.txt", text);
+    launch();
+    std::vector<std::string> told;
+    game().kept().setReporter([&told](const std::string& message) { told.push_back(message); });
+    EXPECT_EQ(told,
+        (std::vector<std::string> {
+            "The results in New-results.txt cannot be read in full: 1 damaged. The file is kept as "
+            "New-results.txt.damaged-1." }));
+    EXPECT_TRUE(game().book().results().all().empty());
+}
+
+} // namespace veyrand::controller
