@@ -12,7 +12,7 @@ namespace {
 constexpr double kRow = 0.034;
 constexpr double kSizesOfHeight = 900.0;
 
-struct Piece {
+struct WordsOrPicture {
     double left;
     double y;
     std::string words;
@@ -29,7 +29,7 @@ std::string trimmed(const std::string& text)
 // A text is cut where a picture fits between its words: two blanks are a sentence's end, more are a
 // gap.
 void addText(const board::GameObject& record, const platform::TextMetrics& metrics,
-    std::vector<Piece>& pieces)
+    std::vector<WordsOrPicture>& pieces)
 {
     constexpr std::size_t kGap = 3;
     const std::string& text = record.text()->text;
@@ -48,7 +48,7 @@ void addText(const board::GameObject& record, const platform::TextMetrics& metri
     }
 }
 
-void addPicture(const board::GameObject& record, std::vector<Piece>& pieces)
+void addPicture(const board::GameObject& record, std::vector<WordsOrPicture>& pieces)
 {
     const std::string name = record.name();
     if (!name.empty()) { // panes, rules and arrows have none
@@ -57,11 +57,11 @@ void addPicture(const board::GameObject& record, std::vector<Piece>& pieces)
 }
 
 // Chips beside one another are a list, anything else a text.
-std::string joined(const std::vector<Piece>& row)
+std::string joined(const std::vector<WordsOrPicture>& row)
 {
     std::string text;
-    const Piece* before = nullptr;
-    for (const Piece& piece : row) {
+    const WordsOrPicture* before = nullptr;
+    for (const WordsOrPicture& piece : row) {
         const bool isList = before != nullptr && before->isPicture && piece.isPicture;
         text += (before == nullptr ? "" : isList ? ", " : " ") + piece.words;
         before = &piece;
@@ -73,7 +73,7 @@ std::string joined(const std::vector<Piece>& row)
 
 MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetrics& metrics)
 {
-    std::vector<Piece> pieces;
+    std::vector<WordsOrPicture> pieces;
     for (const board::GameObjectPtr& record : message.text()) {
         if (record->text()) {
             addText(*record, metrics, pieces);
@@ -82,19 +82,19 @@ MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetr
     for (const board::GameObjectPtr& record : message.images()) {
         addPicture(*record, pieces);
     }
-    std::stable_sort(
-        pieces.begin(), pieces.end(), [](const Piece& a, const Piece& b) { return a.y > b.y; });
+    std::stable_sort(pieces.begin(), pieces.end(),
+        [](const WordsOrPicture& a, const WordsOrPicture& b) { return a.y > b.y; });
     // What lies on no pane is a note beside the board, and has no heading.
     const auto& images = message.images();
     const bool hasHeading = std::any_of(images.begin(), images.end(),
         [](const auto& record) { return record->imageName() == "MessageBackground"; });
     MessageWords words;
     for (auto begin = pieces.begin(); begin != pieces.end();) {
-        const auto end = std::find_if(
-            begin, pieces.end(), [y = begin->y](const Piece& piece) { return y - piece.y > kRow; });
-        std::vector<Piece> row(begin, end);
-        std::stable_sort(
-            row.begin(), row.end(), [](const Piece& a, const Piece& b) { return a.left < b.left; });
+        const auto end = std::find_if(begin, pieces.end(),
+            [y = begin->y](const WordsOrPicture& piece) { return y - piece.y > kRow; });
+        std::vector<WordsOrPicture> row(begin, end);
+        std::stable_sort(row.begin(), row.end(),
+            [](const WordsOrPicture& a, const WordsOrPicture& b) { return a.left < b.left; });
         const std::string text = joined(row);
         if (words.title.empty()) {
             words.title = text;

@@ -11,7 +11,7 @@ namespace veyrand::controller {
 namespace {
 
 using progress::Settings;
-using Kind = SettingItem::Kind;
+using ItemKind = SettingItem::Kind;
 
 template <auto Field> int numberOf(const Settings& settings)
 {
@@ -26,7 +26,7 @@ template <auto Field> void setNumber(Settings& settings, int value)
 template <auto Field> constexpr SettingItem volume(const char* text, const char* help)
 {
     return { .section = SettingsSection::Sound,
-        .kind = Kind::Volume,
+        .kind = ItemKind::Volume,
         .text = text,
         .help = help,
         .get = numberOf<Field>,
@@ -38,7 +38,7 @@ constexpr SettingItem choice(
     const char* text, const char* help, std::array<const char*, SettingItem::kMostChoices> choices)
 {
     return { .section = SettingsSection::Look,
-        .kind = Kind::Choice,
+        .kind = ItemKind::Choice,
         .text = text,
         .help = help,
         .get = numberOf<Field>,
@@ -73,7 +73,7 @@ void setTipSizeStep(Settings& settings, int step)
     settings.tipSize = 1.0 + step / 2.0;
 }
 
-constexpr std::array kItems {
+constexpr std::array kSettingItems {
     volume<&Settings::musicVolume>(
         "&Music volume", "How loud the music is. Options > Music turns it on and off."),
     heard(volume<&Settings::effectsVolume>("&Effects volume",
@@ -87,7 +87,7 @@ constexpr std::array kItems {
     choice<&Settings::chips>("&Chips", "How the chips are drawn.",
         { "Pictures", "High contrast", "Letters", "Patterns" }),
     SettingItem { .section = SettingsSection::Look,
-        .kind = Kind::Choice,
+        .kind = ItemKind::Choice,
         .text = "T&ips and whispers",
         .help = "How large the words are that explain things.",
         .get = tipSizeStep,
@@ -119,7 +119,7 @@ constexpr std::array kItems {
 
 std::span<const SettingItem> settingItems()
 {
-    return kItems;
+    return kSettingItems;
 }
 
 const char* textOf(SettingsSection section)
@@ -138,10 +138,10 @@ const char* textOf(SettingsSection section)
 const SettingItem* settingSwitch(std::string_view text)
 {
     const auto* const found
-        = std::find_if(kItems.begin(), kItems.end(), [text](const SettingItem& item) {
-              return item.kind == Kind::Switch && plainMenuText(item.text) == text;
+        = std::find_if(kSettingItems.begin(), kSettingItems.end(), [text](const SettingItem& item) {
+              return item.kind == ItemKind::Switch && plainMenuText(item.text) == text;
           });
-    return found != kItems.end() ? found : nullptr;
+    return found != kSettingItems.end() ? found : nullptr;
 }
 
 Settings resetSettings(const Settings& now)

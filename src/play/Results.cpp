@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kDay = "day ";
 constexpr std::string_view kKnows = "knows all moves";
-constexpr std::string_view kCheckMark = " #";
+constexpr std::string_view kBeforeCheck = " #";
 
 std::string textOf(const std::vector<Move>& moves)
 {
@@ -150,7 +150,7 @@ Results::Read Results::read(std::string_view text)
     takeWord(text, '\n');
     while (!text.empty()) {
         const std::string_view line = takeWord(text, '\n');
-        std::string_view words = line.substr(0, line.rfind(kCheckMark));
+        std::string_view words = line.substr(0, line.rfind(kBeforeCheck));
         if (JournalWriter().checked(std::string(words)) != line) {
             ++read.damaged;
             continue;

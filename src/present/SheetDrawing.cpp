@@ -11,7 +11,7 @@ namespace veyrand::present {
 namespace {
 
 constexpr double kThousand = 1000.0;
-constexpr double kShadowRoom = 10.0; // round every plate
+constexpr double kPlateShadow = 10.0; // round every plate
 
 ExtraRect rectAt(double x, double y, double width, double height)
 {
@@ -91,7 +91,7 @@ void SheetDrawing::button(const std::string& key, const std::string& text, doubl
 {
     const bool isLit = look == Button::Main || isFocused(key);
     picture(sized("SheetButton", width, height) + (isLit ? "-Lit" : ""), x, y,
-        width + 2.0 * kShadowRoom, height + 2.0 * kShadowRoom);
+        width + 2.0 * kPlateShadow, height + 2.0 * kPlateShadow);
     if (look == Button::Chosen || (look == Button::Main && isFocused(key))) {
         picture("HorizontalLine", x, y + height / 2.0 - 13.0, width * 0.7, 3);
     }
@@ -103,14 +103,14 @@ void SheetDrawing::button(const std::string& key, const std::string& text, doubl
 
 void SheetDrawing::card(double x, double y, int width, int height)
 {
-    picture(sized("SheetCard", width, height), x, y, width + 2.0 * kShadowRoom,
-        height + 2.0 * kShadowRoom);
+    picture(sized("SheetCard", width, height), x, y, width + 2.0 * kPlateShadow,
+        height + 2.0 * kPlateShadow);
 }
 
 void SheetDrawing::pane(double x, double y, int width, int height)
 {
-    picture(sized("SheetPane", width, height), x, y, width + 2.0 * kShadowRoom,
-        height + 2.0 * kShadowRoom);
+    picture(sized("SheetPane", width, height), x, y, width + 2.0 * kPlateShadow,
+        height + 2.0 * kPlateShadow);
 }
 
 void SheetDrawing::chips(
