@@ -18,6 +18,7 @@ GameController::GameController(GameContext& context)
     , m_kept(*this)
     , m_previous(*this)
     , m_book(*this)
+    , m_shelf(*this)
     , m_practice(*this)
     , m_lines(*this)
     , m_moves(*this)
@@ -40,6 +41,7 @@ void GameController::awake(platform::Size viewSize)
     updateContentViewFrame(viewSize);
     m_kept.recoverAll();
     m_book.load();
+    m_shelf.load();
     m_previous.finishChanging();
     m_titlePage.createTitleAndStartButtons();
 }

@@ -13,6 +13,7 @@
 #include "controller/Practice.h"
 #include "controller/PreviousGames.h"
 #include "controller/ProofLines.h"
+#include "controller/PuzzleShelf.h"
 #include "controller/ResultBook.h"
 #include "controller/SettingsInForce.h"
 #include "controller/Sheets.h"
@@ -60,6 +61,7 @@ public:
     [[nodiscard]] Practice& practice() { return m_practice; }
     [[nodiscard]] const Practice& practice() const { return m_practice; }
     [[nodiscard]] ResultBook& book() { return m_book; }
+    [[nodiscard]] PuzzleShelf& shelf() { return m_shelf; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
     [[nodiscard]] Messages& messages() { return m_messages; }
     [[nodiscard]] Pages& pages() { return m_pages; }
@@ -120,6 +122,7 @@ private:
     KeptGames m_kept;
     PreviousGames m_previous;
     ResultBook m_book;
+    PuzzleShelf m_shelf;
     Practice m_practice;
     ProofLines m_lines;
     Moves m_moves;

@@ -1,7 +1,6 @@
 #include "controller/ResultBook.h"
 
 #include "controller/GameController.h"
-#include "play/JournalText.h"
 #include "play/Scoring.h"
 
 namespace veyrand::controller {
@@ -9,28 +8,15 @@ namespace veyrand::controller {
 ResultBook::ResultBook(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
+    , m_file(controller, "results")
 {
-}
-
-std::string ResultBook::fileName() const
-{
-    return play::percentEncoded(m_controller.flow().playerName()) + "-results.txt";
 }
 
 void ResultBook::load()
 {
-    if (m_game.journal == nullptr) {
-        return;
-    }
-    const platform::Journal::Text text = m_game.journal->read(fileName());
-    auto read = play::Results::read(text.contents.value_or(""));
+    auto read = play::Results::read(m_file.read());
     m_results = std::move(read.results);
-    if (!text.fault.empty() || read.damaged > 0) {
-        const auto kept = m_game.journal->keepAside(fileName(), "damaged");
-        m_controller.kept().report("The results in " + fileName() + " cannot be read"
-            + (read.damaged > 0 ? " in full: " + std::to_string(read.damaged) + " damaged" : "")
-            + (text.fault.empty() ? "" : ": " + text.fault)
-            + (kept ? ". The file is kept as " + *kept + '.' : "."));
+    if (m_file.putAside(read.damaged)) {
         save();
     }
 }
@@ -90,17 +76,9 @@ void ResultBook::join(const play::Results& others)
     save();
 }
 
-// Told once, until a write succeeds.
 void ResultBook::save()
 {
-    if (m_game.journal == nullptr) {
-        return;
-    }
-    const std::string fault = m_game.journal->begin(fileName(), m_results.lines());
-    if (!fault.empty() && m_mayWrite) {
-        m_controller.kept().report("The results cannot be kept: " + fault + '.');
-    }
-    m_mayWrite = fault.empty();
+    m_file.write(m_results.lines());
 }
 
 } // namespace veyrand::controller

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controller/GameContext.h"
+#include "controller/KeptText.h"
 #include "play/Results.h"
 
 namespace veyrand::controller {
@@ -31,12 +31,11 @@ public:
 
 private:
     void save();
-    [[nodiscard]] std::string fileName() const;
 
     GameController& m_controller;
     GameContext& m_game;
+    KeptText m_file;
     play::Results m_results;
-    bool m_mayWrite = true;
 };
 
 } // namespace veyrand::controller
