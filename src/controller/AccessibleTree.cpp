@@ -16,6 +16,8 @@ namespace {
 using Role = AccessibleRole;
 using input::Stop;
 
+constexpr std::string_view kOnSheet = "sheet-"; // before the key of its place
+
 std::string_view ownName(std::string_view action)
 {
     return action.substr(0, action.find(':'));
@@ -37,6 +39,11 @@ public:
         AccessibleNode root { .id = "board", .role = Role::Pane, .name = "Veyrand" };
         root.place = { .x = 0.8, .y = 0.5, .width = 1.6, .height = 1.0 };
         const input::Overlay overlay = m_controller.context().view.overlay();
+        if (m_controller.sheets().isOpen()) {
+            root.children.push_back(sheet());
+            root.children.push_back(status());
+            return root;
+        }
         if (overlay == input::Overlay::Question) {
             root.children.push_back(question());
         } else if (overlay != input::Overlay::None) {
@@ -47,12 +54,36 @@ public:
             addHelp(root);
             addPanel(root);
         }
-        root.children.push_back(
-            { .id = "status", .role = Role::Status, .name = m_controller.speaker().last() });
+        root.children.push_back(status());
         return root;
     }
 
 private:
+    [[nodiscard]] AccessibleNode status() const
+    {
+        return { .id = "status", .role = Role::Status, .name = m_controller.speaker().last() };
+    }
+
+    // It lies over everything else.
+    [[nodiscard]] AccessibleNode sheet() const
+    {
+        const Sheets& sheets = m_controller.sheets();
+        AccessibleNode made { .id = "sheet", .role = Role::Dialog, .name = sheets.title() };
+        made.place = { .x = 0.8, .y = 0.5, .width = 1.6, .height = 1.0 };
+        if (const std::string told = sheets.told(); !told.empty()) {
+            made.children.push_back({ .id = "told", .role = Role::Text, .name = told });
+        }
+        for (const present::SheetPlace& place : sheets.places()) {
+            made.children.push_back({ .id = std::string(kOnSheet) + place.key,
+                .role = Role::Button,
+                .name = place.text,
+                .actions = { sentences::pressAction() },
+                .place = place.rect,
+                .isFocusable = true });
+        }
+        return made;
+    }
+
     [[nodiscard]] AccessibleNode node(const std::string& key, Role role, std::string name) const
     {
         AccessibleNode made { .id = key, .role = role, .name = std::move(name) };
@@ -314,9 +345,31 @@ const AccessibleNode* find(
     return nullptr;
 }
 
+std::string focusedId(GameController& controller)
+{
+    if (controller.sheets().isOpen()) {
+        return std::string(kOnSheet) + controller.sheets().focus();
+    }
+    const auto stop = controller.focus().shown();
+    return stop ? stop->key : std::string();
+}
+
+void focusOn(GameController& controller, const std::string& id)
+{
+    if (id.starts_with(kOnSheet)) {
+        controller.sheets().focusOn(id.substr(kOnSheet.size()));
+    } else {
+        controller.focus().goTo(id);
+    }
+}
+
 bool actOn(GameController& controller, const std::string& id, std::string_view action)
 {
     input::GameView& view = controller.context().view;
+    if (id.starts_with(kOnSheet)) {
+        controller.sheets().choose(id.substr(kOnSheet.size()));
+        return true;
+    }
     const std::string_view name = ownName(action);
     const bool isLifted = !view.keyLifted().empty();
     bool done = true;

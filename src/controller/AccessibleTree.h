@@ -37,6 +37,10 @@ struct AccessibleNode {
 [[nodiscard]] const AccessibleNode* find(
     const AccessibleNode& tree, std::string_view name, std::string_view action);
 
+// On which the keyboard stands; empty while no key is in use.
+[[nodiscard]] std::string focusedId(GameController& controller);
+void focusOn(GameController& controller, const std::string& id);
+
 // Does what a reader asks of the thing; false when there is nothing to do. A block takes it for a
 // press.
 bool actOn(GameController& controller, const std::string& id, std::string_view action);

@@ -277,7 +277,7 @@ void GameFlow::returnToMenu()
     m_controller.titlePage().createTitleAndStartButtons();
     m_controller.speaker().titleShown();
     if (wasPractice) {
-        m_controller.sheets().openMap(); // it came from there
+        m_controller.sheets().comeBack();
     }
 }
 

@@ -113,6 +113,13 @@ bool MapSheet::takeKey(std::string_view keys)
     return true;
 }
 
+std::string MapSheet::told() const
+{
+    const play::Statistics statistics = m_controller.book().statistics();
+    return text("solvedOf", { { "solved", std::to_string(statistics.solved) } }) + ", "
+        + text("countAtPar", { { "stars", std::to_string(statistics.atPar) } });
+}
+
 // As a screen reader says it.
 std::string MapSheet::nameForPeople(const Place& place) const
 {

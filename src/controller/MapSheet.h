@@ -19,6 +19,8 @@ public:
     [[nodiscard]] std::string_view name() const override { return "map"; }
     void draw(present::SheetDrawing& drawing) const override;
     void press(const std::string& key) override;
+    [[nodiscard]] std::string title() const override { return text("puzzles"); }
+    [[nodiscard]] std::string told() const override;
     void focused(const std::string& key) override;
     [[nodiscard]] bool takeKey(std::string_view keys) override;
     [[nodiscard]] std::string firstFocus() const override;

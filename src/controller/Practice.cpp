@@ -219,6 +219,7 @@ void Practice::start(const Wanted& wanted)
             .open = wanted.open, .caption = wanted.caption, .purse = kEndlessPurse } });
     m_name = wanted.name;
     m_place = isPlace(wanted.place) ? std::optional(wanted.place) : std::nullopt;
+    m_controller.sheets().makeWay();
     flow.layOutPuzzle();
     flow.startMusic();
     if (wanted.open > progress::highestRuleAt(standing().level, standing().stage)) {

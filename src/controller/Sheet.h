@@ -20,6 +20,9 @@ public:
     [[nodiscard]] virtual std::string_view name() const = 0;
     virtual void draw(present::SheetDrawing& drawing) const = 0;
     virtual void press(const std::string& key) = 0;
+    // For whoever does not see it: what it is called, and what it says beside its places.
+    [[nodiscard]] virtual std::string title() const { return {}; }
+    [[nodiscard]] virtual std::string told() const { return {}; }
     // The keys or the pointer have come to the place.
     virtual void focused(const std::string& /*key*/) { }
     // A key that does not walk: true when it has a use here.

@@ -51,6 +51,8 @@ void Sheets::open(std::unique_ptr<Sheet> sheet)
     m_focus = m_sheet->firstFocus();
     m_hovered.clear();
     m_held.clear();
+    m_controller.speaker().tell(title());
+    m_controller.speaker().tell(nameOfPlace(m_focus));
     changed();
 }
 
@@ -67,6 +69,44 @@ void Sheets::close()
         m_held.clear();
         changed();
     }
+}
+
+void Sheets::makeWay()
+{
+    m_left = std::move(m_sheet);
+    m_hovered.clear();
+    m_held.clear();
+    changed();
+}
+
+void Sheets::comeBack()
+{
+    if (m_left) {
+        open(std::move(m_left));
+    } else {
+        openMap();
+    }
+}
+
+std::string Sheets::title() const
+{
+    return m_sheet ? m_sheet->title() : std::string();
+}
+
+std::string Sheets::told() const
+{
+    return m_sheet ? m_sheet->told() : std::string();
+}
+
+std::vector<SheetPlace> Sheets::places() const
+{
+    return m_sheet ? drawing().places() : std::vector<SheetPlace>();
+}
+
+void Sheets::choose(const std::string& key)
+{
+    focusOn(key);
+    act(key);
 }
 
 std::string Sheets::name() const
@@ -209,11 +249,35 @@ bool Sheets::escape()
     return true;
 }
 
+std::string Sheets::nameOfPlace(const std::string& key) const
+{
+    const auto all = places();
+    const auto found = std::find_if(
+        all.begin(), all.end(), [&key](const SheetPlace& place) { return place.key == key; });
+    return found != all.end() ? found->text : std::string();
+}
+
+// What has come of it is told: where the keys are now, and what the sheet says that it did not.
 bool Sheets::key(std::string_view keys)
 {
     if (!m_sheet) {
         return false;
     }
+    m_controller.speaker().gestureBegins();
+    const Sheet* const sheet = m_sheet.get();
+    const std::string where = nameOfPlace(m_focus);
+    const std::string what = told();
+    performKey(keys);
+    if (m_sheet.get() == sheet) {
+        const std::string now = nameOfPlace(m_focus);
+        m_controller.speaker().tell(now != where ? now : std::string());
+        m_controller.speaker().tell(told() != what ? told() : std::string());
+    }
+    return true; // nothing below is played on meanwhile
+}
+
+void Sheets::performKey(std::string_view keys)
+{
     if (m_sheet->takeKey(keys)) {
         changed();
         m_closed.clear();
@@ -228,7 +292,6 @@ bool Sheets::key(std::string_view keys)
     } else if (keys == "Esc" || keys == "Escape") {
         escape();
     }
-    return true; // nothing below is played on meanwhile
 }
 
 // To the nearest that lies more that way than aside.

@@ -28,6 +28,17 @@ public:
     [[nodiscard]] std::string name() const; // empty when none is open
     [[nodiscard]] const std::string& focus() const { return m_focus; }
 
+    // A puzzle of the sheet's takes its place; Menu leads back to it, and to the map where none
+    // was open.
+    void makeWay();
+    void comeBack();
+
+    // For whoever does not see it: what the sheet says, what can be pressed on it, and a press.
+    [[nodiscard]] std::string title() const;
+    [[nodiscard]] std::string told() const;
+    [[nodiscard]] std::vector<present::SheetPlace> places() const;
+    void choose(const std::string& key);
+
     // Whether one may be opened over what is on the screen now.
     [[nodiscard]] bool canOpen() const;
     void openMap();
@@ -56,10 +67,13 @@ private:
     void walk(int x, int y);
     void step(int by);
     void act(const std::string& key);
+    [[nodiscard]] std::string nameOfPlace(const std::string& key) const;
+    void performKey(std::string_view keys);
 
     GameController& m_controller;
     GameContext& m_game;
     std::unique_ptr<Sheet> m_sheet;
+    std::unique_ptr<Sheet> m_left; // from which the puzzle in play came
     std::vector<std::unique_ptr<Sheet>> m_closed; // until whoever they called has returned
     std::string m_focus;
     std::string m_hovered;

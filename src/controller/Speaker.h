@@ -42,6 +42,8 @@ public:
     void messageShown();
     void questionAsked();
     void titleShown();
+    // What has words of its own.
+    void tell(const std::string& sentence) { say(sentence); }
     void chipLifted(const std::string& key);
     void liftRefused();
     void chipPutBack();

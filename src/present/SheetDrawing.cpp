@@ -151,7 +151,9 @@ std::vector<std::string> sheetPictureNames()
 {
     std::vector<std::string> names { "PuzzleClosed", "PuzzleReached", "PuzzleSolved", "PuzzleAtPar",
         "PuzzleChosen", "PuzzleStar", "PuzzlesButton", "MoveTag", "MoveTagLeft", "LeftRibbon",
-        "EmptySeat", "DayComing", "DayOpen", "DayAtPar", "DayOver" };
+        "EmptySeat", "DayComing", "DayOpen", "DayAtPar", "DayOver", "BrassDisc", "NotReachable",
+        "BackGold", "OnGold", "BackDark", "OnDark", "BarGold", "BarPale", "BarPlain", "BarOpen",
+        "BarTrack" };
     for (const auto& [width, height] : kButtons) {
         names.push_back(sized("SheetButton", width, height));
         names.push_back(names.back() + "-Lit");

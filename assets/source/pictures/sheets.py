@@ -4,6 +4,8 @@ They belong to the view: none is ever a thing of the board. Plates are drawn onc
 is used, so that no corner is stretched.
 """
 
+import math
+
 from .buttons import Board, enamel_plate, maple_plate
 from .extras import SHADOW_ROOM, _ivory, _plate_drawing, _star
 from .palette import (BRASS, BRASS_EDGE, BRASS_PLATE, BRASS_SEAT, CARVING, MAPLE, RIBBON, RIBBON_EDGE, SHADOW,
@@ -165,7 +167,10 @@ def day(kind):
     if kind == 'Coming':
         drawing.circle(c, c, 58, fill='#174E5B', stroke='#0E3442', width=4)
     elif kind == 'Open':
-        drawing.circle(c, c, 60, fill='#123F4B', stroke='#C9F3EE', width=3.2, opacity=.9)
+        drawing.circle(c, c, 60, fill='#123F4B')
+        for start in range(0, 360, 15):
+            x1, y1, x2, y2 = (c + 60 * f(math.radians(start + turn)) for turn in (0, 9) for f in (math.cos, math.sin))
+            drawing.path('M%s %sA60 60 0 0 1 %s %s' % numbers(x1, y1, x2, y2), stroke='#C9F3EE', width=3.6)
     else:
         drawing.circle(c, c, 66, fill=drawing.linear(c - 46, c - 50, c + 46, c + 50, BRASS), stroke=BRASS_EDGE, width=2)
         fill = drawing.linear(0, c - 57, 0, c + 57, BRASS_PLATE) if kind == 'AtPar' else '#0F4653'
@@ -178,6 +183,48 @@ def day(kind):
     return drawing
 
 
+def disc():
+    """Holds a number that is to be proud of."""
+    drawing = Drawing(.166 * UNITS_PER_HEIGHT, .166 * UNITS_PER_HEIGHT)
+    c = drawing.width / 2
+    for grow, opacity in ((12, .10), (8, .14), (4, .20)):
+        drawing.circle(c + 1, c + 6, 146 + grow, fill=SHADOW, opacity=opacity)
+    drawing.circle(c, c, 146, fill=BRASS_EDGE)
+    drawing.circle(c, c, 144, fill=drawing.linear(c - 100, c - 110, c + 100, c + 110, BRASS))
+    drawing.circle(c, c, 128, fill=drawing.linear(0, c - 128, 0, c + 128, BRASS_PLATE), stroke='#7A531C', width=3)
+    return drawing
+
+
+def triangle(way, fill, edge):
+    """Leads to what comes before or after."""
+    drawing = Drawing(48, 48)
+    drawing.path('M%s 7L%s 24L%s 41Z' % numbers(24 - 11 * way, 24 + 13 * way, 24 - 11 * way), fill=fill, stroke=edge,
+                 width=2.4)
+    return drawing
+
+
+def cross():
+    """In the place of the check mark: no."""
+    drawing = Drawing(96, 96)
+    for x in (24, 72):
+        drawing.path('M%s 24L%s 72' % numbers(x, 96 - x), stroke='#2A0A06', width=22)
+    for x in (24, 72):
+        drawing.path('M%s 24L%s 72' % numbers(x, 96 - x), stroke='#C8402C', width=15)
+    return drawing
+
+
+def bar(fill, edge, dash=''):
+    """A piece of a chart, drawn out to its length."""
+    drawing = Drawing(48, 24)
+    drawing.path('M0 0H48V24H0Z', fill=fill)
+    if dash:
+        for x in (2, 18, 34):
+            drawing.path('M%s 1.5H%s' % numbers(x, x + 10), stroke=dash, width=3)
+    if edge:
+        drawing.path('M0 0V24M48 0V24', stroke=edge, width=2)
+    return drawing
+
+
 def pictures():
     """Name -> a function that returns the Drawing."""
     known = {
@@ -185,6 +232,14 @@ def pictures():
         'PuzzleChosen': chosen, 'PuzzleStar': star, 'PuzzlesButton': puzzles_button, 'MoveTag': lambda: tag(False),
         'MoveTagLeft': lambda: tag(True), 'LeftRibbon': ribbon, 'EmptySeat': seat,
     }
+    known.update({
+        'BrassDisc': disc, 'NotReachable': cross,
+        'BackGold': lambda: triangle(-1, '#FFE9B0', '#3A2208'), 'OnGold': lambda: triangle(1, '#FFE9B0', '#3A2208'),
+        'BackDark': lambda: triangle(-1, '#3B2210', '#3B2210'), 'OnDark': lambda: triangle(1, '#3B2210', '#3B2210'),
+        'BarGold': lambda: bar('#F0CE7C', ''), 'BarPale': lambda: bar('#BEE6EA', '', '#3E8C98'),
+        'BarPlain': lambda: bar('#BEE6EA', ''), 'BarOpen': lambda: bar('#174E5B', ''),
+        'BarTrack': lambda: bar('#0C3340', ''),
+    })
     for width, height in BUTTONS:
         name = 'SheetButton-%d-%d' % (width, height)
         known[name] = lambda width=width, height=height: button(width, height, None)

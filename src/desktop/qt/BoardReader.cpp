@@ -181,7 +181,7 @@ QAccessibleInterface* BoardReader::at(QPoint place)
 void BoardReader::act(const std::string& id, const QString& action)
 {
     if (action == QAccessibleActionInterface::setFocusAction()) {
-        m_controller.focus().goTo(id);
+        controller::focusOn(m_controller, id);
         m_controller.answers().handsChanged();
     } else {
         controller::actOn(m_controller, id, action.toStdString());
@@ -193,8 +193,7 @@ void BoardReader::act(const std::string& id, const QString& action)
 void BoardReader::refresh()
 {
     AccessibleNode now = controller::accessibleTree(m_controller);
-    const auto stop = m_controller.focus().shown();
-    const std::string focused = stop ? stop->key : std::string();
+    const std::string focused = controller::focusedId(m_controller);
     if (!(now == m_tree)) {
         Names before;
         forEach(m_tree, [&](const AccessibleNode& node) {
