@@ -4,7 +4,7 @@
 #include "board/ElementKey.h"
 #include "controller/GameController.h"
 #include "controller/MessageWords.h"
-#include "controller/Sentences.h"
+#include "controller/SpokenNames.h"
 
 #include <algorithm>
 #include <array>
@@ -18,10 +18,13 @@ using input::Stop;
 
 constexpr std::string_view kOnSheet = "sheet-"; // before the key of its place
 
-std::string_view ownName(std::string_view action)
-{
-    return action.substr(0, action.find(':'));
-}
+// The names of actions; what they are called for people is in the texts.
+constexpr const char* kClick = "click";
+constexpr const char* kLift = "lift";
+constexpr const char* kDrop = "drop";
+constexpr const char* kPutBack = "put back";
+constexpr const char* kPress = "press";
+constexpr const char* kClose = "close";
 
 class Builder {
 public:
@@ -31,6 +34,7 @@ public:
         , m_stops(controller.focus().stops())
         , m_actions(controller.actions())
         , m_tips(controller)
+        , m_names(controller.context().texts)
     {
     }
 
@@ -77,7 +81,7 @@ private:
             made.children.push_back({ .id = std::string(kOnSheet) + place.key,
                 .role = Role::Button,
                 .name = place.text,
-                .actions = { sentences::pressAction() },
+                .actions = { { kPress, m_names.pressAction() } },
                 .place = place.rect,
                 .isFocusable = true });
         }
@@ -103,10 +107,10 @@ private:
         return found != m_stops.end() ? &*found : nullptr;
     }
 
-    void allow(AccessibleNode& made, std::string action) const
+    void allow(AccessibleNode& made, const char* action, std::string text) const
     {
         if (stop(made.id) != nullptr) {
-            made.actions.push_back(std::move(action));
+            made.actions.push_back({ action, std::move(text) });
             made.isFocusable = true;
         }
     }
@@ -116,7 +120,7 @@ private:
         AccessibleNode made = node(std::string(input::kMessageKey), Role::Dialog, {});
         if (const auto* const window = m_controller.messages().messageWindow()) {
             const MessageWords words
-                = wordsOf(*window, m_controller.context().layers.textMetrics());
+                = wordsOf(*window, m_controller.context().layers.textMetrics(), m_names);
             made.name = words.title;
             if (!words.body.empty()) {
                 made.children.push_back(
@@ -130,14 +134,14 @@ private:
                 child.place = made.place;
             }
         }
-        allow(made, sentences::closeAction());
+        allow(made, kClose, m_names.closeAction());
         return made;
     }
 
     [[nodiscard]] AccessibleNode question() const
     {
         AccessibleNode made
-            = node(std::string(input::kMessageKey), Role::Dialog, sentences::question());
+            = node(std::string(input::kMessageKey), Role::Dialog, m_names.question());
         for (const board::Button& button : board::kButtons) {
             if (button.screen == board::ButtonScreen::Question) {
                 made.children.push_back(this->button(button));
@@ -150,8 +154,9 @@ private:
     {
         const std::string key(button.litKey);
         const auto record = m_table.objectForKey(key);
-        AccessibleNode made = node(key, Role::Button, record ? record->name() : std::string());
-        allow(made, sentences::pressAction());
+        AccessibleNode made
+            = node(key, Role::Button, record ? m_names.thing(record->name()) : std::string());
+        allow(made, kPress, m_names.pressAction());
         return made;
     }
 
@@ -166,9 +171,9 @@ private:
             root.children.push_back(line(row, proof->lines()[row].theorem()));
             const std::string key = board::deleteButtonKey(row);
             if (row > 0 && m_table.contains(key)) {
-                AccessibleNode made = node(key, Role::Button, sentences::removal(row));
-                allow(made,
-                    sentences::removeAction(static_cast<unsigned>(proof->lines().size()) - row));
+                AccessibleNode made = node(key, Role::Button, m_names.removal(row));
+                allow(made, kPress,
+                    m_names.removeAction(static_cast<unsigned>(proof->lines().size()) - row));
                 root.children.push_back(std::move(made));
             }
         }
@@ -176,10 +181,10 @@ private:
 
     [[nodiscard]] AccessibleNode goal(const std::string& chips) const
     {
-        AccessibleNode made { .id = "goal", .role = Role::List, .name = sentences::goal(chips) };
+        AccessibleNode made { .id = "goal", .role = Role::List, .name = m_names.goal(chips) };
         for (unsigned column = 0; column < chips.size(); ++column) {
             made.children.push_back(node(board::chipKey("goal", column, board::kGoalRow),
-                Role::ListItem, sentences::chipInGoal(chips[column], column)));
+                Role::ListItem, m_names.chipInGoal(chips[column], column)));
         }
         made.place = around(made.children);
         return made;
@@ -189,10 +194,10 @@ private:
     {
         AccessibleNode made { .id = "line-" + std::to_string(row),
             .role = Role::List,
-            .name = sentences::line(row, chips) };
+            .name = m_names.line(row, chips) };
         for (unsigned column = 0; column < chips.size(); ++column) {
             AccessibleNode chip = node(board::generateKeyChipKey(column, row), Role::ListItem,
-                sentences::chipInLine(chips[column], row, column));
+                m_names.chipInLine(chips[column], row, column));
             addActions(chip, chips, row, column);
             made.children.push_back(std::move(chip));
         }
@@ -205,7 +210,7 @@ private:
     {
         const std::string lifted = m_controller.context().view.keyLifted();
         if (chip.id == lifted) {
-            chip.actions.push_back(sentences::putBackAction());
+            chip.actions.push_back({ kPutBack, m_names.putBackAction() });
             return;
         }
         if (stop(chip.id) == nullptr) {
@@ -213,7 +218,8 @@ private:
         }
         chip.isFocusable = true;
         if (!lifted.empty()) {
-            chip.actions.push_back(sentences::dropAction(chips[board::columnForKey(lifted)]));
+            chip.actions.push_back(
+                { kDrop, m_names.dropAction(chips[board::columnForKey(lifted)]) });
             return;
         }
         const auto has = [this](const auto& test) {
@@ -223,13 +229,13 @@ private:
                 const auto* const click = std::get_if<play::Click>(&gesture);
                 return click != nullptr && *click == play::Click { row, column };
             })) {
-            chip.actions.push_back(sentences::clickAction(chips[column]));
+            chip.actions.push_back({ kClick, m_names.clickAction(chips[column]) });
         }
         if (has([&](const play::Gesture& gesture) {
                 const auto* const drag = std::get_if<play::Drag>(&gesture);
                 return drag != nullptr && drag->fromRow == row && drag->from == column;
             })) {
-            chip.actions.push_back(sentences::liftAction());
+            chip.actions.push_back({ kLift, m_names.liftAction() });
         }
     }
 
@@ -241,20 +247,20 @@ private:
         for (unsigned i = 0; i < play::kMostChips; ++i) {
             const std::string key = board::chipKey("hint", i, board::kHintRow);
             if (const auto record = m_table.objectForKey(key)) {
-                names.push_back(record->name());
-                pieces.push_back(node(key, Role::ListItem, record->name()));
+                names.push_back(m_names.thing(record->name()));
+                pieces.push_back(node(key, Role::ListItem, names.back()));
             }
         }
         if (!pieces.empty()) {
             AccessibleNode made { .id = "hint",
                 .role = Role::List,
-                .name = sentences::hintPieces(names),
+                .name = m_names.hintPieces(names),
                 .children = std::move(pieces) };
             made.place = around(made.children);
             root.children.push_back(std::move(made));
         }
         if (const auto record = m_table.objectForKey("checkmark")) {
-            root.children.push_back(node("checkmark", Role::Image, record->name()));
+            root.children.push_back(node("checkmark", Role::Image, m_names.thing(record->name())));
         }
     }
 
@@ -268,7 +274,7 @@ private:
             const auto caption = m_table.objectForKey(label);
             const auto record = m_table.objectForKey(counter);
             if (caption && record) {
-                AccessibleNode made = node(counter, Role::Text, caption->name());
+                AccessibleNode made = node(counter, Role::Text, m_names.thing(caption->name()));
                 made.value = record->text() ? record->text()->text : std::string();
                 made.place = { .x = caption->x(),
                     .y = record->y(),
@@ -286,7 +292,7 @@ private:
         for (const char* const key :
             { "label-classicsavegame", "label-endlesssavegame", "label-endlessgamelocked" }) {
             if (const auto record = m_table.objectForKey(key)) {
-                AccessibleNode made = node(key, Role::Image, record->name());
+                AccessibleNode made = node(key, Role::Image, m_names.thing(record->name()));
                 made.value = m_tips.textFor(key);
                 root.children.push_back(std::move(made));
             }
@@ -312,6 +318,7 @@ private:
     std::vector<Stop> m_stops;
     std::vector<play::Gesture> m_actions;
     Tips m_tips;
+    SpokenNames m_names;
 };
 
 } // namespace
@@ -328,12 +335,29 @@ AccessibleNode accessibleTree(GameController& controller)
     return Builder(controller).build();
 }
 
+bool AccessibleAction::isCalled(std::string_view called) const
+{
+    return called == name || called == text || called == ownName();
+}
+
+std::string_view AccessibleAction::ownName() const
+{
+    std::string_view own = std::string_view(text).substr(0, text.find(':'));
+    // The blanks that French writes before a colon.
+    for (const std::string_view blank : { " ", "\u00A0", "\u202F" }) {
+        if (own.size() < text.size() && own.ends_with(blank)) {
+            own.remove_suffix(blank.size());
+        }
+    }
+    return own;
+}
+
 const AccessibleNode* find(
     const AccessibleNode& tree, std::string_view name, std::string_view action)
 {
     const bool does = action.empty()
         || std::any_of(tree.actions.begin(), tree.actions.end(),
-            [action](const std::string& one) { return one == action || ownName(one) == action; });
+            [action](const AccessibleAction& one) { return one.isCalled(action); });
     if (tree.name == name && does) {
         return &tree;
     }
@@ -370,15 +394,15 @@ bool actOn(GameController& controller, const std::string& id, std::string_view a
         controller.sheets().choose(id.substr(kOnSheet.size()));
         return true;
     }
-    const std::string_view name = ownName(action);
+    const SpokenNames names(controller.context().texts);
     const bool isLifted = !view.keyLifted().empty();
     bool done = true;
-    if (name == ownName(sentences::liftAction())) {
+    if (AccessibleAction { kLift, names.liftAction() }.isCalled(action)) {
         done = view.liftByKey(id);
         if (done) {
             controller.speaker().chipLifted(id);
         }
-    } else if (isLifted && name == ownName(sentences::putBackAction())) {
+    } else if (isLifted && AccessibleAction { kPutBack, names.putBackAction() }.isCalled(action)) {
         view.cancelGesture();
         controller.speaker().chipPutBack();
     } else if (isLifted && board::isChipKey(id)) {

@@ -16,13 +16,24 @@ enum class AccessibleRole { Pane, Dialog, List, ListItem, Button, Text, Image, S
 // "pane", "dialog", "list", "list item", "button", "text", "image", "status".
 [[nodiscard]] std::string_view nameOf(AccessibleRole role);
 
+// Something that can be done with a thing: by its name, which is the same in every language, or by
+// the text that people hear, where the words before a colon are the action's own name.
+struct AccessibleAction {
+    std::string name;
+    std::string text;
+
+    [[nodiscard]] bool isCalled(std::string_view called) const;
+    [[nodiscard]] std::string_view ownName() const;
+    friend bool operator==(const AccessibleAction&, const AccessibleAction&) = default;
+};
+
 // One thing on the screen as a reader knows it, without a toolkit. Names and values are for people.
 struct AccessibleNode {
     std::string id; // the same for as long as the thing is there: its key, or what it stands for
     AccessibleRole role = AccessibleRole::Text;
     std::string name;
     std::string value {};
-    std::vector<std::string> actions {}; // what comes before a colon is the action's own name
+    std::vector<AccessibleAction> actions {};
     std::vector<AccessibleNode> children {};
     present::ExtraRect place {}; // in game heights, by its centre; no width where it has none
     bool isFocusable = false;

@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kMissesUntilAdvice = 2;
 constexpr int kLostUntilAdvice = 3;
+constexpr int kDragsClickedUntilAdvice = 3;
 constexpr double kBlockThatShows = 1.0; // s; a shorter one changes no cursor
 
 // Texts have no layer of a record under the pointer, only their letters.
@@ -76,6 +77,7 @@ void Answers::puzzleLaidOut()
 {
     m_clicksMissed = 0;
     m_pressesLost = 0;
+    m_dragsClicked = 0;
     m_whisper.clear();
     m_celebration.puzzleLaidOut();
     direct();
@@ -290,8 +292,23 @@ void Answers::refused(const play::Gesture& gesture, const play::Refusal& why)
 {
     if (const auto* const click = std::get_if<play::Click>(&gesture)) {
         refusedAt(click->row, click->column, why);
+        adviseLiftByClick(click->row, click->column);
     } else if (const auto* const drag = std::get_if<play::Drag>(&gesture)) {
         refusedAt(drag->fromRow, drag->from, why);
+    }
+}
+
+// Who clicks again and again on what can only be dragged may not be able to drag.
+void Answers::adviseLiftByClick(unsigned row, unsigned column)
+{
+    if (!m_settings.answers || m_settings.liftByClick
+        || dropsThatAreMoves(m_controller, row, column).empty()) {
+        return;
+    }
+    if (++m_dragsClicked >= kDragsClickedUntilAdvice) {
+        m_dragsClicked = 0;
+        showTipAtOnce(
+            board::generateKeyChipKey(column, row), m_game.texts.text("advice.liftByClick"));
     }
 }
 
@@ -359,6 +376,16 @@ void Answers::clickMissed(const std::string& key)
         m_clicksMissed = 0;
         showTipAtOnce(key, m_game.texts.text("advice.forgivingClicks"));
     }
+}
+
+void Answers::chipLifted(const std::string& key)
+{
+    m_controller.speaker().chipLifted(key);
+}
+
+void Answers::chipPutBack()
+{
+    m_controller.speaker().chipPutBack();
 }
 
 void Answers::shake(const std::string& key)

@@ -45,6 +45,8 @@ public:
     void dragRefused(const std::string& key) override;
     void dropMissed(const std::string& from, const std::string& to) override;
     void clickMissed(const std::string& key) override;
+    void chipLifted(const std::string& key) override;
+    void chipPutBack() override;
 
 private:
     // The Classic game is finished: while the page says so, and on the empty board after it.
@@ -84,6 +86,7 @@ private:
     [[nodiscard]] std::string thingUnderPointer() const;
     [[nodiscard]] std::string doomedBy(const std::string& thing) const;
     [[nodiscard]] std::optional<present::ExtraRect> placeOf(const std::string& key) const;
+    void adviseLiftByClick(unsigned row, unsigned column);
     void refusedAt(unsigned row, unsigned column, const play::Refusal& why);
     void shake(const std::string& key);
     void pulse(const present::Extra& limit);
@@ -105,6 +108,7 @@ private:
     unsigned m_whispers = 0;
     int m_clicksMissed = 0; // in this puzzle
     int m_pressesLost = 0;
+    int m_dragsClicked = 0; // clicks on chips that can only be dragged
     double m_lastPulse = -1.0;
     bool m_tipIsDue = false;
 };

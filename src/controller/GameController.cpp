@@ -65,6 +65,7 @@ void GameController::windowDidResize()
 void GameController::languageChanged()
 {
     m_pages.showInNewWords();
+    m_speaker.languageChanged();
     m_answers.handsChanged();
 }
 
@@ -118,7 +119,7 @@ bool GameController::key(std::string_view keys, Press press)
     if (!command || (press == Press::Repeated && !input::movesFocus(command->verb))) {
         return false;
     }
-    if (input::isSingleLetter(keys) && !progress::readSettings(m_context.preferences).spokenKeys) {
+    if (input::speaks(command->verb) && !progress::readSettings(m_context.preferences).spokenKeys) {
         return false;
     }
     m_speaker.gestureBegins();

@@ -48,30 +48,34 @@ void addText(const board::GameObject& record, const platform::TextMetrics& metri
     }
 }
 
-void addPicture(const board::GameObject& record, std::vector<WordsOrPicture>& pieces)
+void addPicture(
+    const board::GameObject& record, const SpokenNames& names, std::vector<WordsOrPicture>& pieces)
 {
-    const std::string name = record.name();
+    const std::string name = names.thing(record.name());
     if (!name.empty()) { // panes, rules and arrows have none
         pieces.push_back({ record.x() - record.width() / 2.0, record.y(), name, true });
     }
 }
 
 // Chips beside one another are a list, anything else a text.
-std::string joined(const std::vector<WordsOrPicture>& row)
+std::string joined(const std::vector<WordsOrPicture>& row, const SpokenNames& names)
 {
     std::string text;
-    const WordsOrPicture* before = nullptr;
-    for (const WordsOrPicture& piece : row) {
-        const bool isList = before != nullptr && before->isPicture && piece.isPicture;
-        text += (before == nullptr ? "" : isList ? ", " : " ") + piece.words;
-        before = &piece;
+    for (auto begin = row.begin(); begin != row.end();) {
+        std::vector<std::string> list { begin->words };
+        const bool isPicture = begin->isPicture;
+        for (++begin; isPicture && begin != row.end() && begin->isPicture; ++begin) {
+            list.push_back(begin->words);
+        }
+        text += (text.empty() ? "" : " ") + names.listed(list);
     }
     return text;
 }
 
 } // namespace
 
-MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetrics& metrics)
+MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetrics& metrics,
+    const SpokenNames& names)
 {
     std::vector<WordsOrPicture> pieces;
     for (const board::GameObjectPtr& record : message.text()) {
@@ -80,7 +84,7 @@ MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetr
         }
     }
     for (const board::GameObjectPtr& record : message.images()) {
-        addPicture(*record, pieces);
+        addPicture(*record, names, pieces);
     }
     std::stable_sort(pieces.begin(), pieces.end(),
         [](const WordsOrPicture& a, const WordsOrPicture& b) { return a.y > b.y; });
@@ -95,7 +99,7 @@ MessageWords wordsOf(const present::InfoLayer& message, const platform::TextMetr
         std::vector<WordsOrPicture> row(begin, end);
         std::stable_sort(row.begin(), row.end(),
             [](const WordsOrPicture& a, const WordsOrPicture& b) { return a.left < b.left; });
-        const std::string text = joined(row);
+        const std::string text = joined(row, names);
         if (words.title.empty()) {
             words.title = text;
         } else if (!hasHeading) {

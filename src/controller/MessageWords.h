@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controller/SpokenNames.h"
 #include "platform/TextMetrics.h"
 #include "present/InfoLayer.h"
 
@@ -15,7 +16,7 @@ struct MessageWords {
 };
 
 // Reads what is on show, row by row, whatever language it is in.
-[[nodiscard]] MessageWords wordsOf(
-    const present::InfoLayer& message, const platform::TextMetrics& metrics);
+[[nodiscard]] MessageWords wordsOf(const present::InfoLayer& message,
+    const platform::TextMetrics& metrics, const SpokenNames& names);
 
 } // namespace veyrand::controller

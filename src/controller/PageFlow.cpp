@@ -1,5 +1,6 @@
 #include "controller/PageFlow.h"
 
+#include "board/BoardGeometry.h"
 #include "controller/FlowedLines.h"
 
 #include <algorithm>
@@ -40,20 +41,7 @@ bool isArrow(const PagePicture& picture)
 
 std::string pictureOf(char letter)
 {
-    switch (letter) {
-    case 'Y':
-        return "YellowChip";
-    case 'R':
-        return "RedChip";
-    case 'G':
-        return "GreenChip";
-    case 'B':
-        return "BlueChip";
-    case '?':
-        return "GreyChip";
-    default:
-        return "MultiChip";
-    }
+    return letter == '?' ? "GreyChip" : std::string(board::imageForLetter(letter));
 }
 
 // How pictures lie in a block's lines, in chips: taken from English's.

@@ -1,326 +1,227 @@
 #include "controller/Sentences.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 
-namespace veyrand::controller::sentences {
+namespace veyrand::controller {
 
 namespace {
 
-// Small numbers are words: read aloud, "3" is now three, now third.
-std::string inWords(std::size_t number)
+// A sentence may begin with a mark, whose words know nothing of that. Of the letters beyond ASCII
+// those of the western languages have their capitals 32 places before them as well.
+std::string withCapital(std::string text)
 {
-    constexpr std::array<const char*, 14> kWords { "no", "one", "two", "three", "four", "five",
-        "six", "seven", "eight", "nine", "ten", "eleven", "twelve", "thirteen" };
-    return number < kWords.size() ? kWords.at(number) : std::to_string(number);
-}
-
-std::string counted(std::size_t number, const char* one, const char* many)
-{
-    return inWords(number) + ' ' + (number == 1 ? one : many);
-}
-
-std::string capital(std::string text)
-{
-    if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') {
-        text[0] = static_cast<char>(text[0] - 'a' + 'A');
+    constexpr char kToCapital = 'a' - 'A';
+    const auto byte = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const bool isPlain = !text.empty() && text[0] >= 'a' && text[0] <= 'z';
+    const bool isAccented = text.size() > 1 && byte(0) == 0xC3 && byte(1) >= 0xA0 && byte(1) < 0xBF
+        && byte(1) != 0xB7; // which is a sign
+    if (isPlain || isAccented) {
+        char& letter = text[isPlain ? 0 : 1];
+        letter = static_cast<char>(letter - kToCapital);
     }
     return text;
-}
-
-std::string listed(const std::vector<std::string>& parts)
-{
-    std::string text;
-    for (const std::string& part : parts) {
-        text += (text.empty() ? "" : ", ") + part;
-    }
-    return text;
-}
-
-std::string place(unsigned column)
-{
-    return "place " + std::to_string(column + 1);
 }
 
 } // namespace
 
-std::string chip(char letter)
+std::string Sentences::text(std::string_view id, language::Arguments arguments) const
 {
-    switch (letter) {
-    case 'Y':
-        return "yellow";
-    case 'R':
-        return "red";
-    case 'G':
-        return "green";
-    case 'B':
-        return "blue";
-    default:
-        return "any chip";
-    }
+    return withCapital(m_texts.text("spoken." + std::string(id), arguments));
 }
 
-std::string chips(const std::string& line)
+std::string Sentences::counting(std::string_view id, std::int64_t number) const
 {
-    std::vector<std::string> runs;
-    for (std::size_t begin = 0; begin < line.size();) {
-        const std::size_t end = std::min(line.find_first_not_of(line[begin], begin), line.size());
-        const std::string name = chip(line[begin]);
-        runs.push_back(end - begin == 1 ? name : inWords(end - begin) + ' ' + name + 's');
-        begin = end;
-    }
-    return listed(runs);
+    return text(id, { { "count", number }, { "number", m_names.inWords(number) } });
 }
 
-std::string lineName(unsigned row)
-{
-    return row == 0 ? "start line" : "line " + std::to_string(row);
-}
-
-std::string line(unsigned row, const std::string& line)
-{
-    return lineName(row) + ": " + chips(line);
-}
-
-std::string goal(const std::string& line)
-{
-    return "goal: " + chips(line);
-}
-
-std::string chipInLine(char letter, unsigned row, unsigned column)
-{
-    return chip(letter) + ", " + lineName(row) + ", " + place(column);
-}
-
-std::string chipInGoal(char letter, unsigned column)
-{
-    return chip(letter) + ", goal, " + place(column);
-}
-
-std::string removal(unsigned row)
-{
-    return "delete " + lineName(row);
-}
-
-std::string hintPieces(const std::vector<std::string>& pieces)
-{
-    return "The next line is made of: " + listed(pieces) + '.';
-}
-
-std::string question()
-{
-    return "Continue the game or start a new one?";
-}
-
-std::string message(const std::string& title, const std::string& body)
+std::string Sentences::message(const std::string& title, const std::string& body) const
 {
     const bool isClosed = title.empty() || title.find_last_of(".!?)") + 1 == title.size();
     return title + (isClosed ? "" : ".") + (title.empty() || body.empty() ? "" : " ") + body;
 }
 
-std::string titlePage()
+std::string Sentences::titlePage() const
 {
-    return "Title page.";
+    return text("titlePage");
 }
 
-std::string clickAction(char letter)
+std::string Sentences::moveMade(unsigned label) const
 {
-    switch (letter) {
-    case 'Y':
-        return "click: doubles what follows";
-    case 'R':
-        return "click: adds a green at the end";
-    case 'G':
-        return "click: puts a blue between the two greens";
-    default:
-        return "click";
-    }
+    return text("move", { { "move", std::int64_t { label } } });
 }
 
-std::string liftAction()
+std::string Sentences::newLine(unsigned row, const std::string& line) const
 {
-    return "lift";
+    const std::string chips = m_names.chips(line);
+    return row == 0 ? text("startLineIs", { { "chips", chips } })
+                    : text("lineIs", { { "row", std::int64_t { row } }, { "chips", chips } });
 }
 
-std::string dropAction(char letter)
-{
-    switch (letter) {
-    case 'R':
-        return "drop: makes a green of the three reds";
-    case 'G':
-        return "drop: takes both greens away";
-    case 'B':
-        return "drop: takes away what lies between the two blues";
-    default:
-        return "drop: jumps over two chips, which swap places";
-    }
-}
-
-std::string putBackAction()
-{
-    return "put back";
-}
-
-std::string pressAction()
-{
-    return "press";
-}
-
-std::string removeAction(unsigned lines)
-{
-    return "press: takes " + counted(lines, "line", "lines") + " back";
-}
-
-std::string closeAction()
-{
-    return "close";
-}
-
-std::string moveMade(unsigned label)
-{
-    return "Move " + std::to_string(label) + '.';
-}
-
-std::string newLine(unsigned row, const std::string& line)
-{
-    return capital(sentences::line(row, line)) + '.';
-}
-
-std::string toPar(int moves)
+std::string Sentences::toPar(int moves) const
 {
     if (moves == 0) {
-        return "Par is used up.";
+        return text("parUsedUp");
     }
-    const auto count = static_cast<std::size_t>(std::abs(moves));
-    return capital(counted(count, "move", "moves")) + (moves > 0 ? " to go to par." : " over par.");
+    return counting(moves > 0 ? "toPar" : "pastPar", std::abs(moves));
 }
 
-std::string solved(std::int64_t points, int over)
+std::string Sentences::solved(std::int64_t points, int over) const
 {
-    const auto count = static_cast<std::size_t>(std::abs(over));
-    const std::string how = over == 0 ? "at par"
-        : over > 0                    ? counted(count, "move", "moves") + " over par"
-                                      : counted(count, "move", "moves") + " under par";
-    return "Solved " + how + ": " + std::to_string(points) + " points.";
+    if (over == 0) {
+        return text("solvedAtPar", { { "points", points } });
+    }
+    const std::int64_t count = std::abs(over);
+    return text(over > 0 ? "solvedOverPar" : "solvedUnderPar",
+        { { "count", count }, { "number", m_names.inWords(count) }, { "points", points } });
 }
 
-std::string removed(unsigned lines)
+std::string Sentences::solvedInPractice(int over) const
 {
-    return capital(counted(lines, "line", "lines")) + " taken back.";
+    return over == 0 ? text("practiceAtPar")
+                     : counting(over > 0 ? "practiceOverPar" : "practiceUnderPar", std::abs(over));
 }
 
-std::string lastLineIs(unsigned row, const std::string& line)
+std::string Sentences::removed(unsigned lines) const
 {
-    return "The last is " + sentences::line(row, line) + '.';
+    return counting("takenBack", std::int64_t { lines });
 }
 
-std::string undone()
+std::string Sentences::lastLineIs(unsigned row, const std::string& line) const
 {
-    return "Undone.";
+    const std::string chips = m_names.chips(line);
+    return row == 0 ? text("lastIsStartLine", { { "chips", chips } })
+                    : text("lastIsLine", { { "row", std::int64_t { row } }, { "chips", chips } });
 }
 
-std::string redone()
+std::string Sentences::undone() const
 {
-    return "Redone.";
+    return text("undone");
 }
 
-std::string goodSoFar()
+std::string Sentences::redone() const
 {
-    return "Good so far.";
+    return text("redone");
 }
 
-std::string nothingToHint()
+std::string Sentences::goodSoFar() const
 {
-    return "There is nothing to hint at.";
+    return text("goodSoFar");
 }
 
-std::string linePlaced()
+std::string Sentences::nothingToHint() const
 {
-    return "The hint makes the line.";
+    return text("nothingToHint");
 }
 
-std::string classicPuzzle(int level, int stage)
+std::string Sentences::linePlaced() const
 {
-    return "Puzzle " + std::to_string(level) + '-' + std::to_string(stage) + '.';
+    return text("linePlaced");
 }
 
-std::string endlessPuzzle()
+std::string Sentences::classicPuzzle(int level, int stage) const
 {
-    return "Endless puzzle.";
+    return text("classicPuzzle",
+        { { "level", std::int64_t { level } }, { "stage", std::int64_t { stage } } });
 }
 
-std::string puzzle(const std::string& goal, const std::string& start, int par)
+std::string Sentences::endlessPuzzle() const
 {
-    return capital(sentences::goal(goal)) + ". " + capital(line(0, start)) + ". Par is "
-        + counted(static_cast<std::size_t>(std::max(par, 0)), "move", "moves") + '.';
+    return text("endlessPuzzle");
 }
 
-std::string lifted(char letter, const std::vector<unsigned>& columns)
+std::string Sentences::practicePuzzle(const std::string& caption) const
+{
+    return text("practicePuzzle", { { "name", caption } });
+}
+
+std::string Sentences::puzzle(const std::string& goal, const std::string& start, int par) const
+{
+    const std::int64_t moves = std::max(par, 0);
+    return text("puzzle",
+        { { "count", moves }, { "number", m_names.inWords(moves) }, { "goal", m_names.chips(goal) },
+            { "start", m_names.chips(start) } });
+}
+
+std::string Sentences::lifted(char letter, const std::vector<unsigned>& columns) const
 {
     std::vector<std::string> places;
     for (const unsigned column : columns) {
-        places.push_back(place(column));
+        places.push_back(
+            m_texts.text("spoken.place", { { "place", std::int64_t { column + 1 } } }));
     }
-    return capital(chip(letter)) + " is lifted. It can be dropped on " + listed(places) + '.';
+    return text(
+        "lifted", { { "chip", m_names.chip(letter) }, { "places", m_names.listed(places) } });
 }
 
-std::string cannotBeLifted()
+std::string Sentences::cannotBeLifted() const
 {
-    return "It cannot be lifted now.";
+    return text("cannotBeLifted");
 }
 
-std::string hasBeenPutBack()
+std::string Sentences::hasBeenPutBack() const
 {
-    return "Put back.";
+    return text("hasBeenPutBack");
 }
 
-std::string difference(const std::string& line, const std::string& goal)
+std::string Sentences::goalIs(const std::string& line) const
+{
+    return m_texts.text("spoken.goalIs", { { "chips", m_names.chips(line) } });
+}
+
+std::string Sentences::difference(const std::string& line, const std::string& goal) const
 {
     if (line == goal) {
-        return "The line is the goal.";
+        return text("isGoal");
     }
     const std::size_t shorter = std::min(line.size(), goal.size());
     std::size_t same = 0;
     while (same < shorter && line[same] == goal[same]) {
         ++same;
     }
-    std::string text = same == 0 ? "The first chips differ."
-                                 : "The first " + (same == 1 ? std::string() : inWords(same) + ' ')
-            + (same == 1 ? "chip is" : "chips are") + " the same.";
-    const auto rest = [same](const std::string& chipsOfIt) {
-        return same < chipsOfIt.size() ? chips(chipsOfIt.substr(same))
-                                       : std::string("nothing more");
+    const auto rest = [this, same](const std::string& chipsOfIt) {
+        return same < chipsOfIt.size() ? m_names.chips(chipsOfIt.substr(same))
+                                       : m_texts.text("spoken.nothingMore");
     };
-    text += " Then the line has " + rest(line) + "; the goal has " + rest(goal) + '.';
-    return text;
+    const auto count = static_cast<std::int64_t>(same);
+    return text(same == 0 ? "firstDiffer" : "firstAreSame",
+        { { "count", count }, { "number", m_names.inWords(count) }, { "line", rest(line) },
+            { "goal", rest(goal) } });
 }
 
-std::string points(std::int64_t points, int par, int moves)
+std::string Sentences::points(std::int64_t points) const
 {
-    return std::to_string(points) + (points == 1 ? " point. " : " points. ") + "Par is "
-        + counted(static_cast<std::size_t>(std::max(par, 0)), "move", "moves") + "; you have made "
-        + (moves <= 0 ? "none" : inWords(static_cast<std::size_t>(moves))) + '.';
+    return text("points", { { "points", points } });
 }
 
-std::string noPuzzle()
+std::string Sentences::parAndMade(int par, int moves) const
 {
-    return "No puzzle is in play.";
+    const std::int64_t made = std::max(moves, 0);
+    const std::string madeInWords = m_texts.text(made == 0 ? "spoken.madeNone" : "spoken.made",
+        { { "count", made }, { "number", m_names.inWords(made) } });
+    const std::int64_t count = std::max(par, 0);
+    return text("parAndMade",
+        { { "count", count }, { "number", m_names.inWords(count) }, { "made", madeInWords } });
 }
 
-std::string nothingSaid()
+std::string Sentences::noPuzzle() const
 {
-    return "Nothing has been said yet.";
+    return text("noPuzzle");
 }
 
-std::string choices(const std::vector<std::string>& names)
+std::string Sentences::nothingSaid() const
 {
-    return "Here can be activated: " + listed(names) + '.';
+    return text("nothingSaid");
 }
 
-std::string noChoices()
+std::string Sentences::choices(const std::vector<std::string>& names) const
 {
-    return "Nothing can be activated here now.";
+    return text("choices", { { "names", m_names.listed(names) } });
 }
 
-} // namespace veyrand::controller::sentences
+std::string Sentences::noChoices() const
+{
+    return text("noChoices");
+}
+
+} // namespace veyrand::controller

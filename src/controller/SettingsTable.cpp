@@ -109,6 +109,8 @@ constexpr std::array kSettingItems {
     whether<&Settings::liftByClick>("&Lift by Click",
         "A right click lifts a chip, and so does a click where a click is no move; the next puts "
         "it down."),
+    whether<&Settings::spokenKeys>(
+        "S&poken Keys", "G, L, D, P, R and Shift+H tell a screen reader how the board stands."),
     whether<&Settings::woodToTheEdges>(
         "&Wood to the Edges", "Wood instead of black beside the board."),
     whether<&Settings::keepUnfinishedPuzzles>(

@@ -233,6 +233,9 @@ void Sheets::act(const std::string& key)
     } else if (m_sheet) {
         m_sheet->press(key);
         changed();
+        if (!m_sheet) {
+            m_controller.speaker().sheetClosed();
+        }
     }
     m_closed.clear();
 }
@@ -244,6 +247,7 @@ bool Sheets::escape()
     }
     if (!m_sheet->goBack()) {
         close();
+        m_controller.speaker().sheetClosed();
     }
     m_closed.clear();
     return true;

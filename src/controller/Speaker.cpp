@@ -19,6 +19,7 @@ constexpr double kBetweenTwo = 0.05; // s
 Speaker::Speaker(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
+    , m_sentences(m_game.texts)
 {
 }
 
@@ -37,8 +38,8 @@ const engine::Proof* Speaker::proof() const
 // What a sentence may have been overtaken by.
 std::string Speaker::state() const
 {
-    std::string text
-        = m_controller.messages().page() + ' ' + std::to_string(m_controller.dialogueState()) + ' ';
+    std::string text = m_controller.sheets().name() + ' ' + m_controller.messages().page() + ' '
+        + std::to_string(m_controller.dialogueState()) + ' ';
     if (const engine::Proof* const proof = this->proof()) {
         text += std::to_string(proof->lines().size()) + proof->lines().back().theorem();
     }
@@ -57,7 +58,9 @@ void Speaker::say(const std::string& sentence)
         m_game.runLoop.performAfterDelay(0.0, [this] { finishSentence(); });
     }
     m_state = state();
-    m_waiting.push_back(sentence);
+    if (m_waiting.empty() || m_waiting.back() != sentence) {
+        m_waiting.push_back(sentence);
+    }
 }
 
 void Speaker::finishSentence()
@@ -100,7 +103,7 @@ int Speaker::movesToPar() const
 void Speaker::sayLine()
 {
     if (const engine::Proof* const proof = this->proof()) {
-        say(sentences::newLine(
+        say(m_sentences.newLine(
             static_cast<unsigned>(proof->lines().size() - 1), proof->lines().back().theorem()));
     }
 }
@@ -110,10 +113,10 @@ void Speaker::moveMade(unsigned rule)
     if (!isHeard() || proof() == nullptr) {
         return;
     }
-    say(sentences::moveMade(play::labelOf(rule)));
+    say(m_sentences.moveMade(play::labelOf(rule)));
     sayLine();
     if (!m_controller.proof()->checkSolved()) {
-        say(sentences::toPar(movesToPar()));
+        say(m_sentences.toPar(movesToPar()));
     }
 }
 
@@ -127,23 +130,25 @@ void Speaker::refused(const play::Refusal& why)
 void Speaker::solved(std::int64_t points)
 {
     if (isHeard()) {
-        say(sentences::solved(points, -movesToPar()));
+        say(m_game.currentGame.practice() ? m_sentences.solvedInPractice(-movesToPar())
+                                          : m_sentences.solved(points, -movesToPar()));
     }
 }
 
 void Speaker::linesTaken(const play::Outcome& outcome)
 {
     if (isHeard() && proof() != nullptr && !outcome.gone.empty()) {
-        say(sentences::removed(static_cast<unsigned>(outcome.gone.size())));
+        say(m_sentences.removed(static_cast<unsigned>(outcome.gone.size())));
         const auto& lines = proof()->lines();
-        say(sentences::lastLineIs(static_cast<unsigned>(lines.size() - 1), lines.back().theorem()));
+        say(m_sentences.lastLineIs(
+            static_cast<unsigned>(lines.size() - 1), lines.back().theorem()));
     }
 }
 
 void Speaker::undone()
 {
     if (isHeard() && proof() != nullptr) {
-        say(sentences::undone());
+        say(m_sentences.undone());
         sayLastLine();
     }
 }
@@ -151,7 +156,7 @@ void Speaker::undone()
 void Speaker::redone()
 {
     if (isHeard() && proof() != nullptr) {
-        say(sentences::redone());
+        say(m_sentences.redone());
         sayLastLine();
     }
 }
@@ -163,20 +168,20 @@ void Speaker::hintGiven(play::Hint::Kind kind)
     }
     switch (kind) {
     case play::Hint::Kind::Good:
-        return say(sentences::goodSoFar());
+        return say(m_sentences.goodSoFar());
     case play::Hint::Kind::Pieces: {
         std::vector<std::string> pieces;
         const board::ObjectTable& table = m_game.board.gameData.gameObjects();
         for (unsigned i = 0; i < play::kMostChips; ++i) {
             if (const auto record
                 = table.objectForKey(board::chipKey("hint", i, board::kHintRow))) {
-                pieces.push_back(record->name());
+                pieces.push_back(m_sentences.names().thing(record->name()));
             }
         }
-        return say(sentences::hintPieces(pieces));
+        return say(m_sentences.names().hintPieces(pieces));
     }
     case play::Hint::Kind::Nothing:
-        return say(sentences::nothingToHint());
+        return say(m_sentences.nothingToHint());
     case play::Hint::Kind::Back:
     case play::Hint::Kind::Line:
         return; // told when it has come about
@@ -186,10 +191,10 @@ void Speaker::hintGiven(play::Hint::Kind kind)
 void Speaker::hintLanded()
 {
     if (isHeard() && proof() != nullptr) {
-        say(sentences::linePlaced());
+        say(m_sentences.linePlaced());
         sayLine();
         if (!m_controller.proof()->checkSolved()) {
-            say(sentences::toPar(movesToPar()));
+            say(m_sentences.toPar(movesToPar()));
         }
     }
 }
@@ -201,9 +206,10 @@ void Speaker::puzzleLaidOut()
         return;
     }
     const progress::CurrentGame& game = m_game.currentGame;
-    say(game.endlessGame() ? sentences::endlessPuzzle()
-                           : sentences::classicPuzzle(game.level(), game.stage()));
-    say(sentences::puzzle(
+    say(game.practice()          ? m_sentences.practicePuzzle(game.practice()->caption)
+            : game.endlessGame() ? m_sentences.endlessPuzzle()
+                                 : m_sentences.classicPuzzle(game.level(), game.stage()));
+    say(m_sentences.puzzle(
         proof->goal().theorem(), proof->lines().front().theorem(), game.par() - 1));
 }
 
@@ -220,21 +226,21 @@ void Speaker::messageShown()
     if (!isHeard() || message == nullptr) {
         return;
     }
-    const MessageWords words = wordsOf(*message, m_game.layers.textMetrics());
-    say(sentences::message(words.title, words.body));
+    const MessageWords words = wordsOf(*message, m_game.layers.textMetrics(), m_sentences.names());
+    say(m_sentences.message(words.title, words.body));
 }
 
 void Speaker::questionAsked()
 {
     if (isHeard()) {
-        say(sentences::question());
+        say(m_sentences.names().question());
     }
 }
 
 void Speaker::titleShown()
 {
     if (isHeard()) {
-        say(sentences::titlePage());
+        say(m_sentences.titlePage());
     }
 }
 
@@ -247,37 +253,55 @@ void Speaker::chipLifted(const std::string& key)
     const unsigned column = board::columnForKey(key);
     const std::string& line = proof()->lines().back().theorem();
     if (column < line.size()) {
-        say(sentences::lifted(line[column], dropsThatAreMoves(m_controller, row, column)));
+        say(m_sentences.lifted(line[column], dropsThatAreMoves(m_controller, row, column)));
     }
 }
 
 void Speaker::liftRefused()
 {
     if (isHeard()) {
-        say(sentences::cannotBeLifted());
+        say(m_sentences.cannotBeLifted());
     }
 }
 
 void Speaker::chipPutBack()
 {
     if (isHeard()) {
-        say(sentences::hasBeenPutBack());
+        say(m_sentences.hasBeenPutBack());
     }
+}
+
+void Speaker::sheetClosed()
+{
+    if (!isHeard() || m_isOpen) {
+        return;
+    }
+    if (proof() != nullptr) {
+        sayLastLine();
+    } else {
+        titleShown();
+    }
+}
+
+void Speaker::languageChanged()
+{
+    m_waiting.clear();
+    m_last.clear();
 }
 
 void Speaker::sayGoal()
 {
     const engine::Proof* const proof = this->proof();
-    say(proof != nullptr ? sentences::goal(proof->goal().theorem()) + '.' : sentences::noPuzzle());
+    say(proof != nullptr ? m_sentences.goalIs(proof->goal().theorem()) : m_sentences.noPuzzle());
 }
 
 void Speaker::sayLastLine()
 {
     if (const engine::Proof* const proof = this->proof()) {
-        say(sentences::lastLineIs(
+        say(m_sentences.lastLineIs(
             static_cast<unsigned>(proof->lines().size() - 1), proof->lines().back().theorem()));
     } else {
-        say(sentences::noPuzzle());
+        say(m_sentences.noPuzzle());
     }
 }
 
@@ -285,23 +309,25 @@ void Speaker::sayDifference()
 {
     const engine::Proof* const proof = this->proof();
     say(proof != nullptr
-            ? sentences::difference(proof->lines().back().theorem(), proof->goal().theorem())
-            : sentences::noPuzzle());
+            ? m_sentences.difference(proof->lines().back().theorem(), proof->goal().theorem())
+            : m_sentences.noPuzzle());
 }
 
 void Speaker::sayPoints()
 {
     const progress::CurrentGame& game = m_game.currentGame;
     if (proof() == nullptr) {
-        return say(sentences::noPuzzle());
+        return say(m_sentences.noPuzzle());
     }
-    say(sentences::points(game.endlessGame() ? game.endlessScore() : game.score(), game.par() - 1,
-        static_cast<int>(m_controller.lineCount()) - 1));
+    if (!game.practice()) {
+        say(m_sentences.points(game.endlessGame() ? game.endlessScore() : game.score()));
+    }
+    say(m_sentences.parAndMade(game.par() - 1, static_cast<int>(m_controller.lineCount()) - 1));
 }
 
 void Speaker::sayAgain()
 {
-    say(m_last.empty() ? sentences::nothingSaid() : m_last);
+    say(m_last.empty() ? m_sentences.nothingSaid() : m_last);
 }
 
 void Speaker::sayChoices()
@@ -310,7 +336,7 @@ void Speaker::sayChoices()
         return;
     }
     const auto names = namesOfChoices(accessibleTree(m_controller));
-    say(names.empty() ? sentences::noChoices() : sentences::choices(names));
+    say(names.empty() ? m_sentences.noChoices() : m_sentences.choices(names));
 }
 
 } // namespace veyrand::controller

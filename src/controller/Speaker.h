@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "controller/Sentences.h"
 #include "play/Refusal.h"
 #include "play/Session.h"
 
@@ -47,6 +48,9 @@ public:
     void chipLifted(const std::string& key);
     void liftRefused();
     void chipPutBack();
+    void sheetClosed(); // unless what it led to is told
+    // What was said is of another language now.
+    void languageChanged();
 
     // Answers to keys.
     void sayGoal();
@@ -66,6 +70,7 @@ private:
 
     GameController& m_controller;
     GameContext& m_game;
+    Sentences m_sentences;
     std::function<void(const std::string&)> m_listener;
     std::vector<std::string> m_waiting; // the parts of one sentence
     std::string m_last;

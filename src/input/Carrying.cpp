@@ -175,6 +175,9 @@ bool GameView::lift(const std::string& key, Lift how)
             .y = static_cast<double>(place.y + place.height / 2.0F) });
     m_hover.createTrackingAreas(row, *targets);
     tellHandsChanged();
+    if (m_onlooker != nullptr && how == Lift::ByPointer) {
+        m_onlooker->chipLifted(key);
+    }
     return true;
 }
 
@@ -307,9 +310,17 @@ void GameView::settleLift(const MouseEvent& event)
     if (isTarget(key)) {
         endDrag(event, key);
     } else {
-        takeBackDrag();
+        putBack();
     }
     finishGesture();
+}
+
+void GameView::putBack()
+{
+    takeBackDrag();
+    if (m_onlooker != nullptr && m_lift != Lift::None) {
+        m_onlooker->chipPutBack();
+    }
 }
 
 void GameView::stayLifted()

@@ -225,7 +225,7 @@ void GameView::cancelGesture()
     }
     letGo();
     if (m_drag) {
-        takeBackDrag();
+        putBack();
     }
     finishGesture();
 }

@@ -113,6 +113,7 @@ private:
     [[nodiscard]] bool isTarget(const std::string& key) const;
     void awaitLongPress(const MouseEvent& event);
     void settleLift(const MouseEvent& event);
+    void putBack();
     void stayLifted();
     void tellPointerUsed();
     void takeBackDrag();

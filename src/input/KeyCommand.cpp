@@ -61,10 +61,9 @@ std::optional<KeyCommand> commandFor(std::string_view keys)
                                     : std::nullopt;
 }
 
-bool isSingleLetter(std::string_view keys)
+bool speaks(KeyCommand::Verb verb)
 {
-    const std::string_view last = keys.starts_with("Shift+") ? keys.substr(6) : keys;
-    return last.size() == 1 && last[0] >= 'A' && last[0] <= 'Z';
+    return verb >= Verb::SpeakGoal && verb <= Verb::SpeakChoices;
 }
 
 bool movesFocus(KeyCommand::Verb verb)

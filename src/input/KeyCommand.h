@@ -45,8 +45,9 @@ struct KeyCommand {
 // use for.
 [[nodiscard]] std::optional<KeyCommand> commandFor(std::string_view keys);
 
-// A letter alone, which the player may have switched off because a reader or a dictation uses it.
-[[nodiscard]] bool isSingleLetter(std::string_view keys);
+// A letter that does nothing but speak. The player may have switched those off, because a reader or
+// a dictation uses them.
+[[nodiscard]] bool speaks(KeyCommand::Verb verb);
 
 // Moves the focus; held down, it goes on. Every other command is given once for each press.
 [[nodiscard]] bool movesFocus(KeyCommand::Verb verb);

@@ -28,6 +28,10 @@ public:
     virtual void dropMissed(const std::string& from, const std::string& to) = 0;
     // The same, over the chip itself: a click, had the pointer not moved.
     virtual void clickMissed(const std::string& key) = 0;
+    // A click, a right click or a long press has put a chip into the hand, where it stays; and one
+    // that was in the hand without a button held has gone back to its place.
+    virtual void chipLifted(const std::string& key) = 0;
+    virtual void chipPutBack() = 0;
 };
 
 } // namespace veyrand::input

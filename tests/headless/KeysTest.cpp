@@ -231,12 +231,24 @@ TEST_F(Keys, HAsksForAHintAndMListsTheMoves)
     EXPECT_EQ(game().controller().messages().page(), "");
 }
 
-TEST_F(Keys, SingleLettersCanBeSwitchedOff)
+TEST_F(Keys, LettersThatSpeakCanBeSwitchedOff)
 {
-    game().preferences().setRecord("Settings", { { "SpokenKeys", false } });
     play("YRG", "YGG");
-    key("M");
-    EXPECT_EQ(game().controller().messages().page(), "");
+    game().listen();
+    const std::vector<const char*> speaking { "G", "L", "D", "P", "R", "Shift+H" };
+    for (const char* const keys : speaking) {
+        wait(0.1);
+        key(keys);
+        EXPECT_EQ(game().takeAnnouncements().size(), 1U) << keys;
+    }
+    game().menu().trigger("Spoken Keys");
+    for (const char* const keys : speaking) {
+        wait(0.1);
+        key(keys);
+        EXPECT_EQ(game().takeAnnouncements(), Strings {}) << keys;
+    }
+    key("M"); // plays, and does not speak
+    EXPECT_EQ(game().controller().messages().page(), "movesMessageWindow");
 }
 
 TEST_F(Keys, AKeyIntoABlockIsAPressThatIsLostAndRememberedIfWished)

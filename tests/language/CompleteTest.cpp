@@ -3,6 +3,7 @@
 #include "support/FolderResources.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 namespace veyrand::language {
 
@@ -22,6 +23,28 @@ TEST(ShippedLanguages, AreCompleteAndWithoutFaults)
                 EXPECT_NE(texts.page(page), nullptr) << page;
             });
         }
+    }
+}
+
+// What is spoken is short, and a text that was copied and not translated would go unnoticed.
+TEST(ShippedLanguages, HaveSpokenTextsOfTheirOwn)
+{
+    const std::set<std::string> alike { "numbers.6", "spoken.list", "spoken.place", "spoken.points",
+        "things.Menu", "things.Veyrand", "things.par", "things.points" };
+    Texts english(test::gameResources());
+    Texts texts(test::gameResources());
+    for (const Name& language : kLanguages) {
+        texts.choose(language.code);
+        texts.forEachId([&](const std::string& id) {
+            const bool isSpoken = id.starts_with("spoken.") || id.starts_with("things.")
+                || id.starts_with("numbers.");
+            for (const std::int64_t count : { 1, 5 }) {
+                EXPECT_TRUE(!isSpoken || language.code == kEnglish || alike.contains(id)
+                    || texts.text(id, { { "count", count } })
+                        != english.text(id, { { "count", count } }))
+                    << language.code << ": " << id;
+            }
+        });
     }
 }
 

@@ -24,8 +24,12 @@ Json describe(const controller::AccessibleNode& node)
     for (const controller::AccessibleNode& child : node.children) {
         children.push_back(describe(child));
     }
+    Json actions = Json::array();
+    for (const controller::AccessibleAction& action : node.actions) {
+        actions.push_back(action.text);
+    }
     return { { "role", controller::nameOf(node.role) }, { "name", node.name },
-        { "value", node.value }, { "actions", node.actions }, { "children", children } };
+        { "value", node.value }, { "actions", actions }, { "children", children } };
 }
 
 } // namespace

@@ -1,16 +1,13 @@
 #include "desktop/qt/ReadableThing.h"
 
+#include <algorithm>
+
 namespace veyrand::desktop::qt {
 
 using controller::AccessibleNode;
 using controller::AccessibleRole;
 
 namespace {
-
-QString ownName(const std::string& action)
-{
-    return QString::fromStdString(action.substr(0, action.find(':')));
-}
 
 int indexIn(const AccessibleNode& node, const QAccessibleInterface* child)
 {
@@ -134,8 +131,8 @@ QStringList ReadableThing::actionNames() const
 {
     QStringList names;
     if (const AccessibleNode* const node = m_reader.node(m_id)) {
-        for (const std::string& action : node->actions) {
-            names.append(ownName(action));
+        for (const controller::AccessibleAction& action : node->actions) {
+            names.append(QString::fromStdString(action.name));
         }
         if (node->isFocusable) {
             names.append(setFocusAction());
@@ -144,16 +141,29 @@ QStringList ReadableThing::actionNames() const
     return names;
 }
 
+const controller::AccessibleAction* ReadableThing::action(const QString& name) const
+{
+    const AccessibleNode* const node = m_reader.node(m_id);
+    if (node == nullptr) {
+        return nullptr;
+    }
+    const auto found = std::find_if(node->actions.begin(), node->actions.end(),
+        [name = name.toStdString()](const auto& each) { return each.name == name; });
+    return found != node->actions.end() ? &*found : nullptr;
+}
+
+QString ReadableThing::localizedActionName(const QString& name) const
+{
+    const auto* const action = this->action(name);
+    return action != nullptr ? QString::fromUtf8(
+               action->ownName().data(), static_cast<qsizetype>(action->ownName().size()))
+                             : QAccessibleActionInterface::localizedActionName(name);
+}
+
 QString ReadableThing::localizedActionDescription(const QString& name) const
 {
-    if (const AccessibleNode* const node = m_reader.node(m_id)) {
-        for (const std::string& action : node->actions) {
-            if (ownName(action) == name) {
-                return QString::fromStdString(action);
-            }
-        }
-    }
-    return {};
+    const auto* const action = this->action(name);
+    return action != nullptr ? QString::fromStdString(action->text) : QString();
 }
 
 void ReadableThing::doAction(const QString& name)

@@ -33,6 +33,7 @@ public:
     void* interface_cast(QAccessible::InterfaceType type) override;
 
     [[nodiscard]] QStringList actionNames() const override;
+    [[nodiscard]] QString localizedActionName(const QString& name) const override;
     [[nodiscard]] QString localizedActionDescription(const QString& name) const override;
     void doAction(const QString& name) override;
     [[nodiscard]] QStringList keyBindingsForAction(const QString& /*name*/) const override
@@ -43,6 +44,8 @@ public:
     [[nodiscard]] const std::string& id() const { return m_id; }
 
 private:
+    [[nodiscard]] const controller::AccessibleAction* action(const QString& name) const;
+
     BoardReader& m_reader;
     std::string m_id;
 };
