@@ -18,7 +18,7 @@ function(veyrand_room name)
   # The sanitized build is made for one run of the tests. Read together, a room's sources take half
   # the time; the other builds read each alone, so that none leans on what another includes.
   if(VEYRAND_SANITIZED)
-    set_target_properties(veyrand_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 4)
+    set_target_properties(veyrand_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
   endif()
 endfunction()
 
@@ -53,11 +53,12 @@ function(veyrand_read_together target)
   endforeach()
 endfunction()
 
-# veyrand_test(NAME [LINK target...] [PROVES_DATA case...]): one GoogleTest program of every source in
-# the current folder. The cases are found when the tests run, so that building needs no program run.
+# veyrand_test(NAME [LINK target...] [PROVES_DATA case...] [COST seconds]): one GoogleTest program of
+# every source in the current folder. What costs many seconds is begun first, so that it is not waited
+# for alone at the end. The cases are found when the tests run, so that building needs no program run.
 # The cases that prove data rather than code (patterns of GoogleTest) are left out under the sanitizers.
 function(veyrand_test name)
-  cmake_parse_arguments(TEST "" "" "LINK;PROVES_DATA" ${ARGN})
+  cmake_parse_arguments(TEST "" "COST" "LINK;PROVES_DATA" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   add_executable(${name} ${sources})
   veyrand_read_together(${name} ${sources})
@@ -73,16 +74,19 @@ function(veyrand_test name)
   endif()
   add_test(NAME ${name} COMMAND ${name} ${filter})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  if(TEST_COST)
+    set_tests_properties(${name} PROPERTIES COST ${TEST_COST})
+  endif()
 endfunction()
 
-# veyrand_headless_test(NAME): the same, for tests that play whole games without a toolkit.
+# veyrand_headless_test(NAME [COST seconds]): the same, for tests that play whole games without a toolkit.
 function(veyrand_headless_test name)
-  veyrand_test(${name} LINK veyrand_headless veyrand_places)
+  veyrand_test(${name} LINK veyrand_headless veyrand_places ${ARGN})
   add_dependencies(${name} veyrand_data)
 endfunction()
 
-# veyrand_game_test(NAME): the same, for tests that play whole games in a window.
+# veyrand_game_test(NAME [COST seconds]): the same, for tests that play whole games in a window.
 function(veyrand_game_test name)
-  veyrand_test(${name} LINK veyrand_app veyrand_places)
+  veyrand_test(${name} LINK veyrand_app veyrand_places ${ARGN})
   add_dependencies(${name} veyrand_data)
 endfunction()

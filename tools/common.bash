@@ -24,7 +24,8 @@ build() {
   local ninja_file=$ROOT/build/$preset/build.ninja
   if [[ ! -e $ninja_file || $ROOT/CMakePresets.json -nt $ninja_file ]]; then
     say "Configuring build/$preset"
-    (cd "$ROOT" && cmake --preset "$preset") || return 1
+    # Afresh: what an older preset chose, its compiler for one, must not linger.
+    (cd "$ROOT" && cmake --preset "$preset" --fresh) || return 1
   fi
   say "Building build/$preset"
   (cd "$ROOT" && cmake --build --preset "$preset" --parallel "$(nproc)" ${@:+--target "$@"})

@@ -94,18 +94,14 @@ protected:
         return chips;
     }
 
-    // Calls the function for every page in every language, with the page open.
+    // Calls the function for every page in every language, with what was measured on it.
     void forEveryPage(const std::function<void()>& function)
     {
-        for (const std::string& language : language::knownCodes()) {
-            speak(language);
-            EXPECT_EQ(game().game().texts().faults(), "");
-            for (const std::string& page : allPages()) {
-                SCOPED_TRACE(language + ' ' + page);
-                open(page);
-                function();
-            }
-            EXPECT_EQ(game().game().texts().faults(), "");
+        for (const MeasuredPage& page : everyPage()) {
+            SCOPED_TRACE(page.language + ' ' + page.name);
+            m_lines = page.lines;
+            m_pictures = page.pictures;
+            function();
         }
     }
 
@@ -126,6 +122,32 @@ protected:
     }
 
 private:
+    struct MeasuredPage {
+        std::string language;
+        std::string name;
+        std::vector<Line> lines;
+        std::vector<Picture> pictures;
+    };
+
+    // Measured once for all tests: drawing several hundred pages is most of what they take.
+    const std::vector<MeasuredPage>& everyPage()
+    {
+        static std::vector<MeasuredPage> pages;
+        if (!pages.empty()) {
+            return pages;
+        }
+        for (const std::string& language : language::knownCodes()) {
+            speak(language);
+            EXPECT_EQ(game().game().texts().faults(), "");
+            for (const std::string& name : allPages()) {
+                open(name);
+                pages.push_back({ language, name, m_lines, m_pictures });
+            }
+            EXPECT_EQ(game().game().texts().faults(), "");
+        }
+        return pages;
+    }
+
     Line measured(const board::GameObject& record)
     {
         const auto* const layer = game().game().layers().gameLayerForGameObject(record);

@@ -1,7 +1,6 @@
 #include "present/BoardLayers.h"
 
-#include "platform/fakes/VirtualRunLoop.h"
-#include "support/BoardFakes.h"
+#include "LayeredBoard.h"
 
 #include <gtest/gtest.h>
 
@@ -13,20 +12,9 @@ using platform::RectF;
 namespace {
 
 // A game area of 1440 x 900 points.
-class BoardLayersTest : public ::testing::Test {
+class BoardLayersTest : public LayeredBoard {
 protected:
-    BoardLayers& layers() { return m_layers; }
-    board::GameData& gameData() { return m_gameData; }
-    board::ObjectTable& table() { return m_gameData.gameObjects(); }
-    RectF gameArea() { return m_layers.backgroundLayer().rectInRoot(); }
-
-private:
-    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
-    test::SquareLetters m_metrics;
-    platform::VirtualRunLoop m_runLoop;
-    board::GameData m_gameData { m_screen };
-    Scene m_scene { m_runLoop };
-    BoardLayers m_layers { m_scene, m_gameData, m_metrics };
+    RectF gameArea() { return layers().backgroundLayer().rectInRoot(); }
 };
 
 } // namespace

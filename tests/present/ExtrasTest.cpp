@@ -1,9 +1,7 @@
 #include "present/Extras.h"
 
-#include "platform/fakes/VirtualRunLoop.h"
-#include "present/BoardLayers.h"
+#include "LayeredBoard.h"
 #include "present/ExtraPictures.h"
-#include "support/BoardFakes.h"
 
 #include <gmock/gmock.h>
 
@@ -18,32 +16,21 @@ namespace {
 constexpr double kChip = 0.075;
 
 // A board of 1440 x 900 points with one stone on it.
-class ExtrasTest : public ::testing::Test {
+class ExtrasTest : public LayeredBoard {
 protected:
     ExtrasTest()
     {
-        m_layers.fitTo({ .width = 1440, .height = 900 });
+        layers().fitTo({ .width = 1440, .height = 900 });
         add("chip-0-0", 0.72, 0.95);
     }
 
     void add(const std::string& key, double x, double y)
     {
-        m_gameData.gameObjects().addGameObject(
-            std::make_shared<board::GameObject>("RedChip", x, y, kChip, kChip, 1.0, true), key);
-    }
-    [[nodiscard]] std::vector<std::string> pictures()
-    {
-        std::vector<std::string> names;
-        for (const DisplayItem& item : m_layers.displayList()) {
-            if (const auto* const image = std::get_if<ImageContent>(&item.content)) {
-                names.push_back(image->name);
-            }
-        }
-        return names;
+        LayeredBoard::add("RedChip", key, x, y, kChip);
     }
     [[nodiscard]] DisplayItem itemOf(const std::string& picture)
     {
-        for (DisplayItem& item : m_layers.displayList()) {
+        for (DisplayItem& item : layers().displayList()) {
             if (item.content == Content(ImageContent { picture })) {
                 return item;
             }
@@ -51,18 +38,8 @@ protected:
         ADD_FAILURE() << picture << " is not shown";
         return {};
     }
-    Extras& extras() { return m_layers.extras(); }
-    BoardLayers& layers() { return m_layers; }
-    void wait(double seconds) { m_runLoop.advance(seconds); }
+    Extras& extras() { return layers().extras(); }
     static ExtraRect stone() { return placeOfChip(0, 0); }
-
-private:
-    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
-    test::SquareLetters m_metrics;
-    platform::VirtualRunLoop m_runLoop;
-    board::GameData m_gameData { m_screen };
-    Scene m_scene { m_runLoop };
-    BoardLayers m_layers { m_scene, m_gameData, m_metrics };
 };
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "present/GameObjectLayer.h"
 
-#include "platform/fakes/VirtualRunLoop.h"
-#include "present/BoardLayers.h"
-#include "support/BoardFakes.h"
+#include "LayeredBoard.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -18,31 +16,22 @@ namespace {
 constexpr float kNear = 1e-3F; // points
 
 // Layers over a board whose game area is 600 points high.
-class GameObjectLayerTest : public ::testing::Test {
+class GameObjectLayerTest : public LayeredBoard {
 protected:
+    GameObjectLayerTest()
+        : LayeredBoard({ .width = 960, .height = 600 })
+    {
+    }
     GameObjectLayer& add(const std::string& key, double x, double y, double size,
         double opacity = 1.0, bool visible = true)
     {
-        m_gameData.gameObjects().addGameObject(
-            std::make_shared<GameObject>("RedChip", x, y, size, size, opacity, visible), key);
-        return *m_layers.layerForKey(key);
+        LayeredBoard::add("RedChip", key, x, y, size, opacity, visible);
+        return *layers().layerForKey(key);
     }
     template <class Function> void change(const std::string& key, Function&& setFields)
     {
-        m_gameData.gameObjects().change(key, std::forward<Function>(setFields));
+        table().change(key, std::forward<Function>(setFields));
     }
-    void wait(double seconds) { m_runLoop.advance(seconds); }
-    BoardLayers& layers() { return m_layers; }
-    board::ObjectTable& table() { return m_gameData.gameObjects(); }
-    Scene& scene() { return m_scene; }
-
-private:
-    test::FakeScreen m_screen { { .width = 960, .height = 600 } };
-    test::SquareLetters m_metrics;
-    platform::VirtualRunLoop m_runLoop;
-    board::GameData m_gameData { m_screen };
-    Scene m_scene { m_runLoop };
-    BoardLayers m_layers { m_scene, m_gameData, m_metrics };
 };
 
 } // namespace

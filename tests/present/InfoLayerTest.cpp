@@ -1,8 +1,6 @@
 #include "present/InfoLayer.h"
 
-#include "platform/fakes/VirtualRunLoop.h"
-#include "present/BoardLayers.h"
-#include "support/BoardFakes.h"
+#include "LayeredBoard.h"
 #include "support/BoardRows.h"
 
 #include <gmock/gmock.h>
@@ -17,11 +15,11 @@ namespace {
 
 constexpr double kOffsetError = 1e-6; // offsets are single precision
 
-class InfoLayerTest : public ::testing::Test {
+class InfoLayerTest : public LayeredBoard {
 protected:
     std::unique_ptr<InfoLayer> open(const InfoLayer::Style& style = pane())
     {
-        return std::make_unique<InfoLayer>(m_gameData, style);
+        return std::make_unique<InfoLayer>(gameData(), style);
     }
     static InfoLayer::Style pane()
     {
@@ -32,24 +30,13 @@ protected:
 
     [[nodiscard]] board::GameObjectPtr object(const std::string& key)
     {
-        return m_gameData.gameObjects().objectForKey(key);
+        return table().objectForKey(key);
     }
     [[nodiscard]] const TextLayer& textOf(const std::string& key)
     {
-        return *BoardLayers::textOn(*m_layers.layerForKey(key));
+        return *BoardLayers::textOn(*layers().layerForKey(key));
     }
-    [[nodiscard]] std::vector<std::string> keys() { return m_gameData.gameObjects().keys(); }
-    [[nodiscard]] BoardLayers& layers() { return m_layers; }
-    [[nodiscard]] board::GameData& gameData() { return m_gameData; }
-    void wait(double seconds) { m_runLoop.advance(seconds); }
-
-private:
-    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
-    test::SquareLetters m_metrics;
-    platform::VirtualRunLoop m_runLoop;
-    board::GameData m_gameData { m_screen };
-    Scene m_scene { m_runLoop };
-    BoardLayers m_layers { m_scene, m_gameData, m_metrics };
+    [[nodiscard]] std::vector<std::string> keys() { return table().keys(); }
 };
 
 } // namespace

@@ -1,8 +1,6 @@
 #include "present/WoodenMargins.h"
 
-#include "platform/fakes/VirtualRunLoop.h"
-#include "present/BoardLayers.h"
-#include "support/BoardFakes.h"
+#include "LayeredBoard.h"
 
 #include <gtest/gtest.h>
 
@@ -12,18 +10,17 @@ using platform::RectF;
 
 namespace {
 
-class WoodenMarginsTest : public ::testing::Test {
+class WoodenMarginsTest : public LayeredBoard {
 protected:
-    BoardLayers& layers() { return m_layers; }
-    void wantWood() { m_layers.margins().setOn(true); }
+    void wantWood() { layers().margins().setOn(true); }
 
     // The pictures that lie beside the board, without the board's own.
     [[nodiscard]] std::vector<DisplayItem> woodBeside()
     {
         std::vector<DisplayItem> wood;
-        for (const DisplayItem& item : m_layers.displayList()) {
+        for (const DisplayItem& item : layers().displayList()) {
             if (std::holds_alternative<ImageContent>(item.content)
-                && item.layer != m_layers.backgroundLayer().id()) {
+                && item.layer != layers().backgroundLayer().id()) {
                 wood.push_back(item);
             }
         }
@@ -33,14 +30,6 @@ protected:
     {
         return std::get<ImageContent>(item.content).mirror;
     }
-
-private:
-    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
-    test::SquareLetters m_metrics;
-    platform::VirtualRunLoop m_runLoop;
-    board::GameData m_gameData { m_screen };
-    Scene m_scene { m_runLoop };
-    BoardLayers m_layers { m_scene, m_gameData, m_metrics };
 };
 
 } // namespace
