@@ -96,8 +96,9 @@ std::string MapSheet::text(const char* id, language::Arguments arguments) const
 
 void MapSheet::pasteCode()
 {
-    if (const auto* const clipboard = m_controller.context().clipboard) {
-        m_controller.practice().openOrTell(clipboard->text());
+    if (auto* const clipboard = m_controller.context().clipboard) {
+        clipboard->askForText(
+            [this](const std::string& text) { m_controller.practice().openOrTell(text); });
     }
 }
 

@@ -13,6 +13,9 @@ using platform::Point;
 namespace {
 
 constexpr double kReach = 22.0; // points
+// A finger that is so many times nearer to a removal than to a chip means the removal: on a small
+// screen a chip is always within reach.
+constexpr double kMuchNearer = 3.0;
 
 double distance(Point a, Point b)
 {
@@ -62,8 +65,10 @@ std::string Touch::keyReached(Point place) const
         if (away > kReach && !isUnder) {
             continue;
         }
-        const bool outdoes = board::isChipKey(key) && board::isDeleteKey(best);
-        const bool yields = board::isDeleteKey(key) && board::isChipKey(best);
+        const bool outdoes
+            = board::isChipKey(key) && board::isDeleteKey(best) && away <= kMuchNearer * least;
+        const bool yields
+            = board::isDeleteKey(key) && board::isChipKey(best) && least <= kMuchNearer * away;
         if (best.empty() || outdoes || (!yields && away < least)) {
             best = key;
             least = away;

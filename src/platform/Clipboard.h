@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace veyrand::platform {
@@ -14,6 +15,9 @@ public:
 
     [[nodiscard]] virtual std::string text() const = 0; // empty when it holds none
     virtual void setText(const std::string& text) = 0;
+
+    // Calls the function with the text, at once where nobody has to be asked for it.
+    virtual void askForText(std::function<void(const std::string& text)> use) { use(text()); }
 };
 
 } // namespace veyrand::platform

@@ -10,6 +10,7 @@ double veyrand_host_now(); // milliseconds, never backwards
 void veyrand_host_call_after(double milliseconds); // then veyrand_call_due; the last wish counts
 void veyrand_host_call_frame(); // then veyrand_frame, before the next picture
 std::uint32_t veyrand_host_random();
+double veyrand_host_today(); // whole days from 1 January 1970 to the player's date
 double veyrand_host_text_width(const char* text); // of one line, in ems
 double veyrand_host_line_height(); // in ems
 
@@ -23,12 +24,16 @@ void veyrand_host_loop_volume(double volume);
 void veyrand_host_stop_loop();
 void veyrand_host_volume(int isMusic, int percent);
 
+void veyrand_host_copy(const char* text); // to where other programs find it
+void veyrand_host_paste(); // then veyrand_pasted, if the player lets the page have it
+
 void veyrand_host_store(const char* name, const char* text); // null: nothing under the name
 void veyrand_host_full_screen(int on);
 void veyrand_host_alert(const char* json); // then veyrand_answer
 void veyrand_host_menu(const char* item); // what a menu item leaves to the page
 void veyrand_host_quit();
 void veyrand_host_report(const char* words); // for the player
+void veyrand_host_damaged(const char* name); // the preferences, which are kept under the name
 void veyrand_host_language(const char* code); // that the game speaks now
 void veyrand_host_log(const char* line);
 void veyrand_host_give_up(const char* words); // nothing more is trusted

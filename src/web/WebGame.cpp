@@ -1,7 +1,9 @@
 #include "web/WebGame.h"
 
+#include "controller/SettingsTable.h"
 #include "progress/PlayerKeys.h"
 #include "web/Host.h"
+#include "web/SettingsPanel.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -19,6 +21,8 @@ void leaveToPage(MenuItemId id)
 {
     if (id == MenuItemId::About) {
         veyrand_host_menu("about");
+    } else if (id == MenuItemId::Settings) {
+        veyrand_host_menu("settings");
     }
 }
 
@@ -54,7 +58,10 @@ WebGame::Parts::Parts(WebGame& own)
                .window = own.m_window,
                .alerts = own.m_alerts,
                .journal = &own.m_store,
-               .desktopLanguages = own.m_languages },
+               .desktopLanguages = own.m_languages,
+               .motionWish = &own.m_motionWish,
+               .calendar = &own.m_calendar,
+               .clipboard = &own.m_clipboard },
           currentGame, gameData)
     , view(game, own.m_pointer)
 {
@@ -69,9 +76,7 @@ WebGame::WebGame()
 
 std::string WebGame::start(platform::Size view)
 {
-    if (const std::string trouble = m_preferences.load(); !trouble.empty()) {
-        veyrand_host_report(trouble.c_str());
-    }
+    const std::string aside = m_preferences.load();
     m_parts = std::make_unique<Parts>(*this);
     const std::string fault = m_parts->currentGame.catalogueErrors() + m_parts->game.script().errors
         + m_parts->game.texts().englishFaults();
@@ -89,6 +94,9 @@ std::string WebGame::start(platform::Size view)
     controller()->awake(view);
     controller()->kept().setReporter(
         [](const std::string& message) { veyrand_host_report(message.c_str()); });
+    if (!aside.empty()) {
+        veyrand_host_damaged(aside.c_str());
+    }
     return {};
 }
 
@@ -146,6 +154,42 @@ bool WebGame::key(const std::string& keys, controller::GameController::Press pre
     return controller()->key(keys, press);
 }
 
+std::string WebGame::settings() const
+{
+    return m_parts ? panelOfSettings(m_preferences, m_parts->game.texts()) : "null";
+}
+
+void WebGame::set(std::size_t setting, int value)
+{
+    const auto items = controller::settingItems();
+    if (!m_parts || setting >= items.size()) {
+        return;
+    }
+    progress::Settings settings = progress::readSettings(m_preferences);
+    items[setting].set(settings, value);
+    progress::writeSettings(m_preferences, settings);
+    m_parts->game.settingsChanged();
+    if (items[setting].isOfEffects) {
+        controller()->context().effects.play(platform::Effect::Marble);
+    }
+}
+
+void WebGame::resetSettings()
+{
+    if (m_parts) {
+        progress::writeSettings(
+            m_preferences, controller::resetSettings(progress::readSettings(m_preferences)));
+        m_parts->game.settingsChanged();
+    }
+}
+
+void WebGame::open(const std::string& puzzleCode)
+{
+    if (m_parts) {
+        controller()->practice().openOrTell(puzzleCode);
+    }
+}
+
 std::string WebGame::placeOf(const std::string& key)
 {
     const auto record
@@ -178,7 +222,10 @@ std::string WebGame::state()
         { "level", current.level() }, { "stage", current.stage() }, { "score", current.score() },
         { "page", controller()->messages().page() }, { "dialogue", controller()->dialogueState() },
         { "blocked", m_parts->game.view().block().blockClick() },
-        { "animating", m_parts->game.layers().scene().isAnimating() }
+        { "animating", m_parts->game.layers().scene().isAnimating() },
+        { "lessMotion",
+            m_parts->game.layers().scene().motionTaste() == present::MotionTaste::Reduced },
+        { "practice", controller()->practice().isOn() }
     }.dump();
 }
 

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] WebScreen& screen() { return m_screen; }
     [[nodiscard]] WebAlerts& alerts() { return m_alerts; }
     [[nodiscard]] WebWindow& window() { return m_window; }
+    [[nodiscard]] WebClipboard& clipboard() { return m_clipboard; }
+    [[nodiscard]] WebMotionWish& motionWish() { return m_motionWish; }
     // As the browser lists them, the dearest first.
     void addLanguage(std::string code) { m_languages.push_back(std::move(code)); }
 
@@ -38,6 +40,13 @@ public:
     [[nodiscard]] std::string menu();
     // By the number that menu() gives.
     void choose(std::size_t item);
+    // The settings and the words round them, for the page's panel: JSON.
+    [[nodiscard]] std::string settings() const;
+    // By the number that settings() gives; kept and in force at once.
+    void set(std::size_t setting, int value);
+    void resetSettings();
+    // The puzzle of a code that somebody has sent; the player is asked before one in play is left.
+    void open(const std::string& puzzleCode);
     // Keys as the menu spells them, "Ctrl+Z": true if the menu or the board has a use for them.
     bool key(const std::string& keys, controller::GameController::Press press);
     // For whoever looks at the page from outside: where the element under the key lies, in points
@@ -70,6 +79,9 @@ private:
     platform::TrackedPointer m_pointer;
     WebTextMetrics m_metrics;
     WebOverlayWindow m_overlay;
+    WebCalendar m_calendar;
+    WebClipboard m_clipboard;
+    WebMotionWish m_motionWish;
     WebWindow m_window;
     WebAlerts m_alerts;
     controller::MenuChoices m_menu;

@@ -23,6 +23,38 @@ void WebQuit::terminate()
     veyrand_host_quit();
 }
 
+std::int64_t WebCalendar::today() const
+{
+    return static_cast<std::int64_t>(veyrand_host_today());
+}
+
+void WebClipboard::setText(const std::string& text)
+{
+    m_text = text;
+    veyrand_host_copy(text.c_str());
+}
+
+void WebClipboard::askForText(std::function<void(const std::string& text)> use)
+{
+    m_use = std::move(use);
+    veyrand_host_paste();
+}
+
+void WebClipboard::pasted(const std::string& text)
+{
+    m_text = text;
+    if (const auto use = std::exchange(m_use, {})) {
+        use(text);
+    }
+}
+
+void WebMotionWish::set(bool wantsLess)
+{
+    if (std::exchange(m_wantsLess, wantsLess) != wantsLess && m_listener) {
+        m_listener();
+    }
+}
+
 platform::Size WebTextMetrics::preferredFrameSize(std::string_view text) const
 {
     // Of most texts there are few; a score that goes on rising must not fill the memory.

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "platform/Alerts.h"
+#include "platform/Calendar.h"
+#include "platform/Clipboard.h"
 #include "platform/Log.h"
+#include "platform/MotionWish.h"
 #include "platform/OverlayWindow.h"
 #include "platform/Quit.h"
 #include "platform/Random.h"
@@ -31,6 +34,38 @@ public:
 class WebQuit final : public platform::Quit {
 public:
     void terminate() override;
+};
+
+class WebCalendar final : public platform::Calendar {
+public:
+    [[nodiscard]] std::int64_t today() const override;
+};
+
+// What the browser lets a page know of what was copied, it lets it know later, if the player
+// agrees.
+class WebClipboard final : public platform::Clipboard {
+public:
+    [[nodiscard]] std::string text() const override { return m_text; }
+    void setText(const std::string& text) override;
+    void askForText(std::function<void(const std::string& text)> use) override;
+    // To be called with what the page was given.
+    void pasted(const std::string& text);
+
+private:
+    std::string m_text;
+    std::function<void(const std::string& text)> m_use; // null: nobody waits
+};
+
+class WebMotionWish final : public platform::MotionWish {
+public:
+    [[nodiscard]] bool wantsLess() const override { return m_wantsLess; }
+    void setListener(std::function<void()> listener) override { m_listener = std::move(listener); }
+    // To be called with what the browser says, at first and whenever it says something else.
+    void set(bool wantsLess);
+
+private:
+    bool m_wantsLess = false;
+    std::function<void()> m_listener;
 };
 
 // Letters as the page's canvas draws them.

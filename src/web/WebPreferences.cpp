@@ -59,9 +59,7 @@ std::string WebPreferences::load()
     }
     json document = json::parse(text.contents.value_or(""), nullptr, false);
     if (!document.is_object()) {
-        const auto aside = m_store.keepAside(kName, "damaged");
-        return "The preferences in this browser cannot be read. They are kept as "
-            + aside.value_or(std::string(kName)) + ". The game starts with new ones.";
+        return m_store.keepAside(kName, "damaged").value_or(std::string(kName));
     }
     Contents contents;
     for (const auto& [key, field] : document.items()) {

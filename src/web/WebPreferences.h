@@ -19,8 +19,8 @@ public:
     {
     }
 
-    // When the store has been loaded. What went wrong, in words for the player; empty when nothing
-    // did.
+    // When the store has been loaded. Under which name the text is kept if it could not be
+    // understood; empty when it could.
     [[nodiscard]] std::string load();
 
     void setValue(std::string_view key, platform::PreferenceValue value) override;

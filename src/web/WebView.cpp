@@ -91,12 +91,14 @@ void WebView::pack(const present::DisplayItem& item)
 {
     Kind kind = Kind::Solid;
     double name = 0.0;
+    auto mirror = present::Mirror::None;
     board::Color color;
     if (const auto* solid = std::get_if<present::SolidContent>(&item.content)) {
         color = solid->color;
     } else if (const auto* image = std::get_if<present::ImageContent>(&item.content)) {
         kind = Kind::Image;
         name = numberOf(image->name);
+        mirror = image->mirror;
     } else if (const auto* text = std::get_if<present::TextContent>(&item.content)) {
         kind = Kind::Text;
         name = numberOf(text->text);
@@ -114,6 +116,7 @@ void WebView::pack(const present::DisplayItem& item)
     for (const double channel : { color.red, color.green, color.blue, color.alpha }) {
         m_items.push_back(channel);
     }
+    m_items.push_back(static_cast<double>(mirror));
 }
 
 double WebView::numberOf(const std::string& text)

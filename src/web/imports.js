@@ -6,6 +6,7 @@ mergeInto(LibraryManager.library, {
   veyrand_host_call_after: function (milliseconds) { Module['host'].callAfter(milliseconds); },
   veyrand_host_call_frame: function () { Module['host'].callFrame(); },
   veyrand_host_random: function () { return Module['host'].random(); },
+  veyrand_host_today: function () { return Module['host'].today(); },
   veyrand_host_text_width: function (text) { return Module['host'].textWidth(UTF8ToString(text)); },
   veyrand_host_line_height: function () { return Module['host'].lineHeight(); },
   veyrand_host_paint: function (items, itemCount, damage, damageCount) {
@@ -20,6 +21,8 @@ mergeInto(LibraryManager.library, {
   veyrand_host_loop_volume: function (volume) { Module['host'].loopVolume(volume); },
   veyrand_host_stop_loop: function () { Module['host'].stopLoop(); },
   veyrand_host_volume: function (isMusic, percent) { Module['host'].volume(isMusic, percent); },
+  veyrand_host_copy: function (text) { Module['host'].copy(UTF8ToString(text)); },
+  veyrand_host_paste: function () { Module['host'].paste(); },
   veyrand_host_store: function (name, text) {
     Module['host'].store(UTF8ToString(name), text === 0 ? null : UTF8ToString(text));
   },
@@ -28,6 +31,7 @@ mergeInto(LibraryManager.library, {
   veyrand_host_menu: function (item) { Module['host'].menu(UTF8ToString(item)); },
   veyrand_host_quit: function () { Module['host'].quit(); },
   veyrand_host_report: function (words) { Module['host'].report(UTF8ToString(words)); },
+  veyrand_host_damaged: function (name) { Module['host'].damaged(UTF8ToString(name)); },
   veyrand_host_give_up: function (words) { Module['host'].giveUp(UTF8ToString(words)); },
   veyrand_host_language: function (code) { Module['host'].language(UTF8ToString(code)); },
   veyrand_host_log: function (line) { Module['host'].log(UTF8ToString(line)); },

@@ -179,6 +179,38 @@ EMSCRIPTEN_KEEPALIVE void veyrand_choose(int item)
     guarded([&] { game().choose(static_cast<std::size_t>(item)); });
 }
 
+// The settings as the panel shows them: JSON.
+EMSCRIPTEN_KEEPALIVE const char* veyrand_settings()
+{
+    guarded([] { answer() = game().settings(); });
+    return answer().c_str();
+}
+
+EMSCRIPTEN_KEEPALIVE void veyrand_set(int setting, int value)
+{
+    guarded([&] { game().set(static_cast<std::size_t>(setting), value); });
+}
+
+EMSCRIPTEN_KEEPALIVE void veyrand_reset_settings()
+{
+    guarded([] { game().resetSettings(); });
+}
+
+EMSCRIPTEN_KEEPALIVE void veyrand_open(const char* puzzleCode)
+{
+    guarded([&] { game().open(puzzleCode); });
+}
+
+EMSCRIPTEN_KEEPALIVE void veyrand_pasted(const char* text)
+{
+    guarded([&] { game().clipboard().pasted(text); });
+}
+
+EMSCRIPTEN_KEEPALIVE void veyrand_wish_less_motion(int isWished)
+{
+    guarded([&] { game().motionWish().set(isWished != 0); });
+}
+
 EMSCRIPTEN_KEEPALIVE const char* veyrand_effects()
 {
     guarded([] { answer() = veyrand::web::effectNumbers(); });

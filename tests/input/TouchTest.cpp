@@ -57,6 +57,15 @@ TEST_F(TouchTest, ARemovalNeverWinsOverAChip)
     EXPECT_EQ(touch().keyReached(at("delete-1", 8.0, 0.0)), "chip-0-1");
 }
 
+TEST_F(TouchTest, ARemovalIsReachedWhereChipsAreSmallerThanAFinger)
+{
+    // A phone held upright: a chip lies 18 points from the removal.
+    layers().fitTo({ .width = 390, .height = 770 });
+    EXPECT_EQ(touch().keyReached(at("delete-1")), "delete-1");
+    EXPECT_EQ(touch().keyReached(at("delete-1", 4.0, 0.0)), "delete-1");
+    EXPECT_EQ(touch().keyReached(at("delete-1", 6.0, 0.0)), "chip-0-1");
+}
+
 TEST_F(TouchTest, AFingerThatTremblesClicksAllTheSame)
 {
     touch().began(at("chip-0-1"));

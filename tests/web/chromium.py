@@ -196,10 +196,13 @@ class Page:
 
     def touch(self, points):
         """A finger that comes down at the first point, goes by the others, and leaves."""
-        self.tell('Input.dispatchTouchEvent', type='touchStart', touchPoints=[{'x': points[0][0], 'y': points[0][1]}])
-        for x, y in points[1:]:
-            self.tell('Input.dispatchTouchEvent', type='touchMove', touchPoints=[{'x': x, 'y': y}])
-        self.tell('Input.dispatchTouchEvent', type='touchEnd', touchPoints=[])
+        self.finger('touchStart', points[0])
+        for point in points[1:]:
+            self.finger('touchMove', point)
+        self.finger('touchEnd')
+
+    def finger(self, kind, point=None):
+        self.tell('Input.dispatchTouchEvent', type=kind, touchPoints=[{'x': point[0], 'y': point[1]}] if point else [])
 
     def key(self, key, code, number, modifiers=0):
         for kind in ('rawKeyDown', 'keyUp'):

@@ -198,14 +198,39 @@ def by_finger(site, out):
             play.finger_drag('chip-1-0', 'chip-3-0')
             play.lines(['YRRR', 'YG'])
             assert play.page.run('visualViewport.scale === 1 && scrollX === 0 && scrollY === 0'), 'the page has moved'
-            # Turned in the middle of a move.
-            play.page.shape(390, 844, ratio, True)
-            play.page.until('veyrand.canvas.width < veyrand.canvas.height', 'the upright page')
-            play.until('!s.animating', 'rest')
-            play.lines(['YRRR', 'YG'])
+            play.until('s.stage === 9 && s.lines.length === 1', 'the puzzle 1-9')
+            play.store(at(2, 1))
+            play.go_on(play.tap)
+            play.until('s.level === 2 && s.lines.length === 1', 'the puzzle 2-1')
+            play.clear_pages()
+            turned_in_a_move(play, ratio)
             looked(play, out, 'upright-phone-%d' % ratio)
             play.page.tell('Page.close')
     server.shutdown()
+
+
+def turned_in_a_move(play, ratio):
+    """The phone is turned while a chip is held, and again while a move is shown."""
+    before = play.state()['lines']
+    x, y = play.place('chip-0-0')
+    play.page.finger('touchStart', (x, y))
+    play.page.finger('touchMove', (x + 30, y))
+    play.page.shape(390, 844, ratio, True)
+    play.page.until('veyrand.canvas.width < veyrand.canvas.height', 'the upright page')
+    play.page.finger('touchEnd')
+    play.at_rest()
+    assert play.state()['lines'] == before, 'turning the phone has made a move: %s' % play.state()['lines']
+    play.tap('chip-0-0')
+    play.page.shape(844, 390, ratio, True)
+    play.page.until('veyrand.canvas.width > veyrand.canvas.height', 'the lying page')
+    play.until('s.lines.length === 2', 'the move')
+    play.at_rest()
+    after = play.state()['lines']
+    play.page.shape(390, 844, ratio, True)
+    play.page.until('veyrand.canvas.width < veyrand.canvas.height', 'the upright page')
+    play.tap('delete-1')
+    play.lines(before)
+    assert after[0] == before[0] and len(after) == 2, after
 
 
 def by_keys(site, out):
@@ -221,6 +246,117 @@ def by_keys(site, out):
         play.press('Enter', number=13)
         play.lines(['YGR', 'YGRGR'])
         play.until('s.stage === 2', 'the puzzle 1-2')
+    server.shutdown()
+
+
+def with_settings(site, out):
+    """The page's own panel, by keys: what is chosen there is in force at once, and kept."""
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        play = Play(browser, address)
+        play.store(at(2, 1), {})
+        play.go_on(play.click)
+        play.until('s.lines.length === 1', 'the puzzle 2-1')
+        play.clear_pages()
+        play.menu('Options', 'Settings\u2026')
+        fields = play.page.run('[...document.querySelectorAll("#settings input, #settings select")].map((field) => '
+                               '[field.id, field.labels[0].textContent, field.getAttribute("aria-describedby")])')
+        ids = {name: field for field, name, _ in fields}
+        assert len(fields) >= 14 and all(described for _, _, described in fields), fields
+
+        def focus(name):
+            play.page.run('document.getElementById(%s).focus()' % json.dumps(ids[name]))
+
+        # The first of them has the focus, and every other one is reached by the Tab key.
+        seen = []
+        for _ in fields:
+            seen.append(play.page.run('document.activeElement.id'))
+            play.press('Tab', number=9)
+        assert seen == [field for field, _, _ in fields], seen
+        painted = picture_of(play)
+        focus('Chips')
+        play.press('ArrowDown', number=40)
+        play.page.until('veyrand.pictures.waiting === 0', 'the other chips')
+        play.page.until('!JSON.parse(veyrand.askText("state")).animating', 'rest')
+        assert picture_of(play) != painted, 'the chips look as before'
+        focus('Music volume')
+        play.press('Home', number=36)
+        play.page.until('veyrand.sounds.volumes.music === 0', 'silent music')
+        focus('Less motion')
+        play.press('ArrowDown', number=40)
+        play.until('s.lessMotion', 'less motion')
+        focus('Say Why')
+        play.press(' ', 'Space', 32)
+        looked(play, out, 'settings-1440x900')
+        play.stored()
+        kept = json.loads(play.page.run('veyrand.store.load().then(({ texts }) => texts.get("preferences.json"))'))
+        assert {'Chips': 'contrast', 'MusicVolume': 0, 'ReducedMotion': 'on', 'SayWhy': True}.items() \
+            <= kept['Settings'].items(), kept['Settings']
+        focus('Language')
+        for _ in range(2):
+            play.press('ArrowDown', number=40)
+        play.page.until('document.querySelector("#settings h2").textContent === "Einstellungen" && '
+                        'document.querySelector("#bar button").textContent === "Spiel" && '
+                        'document.documentElement.lang === "de"', 'German')
+        assert play.page.run('document.activeElement.id') == ids['Language'], 'the focus has gone'
+        play.press('Escape', number=27)
+        assert play.page.run('document.activeElement.id') == 'board', 'the board is not in play again'
+        # After a reset all is as at first, and the browser is asked again what motion it wants.
+        play.menu('Optionen', 'Einstellungen \u2026')
+        play.page.run('document.getElementById("settings-reset").click()')
+        play.until('!s.lessMotion', 'motion')
+        play.page.tell('Emulation.setEmulatedMedia', features=[{'name': 'prefers-reduced-motion', 'value': 'reduce'}])
+        play.until('s.lessMotion', 'the motion that the browser asks for')
+        play.page.until('document.querySelector("#settings h2").textContent === "Settings" && '
+                        'veyrand.sounds.volumes.music === 1', 'the settings of the beginning')
+    server.shutdown()
+
+
+def picture_of(play):
+    return play.page.run('veyrand.canvas.toDataURL()')
+
+
+def in_other_languages(site, out):
+    """The browser's languages are spoken by the game and by the page round it."""
+    server, address = webserver.serve(site)
+    with Chromium(arguments=['--lang=fr', '--accept-lang=fr-CA,de']) as browser:
+        play = Play(browser, address)
+        assert play.page.run('[navigator.languages[0], document.documentElement.lang]') == ['fr-CA', 'fr']
+        play.menu('Aide', '\u00c0 propos de Veyrand')
+        play.page.until('document.querySelector("dialog p")?.textContent.startsWith("Un jeu")', 'French words about the game')
+        looked(play, out, 'about-french')
+        play.page.run('document.querySelector("dialog button").click()')
+        play.menu('Partie', 'Quitter')
+        play.page.until('document.querySelector("#curtain button")?.textContent === "Jouer"', 'the French end')
+    server.shutdown()
+
+
+def a_puzzle_sent(site, out):
+    """An address with a code; and one that comes while another puzzle is in play."""
+    server, address = webserver.serve(site)
+    with Chromium() as browser:
+        play = Play(browser, address + '#37T8649F2MEJ')
+        play.until('s.practice && s.lines.length === 1 && s.lines[0] === "YBRGRRR"', 'the puzzle of the address')
+        assert play.page.run('location.hash') == '', 'loaded anew, it would be asked for again'
+        looked(play, out, 'code-1440x900')
+        play.store(at(2, 1))
+        play.go_on(play.click)
+        play.until('s.lines.length === 1', 'the puzzle 2-1')
+        play.clear_pages()
+        play.click('chip-0-0')
+        play.until('s.lines.length === 2', 'the move')
+        before = play.state()['lines']
+        for button, condition in ((1, 'JSON.stringify(s.lines) === %s' % json.dumps(json.dumps(before, separators=(',', ':')))),
+                                  (0, 's.practice && s.lines[0] === "YBRGRRR"')):
+            play.at_rest()
+            play.page.run('location.hash = "37T8649F2MEJ"')
+            play.page.until('document.querySelectorAll("dialog button").length === 2', 'the question')
+            assert play.state()['lines'] == before, 'it was left without asking'
+            play.page.run('document.querySelectorAll("dialog button")[%d].click()' % button)
+            play.until(condition, 'what was answered')
+        play.page.run('location.hash = "NONSENSE"')
+        play.page.until('document.querySelector("dialog")', 'the word of a code that is none')
+        assert play.state()['practice']
     server.shutdown()
 
 
@@ -320,6 +456,9 @@ TESTS = {
     'a drag, a step back and a hint': by_drag_and_hint,
     'played by finger on a phone': by_finger,
     'played by keys': by_keys,
+    'the settings, by keys': with_settings,
+    'the languages of the browser': in_other_languages,
+    'a puzzle of an address': a_puzzle_sent,
     'a second tab does not save': second_tab,
     'played without a network': offline,
     'killed at any moment': kills,

@@ -1,9 +1,11 @@
 import { MenuBar } from './menu.mjs';
-import { ask, end, mention, tell } from './notices.mjs';
+import { ask, askLine, end, mention, tell } from './notices.mjs';
 import { Painter } from './painter.mjs';
 import { Letters, Pictures } from './pictures.mjs';
+import { SettingsPanel } from './settings.mjs';
 import { Sounds } from './sounds.mjs';
 import { Store, isOnlyPage, wordsFor } from './store.mjs';
+import { say, speak } from './words.mjs';
 
 const cursors = { arrow: 'default', pointing: 'pointer', open: 'grab', closed: 'grabbing' };
 
@@ -42,6 +44,9 @@ export class Game {
       },
       callFrame: () => requestAnimationFrame(() => this.tell('frame')),
       random: () => crypto.getRandomValues(random)[0],
+      today: () => daysTo(new Date()),
+      copy: (text) => navigator.clipboard?.writeText(text).catch(() => {}),
+      paste: () => this.paste(),
       textWidth: (text) => this.letters.width(text),
       lineHeight: () => this.letters.lineHeight,
       paint: (list, items, itemCount, damage, damageCount) =>
@@ -64,6 +69,8 @@ export class Game {
       quit: () => this.quit(),
       language: (code) => this.speak(code),
       report: (words) => tell(words),
+      damaged: (name) => tell(say('What this browser has kept of the settings and the score cannot be read. ' +
+        'It is kept as {name}. The game starts anew.', { name })),
       log: (line) => console.info(line),
       giveUp: (words) => this.giveUp(words),
     };
@@ -106,7 +113,7 @@ export class Game {
     this.letters = new Letters();
     const missing = (name) => {
       console.warn(`The picture ${name} cannot be shown.`);
-      mention('Some pictures could not be fetched. The game can be played all the same.');
+      mention(say('Some pictures could not be fetched. The game can be played all the same.'));
     };
     this.pictures = new Pictures({ urlOf: (name) => this.pictureUrl(name), letters: this.letters,
       numbers: JSON.parse(this.askText('effects')), missing, arrived: () => this.tell('repaint') });
@@ -118,11 +125,12 @@ export class Game {
       program._free(place);
     }
     navigator.languages.forEach((code) => this.call('add_language', code));
+    this.watchMotion();
     await this.loadStore();
     const size = this.fit();
     const fault = this.askText('start', screen.width, screen.height, size.width, size.height);
     if (fault !== '') {
-      throw new Error(`The game cannot be played: ${fault}`);
+      throw new Error(say('The game cannot be played: {fault}', { fault }));
     }
     this.listen();
     this.bar = new MenuBar(document.getElementById('bar'), {
@@ -131,17 +139,53 @@ export class Game {
       closed: () => this.canvas.focus(),
       hasFullScreen: Boolean(document.documentElement.requestFullscreen),
     });
+    this.settings = new SettingsPanel({
+      list: () => JSON.parse(this.askText('settings')),
+      set: (number, value) => this.tell('set', number, value),
+      reset: () => this.tell('reset_settings'),
+      closed: () => this.canvas.focus(),
+    });
     this.canvas.focus();
+    this.openPuzzleOfAddress();
     requestAnimationFrame(() => setTimeout(() => this.fetchTheRest()));
+  }
+
+  // An address may name a puzzle: "#" and its code.
+  openPuzzleOfAddress() {
+    const code = decodedPart(location.hash.slice(1));
+    if (code !== '') {
+      history.replaceState(null, '', location.pathname + location.search); // loaded anew, it is not asked for again
+      this.tell('open', code);
+    }
+  }
+
+  watchMotion() {
+    const wish = matchMedia('(prefers-reduced-motion: reduce)');
+    wish.onchange = () => this.tell('wish_less_motion', wish.matches);
+    wish.onchange();
+  }
+
+  // What was copied, if the browser lets the page have it; otherwise the player is asked to put it here.
+  async paste() {
+    const text = await navigator.clipboard?.readText?.().catch(() => null) ??
+      await askLine({ title: say('The code of the puzzle') });
+    this.canvas.focus();
+    if (text !== null) {
+      this.tell('pasted', text);
+    }
   }
 
   // Words on pictures are drawn for each language that has them.
   speak(code) {
     document.documentElement.lang = code === 'pseudo' ? 'en' : code;
+    speak(code);
+    document.getElementById('bar').setAttribute('aria-label', say('Menu'));
+    this.canvas.setAttribute('aria-label', say('The board'));
     if (code !== this.language) {
       this.language = code;
       this.pictures.forgetSources();
       this.bar?.rebuild();
+      this.settings?.rebuild();
     }
   }
 
@@ -161,7 +205,7 @@ export class Game {
       this.tell('store_failed', words);
       if (!this.hasToldLoss) {
         this.hasToldLoss = true;
-        tell(`What has changed cannot be kept in this browser: ${words}.`);
+        tell(say('What has changed cannot be kept in this browser: {reason}.', { reason: words }));
       }
     };
     let kept;
@@ -169,7 +213,8 @@ export class Game {
       kept = await this.store.load();
     } catch (error) {
       this.call('close_store');
-      tell(`Nothing that happens here can be kept, for this browser stores nothing for this page: ${wordsFor(error)}.`);
+      tell(say('Nothing that happens here can be kept, for this browser stores nothing for this page: {reason}.',
+        { reason: wordsFor(error) }));
       return;
     }
     for (const [name, text] of kept.texts) {
@@ -179,10 +224,10 @@ export class Game {
     }
     if (kept.isLater) {
       this.call('close_store');
-      tell('A later version of Veyrand has kept the game in this browser. It is left as it is; what happens here is not kept.');
+      tell(say('A later version of Veyrand has kept the game in this browser. It is left as it is; what happens here is not kept.'));
     } else if (!await isOnlyPage()) {
       this.call('close_store');
-      tell('Veyrand is already open in another tab. You can play here as well, but nothing that happens in this tab will be kept.');
+      tell(say('Veyrand is already open in another tab. You can play here as well, but nothing that happens in this tab will be kept.'));
     }
   }
 
@@ -225,6 +270,7 @@ export class Game {
     addEventListener('pointerdown', () => this.sounds.touched(), true);
     addEventListener('pointerup', () => this.sounds.touched(), true);
     addEventListener('blur', () => this.letGo());
+    addEventListener('hashchange', () => this.openPuzzleOfAddress());
     document.addEventListener('visibilitychange', () => {
       this.sounds.settle();
       if (document.hidden) {
@@ -299,7 +345,7 @@ export class Game {
   key(event) {
     this.sounds.touched();
     const keys = keysOf(event);
-    if (keys === '' || event.isComposing || event.target.closest?.('dialog, #bar, #curtain')) {
+    if (keys === '' || event.isComposing || event.target.closest?.('dialog, #bar, #curtain, #settings')) {
       return;
     }
     if (keys === 'F10') {
@@ -326,7 +372,7 @@ export class Game {
     this.letGo();
     const buttons = [alert.default, ...alert.alternate ? [alert.alternate] : []];
     const answer = await ask({ title: alert.message, text: alert.text, buttons,
-      box: alert.box ? 'Do not ask again' : undefined });
+      box: alert.box ? say('Do not ask me again') : undefined });
     this.canvas.focus();
     this.tell('answer', answer.button === 0, answer.isTicked);
   }
@@ -334,12 +380,18 @@ export class Game {
   chosen(item) {
     if (item === 'about') {
       this.showAbout();
+    } else if (item === 'settings') {
+      this.settings.open();
     }
   }
 
   async showAbout() {
-    const { about } = this.files;
-    await ask({ title: `Veyrand ${about.version}`, text: about.text, buttons: ['OK'] });
+    await ask({ title: `Veyrand ${this.files.version}`, buttons: [say('OK')], text: [
+      say('A puzzle game of rewrite moves.'),
+      say('The program is free software under the MIT licence; its artwork and sounds are under CC BY 4.0. Both belong ' +
+        'to the Veyrand developers.'),
+      say('It runs on ICU (Unicode licence), was compiled by Emscripten (MIT licence), and is lettered in Linux Biolinum ' +
+        '(GPL 2 with font exception, or OFL). Their licences lie beside this page in licences.txt.')] });
     this.canvas.focus();
   }
 
@@ -350,15 +402,30 @@ export class Game {
       document.exitFullscreen().catch(() => {});
     }
     document.getElementById('bar').hidden = true;
-    end({ title: 'Veyrand', button: 'Play', chosen: () => location.reload() });
+    this.settings.close();
+    end({ title: 'Veyrand', button: say('Play'), chosen: () => location.reload() });
   }
 
   giveUp(words) {
     this.isOver = true;
     this.sounds.silence();
-    end({ title: 'Veyrand cannot go on', text: `${words}. What you did until then has been kept.`,
-      button: 'Start Again', chosen: () => location.reload() });
+    end({ title: say('Veyrand cannot go on: {reason}.', { reason: words }),
+      text: say('What you did until then has been kept.'), button: say('Start Again'), chosen: () => location.reload() });
   }
+}
+
+// What the address spells otherwise; as it stands where it makes no sense.
+function decodedPart(text) {
+  try {
+    return decodeURIComponent(text);
+  } catch {
+    return text;
+  }
+}
+
+// Whole days from 1 January 1970 to the date, by the player's own time zone.
+export function daysTo(date) {
+  return Math.round(Date.UTC(date.getFullYear(), date.getMonth(), date.getDate()) / 86_400_000);
 }
 
 const isModified = (event) => event.shiftKey || event.ctrlKey || event.altKey || event.metaKey;

@@ -2,37 +2,38 @@ import createVeyrand from './veyrand.mjs';
 import { files } from './files.mjs';
 import { Game } from './game.mjs';
 import { end } from './notices.mjs';
+import { learn, say } from './words.mjs';
 
 // What keeps the game from being played, in words.
 function giveUp(words) {
-  end({ title: 'Veyrand cannot be played here', text: words, button: 'Try Again', chosen: () => location.reload() });
+  end({ title: say('Veyrand cannot be played here'), text: words, button: say('Try Again'), chosen: () => location.reload() });
 }
 
-async function fetched(url, what) {
+async function fetched(url) {
   let answer;
   try {
     answer = await fetch(url);
   } catch {
-    throw new Error(`${what} could not be fetched: is the network there?`);
+    throw new Error(say('{file} could not be fetched: is the network there?', { file: url }));
   }
   if (!answer.ok) {
-    throw new Error(`${what} could not be fetched: the server answers ${answer.status}.`);
+    throw new Error(say('{file} could not be fetched: the server answers {status}.', { file: url, status: answer.status }));
   }
   return answer.arrayBuffer();
 }
 
 async function start() {
   if (typeof WebAssembly !== 'object') {
-    throw new Error('This browser does not know WebAssembly. A newer one will do.');
+    throw new Error(say('This browser does not know WebAssembly. A newer one will do.'));
   }
   const game = new Game(files);
   globalThis.veyrand = game; // for whoever looks at the page from outside
-  const program = fetched(files.program, 'The program').then((wasmBinary) =>
+  const program = fetched(files.program).then((wasmBinary) =>
     createVeyrand({ wasmBinary, host: game.host }).catch(() => {
-      throw new Error('This browser cannot run the program. A newer one will do.');
+      throw new Error(say('This browser cannot run the program. A newer one will do.'));
     }));
   const resources = Promise.all(Object.entries(files.resources).map(async ([name, url]) =>
-    [name, new Uint8Array(await fetched(url, `The file ${name}`))]));
+    [name, new Uint8Array(await fetched(url))]));
   const font = document.fonts.load('100px "Veyrand Letters"').catch(() => []);
   await game.start(await program, await resources, await font);
   document.getElementById('curtain').hidden = true;
@@ -41,4 +42,6 @@ async function start() {
   }
 }
 
+learn(files.words);
+document.getElementById('opening').textContent = say('Veyrand is being fetched.');
 start().catch((error) => giveUp(error.message));

@@ -1,6 +1,8 @@
+import { say } from './words.mjs';
+
 // What the page has to say to the player beside the game. Words reach it as text only.
 
-function element(kind, text, parent) {
+export function element(kind, text, parent) {
   const made = document.createElement(kind);
   if (text) {
     made.textContent = text;
@@ -11,7 +13,7 @@ function element(kind, text, parent) {
 
 // A box in front of the game; resolves with the number of the button, or that of the last one where
 // it is closed otherwise, and with whether the box in it was ticked.
-export function ask({ title, text = [], buttons, box }) {
+export function ask({ title, text = [], buttons, box, add }) {
   const dialog = element('dialog', '', document.body);
   dialog.className = 'notice';
   if (title) {
@@ -29,6 +31,7 @@ export function ask({ title, text = [], buttons, box }) {
     tick.type = 'checkbox';
     label.append(` ${box}`);
   }
+  add?.(dialog);
   const row = element('div', '', dialog);
   row.className = 'buttons';
   return new Promise((resolve) => {
@@ -36,7 +39,7 @@ export function ask({ title, text = [], buttons, box }) {
     buttons.forEach((words, number) => {
       const button = element('button', words, row);
       button.type = 'button';
-      button.autofocus = number === 0;
+      button.autofocus = number === 0 && !add;
       button.onclick = () => {
         answer = number;
         dialog.close();
@@ -51,7 +54,7 @@ export function ask({ title, text = [], buttons, box }) {
   });
 }
 
-export const tell = (text) => ask({ text, buttons: ['OK'] });
+export const tell = (text) => ask({ text, buttons: [say('OK')] });
 
 // A line at the foot of the page that goes by itself.
 export function mention(text) {
@@ -62,6 +65,24 @@ export function mention(text) {
   mention.timer = setTimeout(() => {
     line.hidden = true;
   }, 12000);
+}
+
+// Asks for a line of text; resolves with it, or with null.
+export async function askLine({ title, fault }) {
+  let typed = null;
+  const { button } = await ask({ title, text: fault ?? [], buttons: [say('OK'), say('Cancel')], add: (dialog) => {
+    typed = element('input', '', dialog);
+    typed.type = 'text';
+    typed.autofocus = true;
+    typed.setAttribute('aria-label', title);
+    typed.onkeydown = (event) => {
+      if (event.key === 'Enter') {
+        event.preventDefault();
+        dialog.querySelector('.buttons button').click();
+      }
+    };
+  } });
+  return button === 0 ? typed.value : null;
 }
 
 // The game has come to its end, or cannot begin: a still page with one button.

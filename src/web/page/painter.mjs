@@ -1,9 +1,10 @@
 // The numbers of one item of the display list, in the order in which the game packs them. Lengths
 // are the page's points, from the lower left corner.
-const itemLength = 19;
+const itemLength = 20;
 const [kind, name, x, y, width, height, clipX, clipY, clipWidth, clipHeight, opacity, glow, lift, pressed, moving,
-  red, green, blue, alpha] = Array.from({ length: itemLength }, (_, index) => index);
+  red, green, blue, alpha, mirror] = Array.from({ length: itemLength }, (_, index) => index);
 const [solid, image] = [0, 1];
+const leftAndRight = 1; // of what mirror may be; 0 is none
 
 const halfAStep = 0.5 / 255; // what is fainter changes no pixel
 const halfWay = 0.001;
@@ -112,6 +113,13 @@ export class Painter {
     // The corner that keeps a picture of the whole size centred where it belongs.
     const left = Math.round(rect.x + rect.width / 2 - wide / 2 - halfWay);
     const top = Math.round(rect.y + rect.height / 2 - high / 2 - halfWay);
+    if (list[at + mirror] !== 0) {
+      const isAcross = list[at + mirror] === leftAndRight;
+      pen.save();
+      pen.translate(left + wide / 2, top + high / 2);
+      pen.scale(isAcross ? -1 : 1, isAcross ? 1 : -1);
+      pen.translate(-left - wide / 2, -top - high / 2);
+    }
     const raised = Math.round(list[at + lift] * this.ratio);
     if (raised > 0) {
       this.draw(pictures.shadow(called, wide, high, raised), left - 2 * raised, top - 2 * raised);
@@ -128,6 +136,9 @@ export class Painter {
       pen.globalCompositeOperation = 'lighter';
       this.draw(pictures.glow(called, wide, high, radius), left - 2 * radius, top - 2 * radius);
       pen.globalCompositeOperation = 'source-over';
+    }
+    if (list[at + mirror] !== 0) {
+      pen.restore();
     }
   }
 

@@ -1,3 +1,5 @@
+import { say } from './words.mjs';
+
 // The player's texts in the browser's database: one object store, names to texts. Each change is a
 // transaction of its own that the browser is asked to bring to the disk at once.
 
@@ -85,9 +87,9 @@ export class Store {
 
 export function wordsFor(error) {
   if (error?.name === 'QuotaExceededError') {
-    return 'there is no room left for what this page stores';
+    return say('there is no room left for what this page stores');
   }
-  return error?.message || error?.name || 'the browser does not say why';
+  return error?.message || error?.name || say('the browser does not say why');
 }
 
 // Whether this page is the only one that plays: the first holds a lock for as long as it lives.
