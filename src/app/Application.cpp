@@ -18,6 +18,7 @@
 #include "desktop/qt/FilePreferences.h"
 #include "desktop/qt/Logging.h"
 #include "desktop/qt/OpenAlSounds.h"
+#include "desktop/qt/QtFileExchange.h"
 #include "desktop/qt/QtOverlayWindow.h"
 #include "desktop/qt/QtRunLoop.h"
 #include "desktop/qt/QtWindow.h"
@@ -51,6 +52,7 @@ public:
         : m_preferences(preferences, progress::misunderstood)
         , m_journal(
               games == Games::Kept ? std::make_unique<desktop::posix::UserJournal>() : nullptr)
+        , m_exchange(m_preferences)
         , m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
         , m_installation(m_preferences)
@@ -79,7 +81,8 @@ public:
                      .desktopLanguages = desktopLanguages(),
                      .motionWish = m_motionWish.get(),
                      .calendar = &m_calendar,
-                     .clipboard = &m_clipboard },
+                     .clipboard = &m_clipboard,
+                     .exchange = &m_exchange },
               m_currentGame, board::GameData::sharedGameData(m_screen))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
@@ -255,6 +258,7 @@ private:
     desktop::qt::QtRunLoop m_runLoop;
     desktop::qt::FilePreferences m_preferences;
     std::unique_ptr<desktop::posix::UserJournal> m_journal; // null when nothing is kept
+    desktop::qt::QtFileExchange m_exchange;
     desktop::qt::OpenAlSounds m_sounds;
     desktop::qt::SystemRandom m_random;
     desktop::qt::FileResources m_resources;

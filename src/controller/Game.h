@@ -31,6 +31,7 @@ struct GamePorts {
     platform::MotionWish* motionWish = nullptr; // null: the desktop has none
     const platform::Calendar* calendar = nullptr; // see GameContext
     platform::Clipboard* clipboard = nullptr; // see GameContext
+    platform::FileExchange* exchange = nullptr; // see GameContext
 };
 
 // One whole game, put together: rooms upon rooms upon ports. The application has one; a test may
@@ -74,9 +75,11 @@ public:
             .motionWish = ports.motionWish,
             .resources = ports.resources,
             .calendar = ports.calendar,
-            .clipboard = ports.clipboard }
+            .clipboard = ports.clipboard,
+            .exchange = ports.exchange }
         , m_controller(m_context)
     {
+        m_controller.transfer().setSettingsListener([this] { settingsChanged(); });
         speakAsChosen();
     }
 

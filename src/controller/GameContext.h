@@ -8,6 +8,7 @@
 #include "platform/Alerts.h"
 #include "platform/Calendar.h"
 #include "platform/Clipboard.h"
+#include "platform/FileExchange.h"
 #include "platform/Journal.h"
 #include "platform/Log.h"
 #include "platform/MotionWish.h"
@@ -52,6 +53,7 @@ struct GameContext {
     const platform::Resources& resources;
     const platform::Calendar* calendar; // null: it is always the first day of 1970
     platform::Clipboard* clipboard; // null: nothing can be copied or pasted
+    platform::FileExchange* exchange; // null: nothing can be exported or imported
 };
 
 } // namespace veyrand::controller

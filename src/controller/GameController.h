@@ -19,6 +19,7 @@
 #include "controller/Sheets.h"
 #include "controller/Speaker.h"
 #include "controller/TitlePage.h"
+#include "controller/Transfer.h"
 #include "controller/Tutorial.h"
 #include "input/Focus.h"
 
@@ -62,6 +63,7 @@ public:
     [[nodiscard]] const Practice& practice() const { return m_practice; }
     [[nodiscard]] ResultBook& book() { return m_book; }
     [[nodiscard]] PuzzleShelf& shelf() { return m_shelf; }
+    [[nodiscard]] Transfer& transfer() { return m_transfer; }
     [[nodiscard]] TitlePage& titlePage() { return m_titlePage; }
     [[nodiscard]] Messages& messages() { return m_messages; }
     [[nodiscard]] Pages& pages() { return m_pages; }
@@ -124,6 +126,7 @@ private:
     ResultBook m_book;
     PuzzleShelf m_shelf;
     Practice m_practice;
+    Transfer m_transfer;
     ProofLines m_lines;
     Moves m_moves;
     TitlePage m_titlePage;

@@ -61,6 +61,13 @@ void KeptGames::recoverAll()
     }
 }
 
+void KeptGames::recoverAnew()
+{
+    m_files = {};
+    m_solvedAtLaunch = false;
+    recoverAll();
+}
+
 void KeptGames::recover(Mode mode)
 {
     const platform::Journal::Text text = m_game.journal->read(nameOf(mode));

@@ -24,6 +24,8 @@ public:
 
     // Before anything is shown: looks what the last game left, and brings the record up to it.
     void recoverAll();
+    // Record and journals have been written by somebody else; no puzzle is on the board.
+    void recoverAnew();
 
     // The puzzle on the board is a new one, and the record has been saved.
     void begin();

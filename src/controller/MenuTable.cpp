@@ -90,6 +90,17 @@ constexpr std::array kItems {
         .choose = [](GameController& game) { game.previous().offer(); },
         .mayChoose = [](GameController& game) { return game.previous().canOffer(); } },
     separator(MenuId::Game),
+    MenuItem { .id = MenuItemId::Export,
+        .menu = MenuId::Game,
+        .text = "E&xport\u2026",
+        .choose = [](GameController& game) { game.transfer().exportGame(); },
+        .mayChoose = [](GameController& game) { return game.transfer().canExport(); } },
+    MenuItem { .id = MenuItemId::Import,
+        .menu = MenuId::Game,
+        .text = "&Import\u2026",
+        .choose = [](GameController& game) { game.transfer().importGame(); },
+        .mayChoose = [](GameController& game) { return game.transfer().canImport(); } },
+    separator(MenuId::Game),
     MenuItem { .id = MenuItemId::Quit,
         .menu = MenuId::Game,
         .text = "&Quit",
@@ -165,6 +176,9 @@ constexpr std::array kItems {
     page(
         MenuItemId::Practice, "&Practice", {},
         [](GameController& game) { game.pages().show("practiceMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::ExportHelp, "&Export and Import", {},
+        [](GameController& game) { game.pages().show("exportMessageWindow"); }, canOpenPage),
     separator(MenuId::Help),
     MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
 };

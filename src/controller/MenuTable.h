@@ -19,6 +19,8 @@ enum class MenuItemId {
     EndlessGame,
     BringBack,
     Puzzles,
+    Export,
+    Import,
     Quit,
     Undo,
     Redo,
@@ -34,6 +36,7 @@ enum class MenuItemId {
     Scoring,
     BoardAnswers,
     Practice,
+    ExportHelp,
     About,
 };
 

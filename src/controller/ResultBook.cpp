@@ -76,6 +76,12 @@ void ResultBook::join(const play::Results& others)
     save();
 }
 
+void ResultBook::replace(const play::Results& others)
+{
+    m_results = others;
+    save();
+}
+
 void ResultBook::save()
 {
     m_file.write(m_results.lines());

@@ -25,6 +25,7 @@ public:
     void playerKnowsAllMoves();
     // The better of each result.
     void join(const play::Results& others);
+    void replace(const play::Results& others);
 
     // The names of the puzzles of both modes as they are kept; empty for what is not kept.
     [[nodiscard]] std::string nameOfPuzzleInPlay() const;

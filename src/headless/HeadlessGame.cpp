@@ -70,7 +70,8 @@ HeadlessGame::HeadlessGame(const Options& options)
                  .journal = options.journal,
                  .motionWish = options.motionWish,
                  .calendar = &m_calendar,
-                 .clipboard = &m_clipboard },
+                 .clipboard = &m_clipboard,
+                 .exchange = &m_exchange },
           m_currentGame, m_gameData)
     , m_touch(m_game.view(), m_game.layers(), m_pointer)
     , m_resizer([this](platform::Size size) { resize(size); })

@@ -9,6 +9,7 @@
 #include "platform/fakes/FixedCalendar.h"
 #include "platform/fakes/FixedScreen.h"
 #include "platform/fakes/MemoryClipboard.h"
+#include "platform/fakes/MemoryExchange.h"
 #include "platform/fakes/MemoryWindow.h"
 #include "platform/fakes/NotedAlerts.h"
 #include "platform/fakes/NotedLog.h"
@@ -110,6 +111,7 @@ public:
     [[nodiscard]] platform::MemoryWindow& window() { return m_window; }
     [[nodiscard]] platform::FixedCalendar& calendar() { return m_calendar; }
     [[nodiscard]] platform::MemoryClipboard& clipboard() { return m_clipboard; }
+    [[nodiscard]] platform::MemoryExchange& exchange() { return m_exchange; }
     [[nodiscard]] platform::NotedAlerts& alerts() { return m_alerts; }
 
 private:
@@ -129,6 +131,7 @@ private:
     platform::MemoryWindow m_window;
     platform::FixedCalendar m_calendar;
     platform::MemoryClipboard m_clipboard;
+    platform::MemoryExchange m_exchange;
     platform::NotedAlerts m_ownAlerts;
     platform::NotedAlerts& m_alerts;
     platform::TrackedPointer m_pointer;

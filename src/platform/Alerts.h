@@ -5,7 +5,7 @@
 
 namespace veyrand::platform {
 
-// A message to the player with one button or two.
+// A message to the player with one button, two or three.
 struct Alert {
     enum class SuppressionBox { Hidden, Shown };
 
@@ -13,12 +13,13 @@ struct Alert {
     std::string informativeText;
     std::string defaultButton;
     std::string alternateButton {}; // empty: there is only the default button
+    std::string otherButton {}; // empty: there is none; only beside an alternate button
     SuppressionBox suppressionBox = SuppressionBox::Hidden; // "do not ask me again"
 };
 
 struct AlertAnswer {
     // Closing the alert without a button is the alternate button, where there is one.
-    enum class Button { Default, Alternate };
+    enum class Button { Default, Alternate, Other };
 
     Button button = Button::Default;
     bool suppressed = false; // the box was on

@@ -109,8 +109,17 @@ bool Results::add(const std::string& name, const Result& result)
 
 void Results::join(const Results& others)
 {
+    // Of two that are as good the older stays, so that it is all one who joins whom.
+    const auto isOlder = [](const Result& a, const Result& b) {
+        return a.solvedOn != b.solvedOn ? a.solvedOn < b.solvedOn : lineOf({}, a) < lineOf({}, b);
+    };
     for (const auto& [name, result] : others.m_results) {
-        add(name, result);
+        const auto [place, isNew] = m_results.try_emplace(name, result);
+        Result& mine = place->second;
+        if (!isNew && !isBetter(mine, result)
+            && (isBetter(result, mine) || isOlder(result, mine))) {
+            mine = result;
+        }
     }
     m_days.insert(others.m_days.begin(), others.m_days.end());
     m_knowsAllMoves = m_knowsAllMoves || others.m_knowsAllMoves;

@@ -146,6 +146,7 @@ void WebAlerts::showFirst() const
     const platform::Alert& alert = m_waiting.front().alert;
     const nlohmann::json shown { { "message", alert.message }, { "text", alert.informativeText },
         { "default", alert.defaultButton }, { "alternate", alert.alternateButton },
+        { "other", alert.otherButton },
         { "box", alert.suppressionBox == platform::Alert::SuppressionBox::Shown } };
     veyrand_host_alert(shown.dump().c_str());
 }

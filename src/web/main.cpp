@@ -231,11 +231,14 @@ EMSCRIPTEN_KEEPALIVE const char* veyrand_state()
     return answer().c_str();
 }
 
-EMSCRIPTEN_KEEPALIVE void veyrand_answer(int isDefault, int isSuppressed)
+// 0 is the default button, 1 the other one and anything else the alternate one.
+EMSCRIPTEN_KEEPALIVE void veyrand_answer(int button, int isSuppressed)
 {
     using Button = veyrand::platform::AlertAnswer::Button;
     guarded([&] {
-        game().alerts().answer({ .button = isDefault != 0 ? Button::Default : Button::Alternate,
+        game().alerts().answer({ .button = button == 0 ? Button::Default
+                : button == 1                          ? Button::Other
+                                                       : Button::Alternate,
             .suppressed = isSuppressed != 0 });
     });
 }

@@ -70,6 +70,24 @@ TYPED_TEST_P(AlertsContract, EitherButtonIsTheAnswer)
     EXPECT_FALSE(this->answer().suppressed);
 }
 
+TYPED_TEST_P(AlertsContract, AThirdButtonIsAnAnswerOfItsOwn)
+{
+    Alert alert = this->question();
+    alert.otherButton = "Do something else";
+    this->show(alert);
+    this->harness().press(AlertAnswer::Button::Other);
+    EXPECT_EQ(this->answer().button, AlertAnswer::Button::Other);
+}
+
+TYPED_TEST_P(AlertsContract, ClosingIsTheAlternateButtonAmongThreeToo)
+{
+    Alert alert = this->question();
+    alert.otherButton = "Do something else";
+    this->show(alert);
+    this->harness().close();
+    EXPECT_EQ(this->answer().button, AlertAnswer::Button::Alternate);
+}
+
 TYPED_TEST_P(AlertsContract, TheBoxIsTakenDownWithTheDefaultButton)
 {
     this->show(this->question());
@@ -113,7 +131,8 @@ TYPED_TEST_P(AlertsContract, AnAnswerMayOpenTheNextAlert)
 }
 
 REGISTER_TYPED_TEST_SUITE_P(AlertsContract, ShowReturnsBeforeThereIsAnAnswer,
-    EitherButtonIsTheAnswer, TheBoxIsTakenDownWithTheDefaultButton,
+    EitherButtonIsTheAnswer, AThirdButtonIsAnAnswerOfItsOwn,
+    ClosingIsTheAlternateButtonAmongThreeToo, TheBoxIsTakenDownWithTheDefaultButton,
     TheBoxIsTakenDownWithTheAlternateButton, ClosingIsTheAlternateButton,
     ClosingAStatementIsItsOnlyButton, AnAnswerMayOpenTheNextAlert);
 

@@ -286,12 +286,52 @@ Json Scenario::answer(const Arguments& arguments)
     using Button = platform::AlertAnswer::Button;
     const std::string text = arguments.text(0);
     auto& alerts = game().alerts();
-    const bool isDefault = alerts.isOpen() && alerts.alert().defaultButton == text;
-    if (!alerts.isOpen() || (!isDefault && alerts.alert().alternateButton != text)) {
-        throw std::runtime_error("nothing asks for \"" + text + '"');
+    if (alerts.isOpen() && !text.empty()) {
+        const platform::Alert& alert = alerts.alert();
+        for (const auto& [words, button] : { std::pair { alert.defaultButton, Button::Default },
+                 std::pair { alert.otherButton, Button::Other },
+                 std::pair { alert.alternateButton, Button::Alternate } }) {
+            if (words == text) {
+                alerts.answer({ .button = button });
+                return {};
+            }
+        }
     }
-    alerts.answer({ .button = isDefault ? Button::Default : Button::Alternate });
+    throw std::runtime_error("nothing asks for \"" + text + '"');
+}
+
+Json Scenario::exportGame(const Arguments& /*arguments*/)
+{
+    return game().controller().transfer().exported();
+}
+
+Json Scenario::importGame(const Arguments& arguments)
+{
+    using How = controller::Transfer::How;
+    const std::string how = arguments.text(1);
+    if (how != "replace" && how != "join") {
+        throw std::runtime_error("a game is imported to \"replace\" or to \"join\"");
+    }
+    complain(game().controller().transfer().bringIn(
+        arguments.text(0), "the text", how == "join" ? How::Join : How::Replace));
     return {};
+}
+
+Json Scenario::chooseFile(const Arguments& arguments)
+{
+    if (arguments.at(0).is_string()) {
+        game().exchange().choose(
+            platform::MemoryExchange::File { arguments.text(0), arguments.text(1) });
+    } else {
+        game().exchange().choose(std::nullopt);
+    }
+    return {};
+}
+
+Json Scenario::savedFile(const Arguments& /*arguments*/)
+{
+    const auto& saved = game().exchange().saved();
+    return saved ? Json { { "name", saved->name }, { "text", saved->text } } : Json();
 }
 
 } // namespace veyrand::scenario

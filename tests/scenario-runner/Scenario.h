@@ -91,6 +91,10 @@ private:
     Json hash(const Arguments& arguments);
     Json alert(const Arguments& arguments);
     Json answer(const Arguments& arguments);
+    Json exportGame(const Arguments& arguments);
+    Json importGame(const Arguments& arguments);
+    Json chooseFile(const Arguments& arguments);
+    Json savedFile(const Arguments& arguments);
     Json sounds(const Arguments& arguments);
     Json statistics(const Arguments& arguments);
     Json clipboard(const Arguments& arguments);

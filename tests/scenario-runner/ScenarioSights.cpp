@@ -272,6 +272,9 @@ Json Scenario::alert(const Arguments& /*arguments*/)
     }
     const platform::Alert& shown = game().alerts().alert();
     Json buttons = Json::array({ shown.defaultButton });
+    if (!shown.otherButton.empty()) {
+        buttons.push_back(shown.otherButton);
+    }
     if (!shown.alternateButton.empty()) {
         buttons.push_back(shown.alternateButton);
     }
@@ -357,6 +360,8 @@ const std::vector<Scenario::Operation>& Scenario::table()
         { "page", &Scenario::page }, { "blocked", &Scenario::blocked },
         { "actions", &Scenario::actions }, { "hash", &Scenario::hash },
         { "alert", &Scenario::alert }, { "answer", &Scenario::answer },
+        { "exportGame", &Scenario::exportGame }, { "importGame", &Scenario::importGame },
+        { "chooseFile", &Scenario::chooseFile }, { "savedFile", &Scenario::savedFile },
         { "sounds", &Scenario::sounds }, { "music", &Scenario::music },
         { "preference", &Scenario::preference }, { "record", &Scenario::record },
         { "terminated", &Scenario::terminated }, { "overlay", &Scenario::overlay } };

@@ -26,11 +26,17 @@ public:
                 = [panel addButtonWithTitle:toString(alert.alternateButton)];
             alternate.keyEquivalent = @"\033"; // only a button called "Cancel" gets Escape by itself
         }
+        if (!alert.otherButton.empty()) {
+            [panel addButtonWithTitle:toString(alert.otherButton)];
+        }
         panel.showsSuppressionButton = alert.suppressionBox == platform::Alert::SuppressionBox::Shown;
         dispatch_async(dispatch_get_main_queue(), ^{
-            const bool isDefault = [panel runModal] == NSAlertFirstButtonReturn;
-            answered({ .button = isDefault ? platform::AlertAnswer::Button::Default
-                                           : platform::AlertAnswer::Button::Alternate,
+            const NSModalResponse pressed = [panel runModal];
+            answered({ .button = pressed == NSAlertFirstButtonReturn
+                    ? platform::AlertAnswer::Button::Default
+                    : pressed == NSAlertThirdButtonReturn
+                    ? platform::AlertAnswer::Button::Other
+                    : platform::AlertAnswer::Button::Alternate,
                 .suppressed = panel.showsSuppressionButton
                     && panel.suppressionButton.state == NSControlStateValueOn });
         });

@@ -30,6 +30,9 @@ void QtAlerts::show(const platform::Alert& alert, Answered answered)
     QPushButton* const second = alert.alternateButton.empty()
         ? nullptr
         : box->addButton(plain(alert.alternateButton), QMessageBox::RejectRole);
+    QPushButton* const third = alert.otherButton.empty()
+        ? nullptr
+        : box->addButton(plain(alert.otherButton), QMessageBox::ActionRole);
     box->setDefaultButton(first);
     box->setEscapeButton(second != nullptr ? second : first);
     if (alert.suppressionBox == platform::Alert::SuppressionBox::Shown) {
@@ -37,10 +40,12 @@ void QtAlerts::show(const platform::Alert& alert, Answered answered)
             new QCheckBox(QCoreApplication::translate("QtAlerts", "Do not ask me again"), box));
     }
     QObject::connect(box, &QMessageBox::finished, box,
-        [box, first, second, answered = std::move(answered)](int /*result*/) {
+        [box, first, second, third, answered = std::move(answered)](int /*result*/) {
             // Closed without a button, a box with a single one names none.
             const bool isDefault = second == nullptr || box->clickedButton() == first;
+            const bool isOther = third != nullptr && box->clickedButton() == third;
             answered({ .button = isDefault ? platform::AlertAnswer::Button::Default
+                    : isOther              ? platform::AlertAnswer::Button::Other
                                            : platform::AlertAnswer::Button::Alternate,
                 .suppressed = box->checkBox() != nullptr && box->checkBox()->isChecked() });
         });

@@ -370,11 +370,14 @@ export class Game {
 
   async showAlert(alert) {
     this.letGo();
-    const buttons = [alert.default, ...alert.alternate ? [alert.alternate] : []];
+    // The last one is what closing the box comes to.
+    const buttons = [alert.default, alert.other, alert.alternate].filter((words) => words !== '');
     const answer = await ask({ title: alert.message, text: alert.text, buttons,
       box: alert.box ? say('Do not ask me again') : undefined });
     this.canvas.focus();
-    this.tell('answer', answer.button === 0, answer.isTicked);
+    const places = ['default', 'other', 'alternate'];
+    const chosen = places.findIndex((place) => alert[place] === buttons[answer.button]);
+    this.tell('answer', chosen, answer.isTicked);
   }
 
   chosen(item) {

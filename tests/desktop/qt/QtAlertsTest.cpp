@@ -36,13 +36,13 @@ public:
     {
         QMessageBox* const box = openBox();
         ASSERT_NE(box, nullptr);
+        QAbstractButton* wanted
+            = button == AlertAnswer::Button::Default ? box->defaultButton() : box->escapeButton();
         for (QAbstractButton* const each : box->buttons()) {
-            const bool isDefault = each == box->defaultButton();
-            if (isDefault == (button == AlertAnswer::Button::Default)) {
-                each->click();
-                break;
-            }
+            const bool isOther = each != box->defaultButton() && each != box->escapeButton();
+            wanted = button == AlertAnswer::Button::Other && isOther ? each : wanted;
         }
+        wanted->click();
         serveEvents();
     }
     static void close()
