@@ -11,7 +11,7 @@ namespace veyrand::play {
 namespace {
 
 constexpr std::string_view kHead = "veyrand-puzzles 1";
-constexpr std::string_view kCheckMark = " #";
+constexpr std::string_view kBeforePuzzleCheck = " #";
 
 // The one way in which a code is written, whatever the case and the hyphens.
 std::optional<std::string> plainCode(std::string_view code)
@@ -123,7 +123,7 @@ MyPuzzles::Read MyPuzzles::read(std::string_view text)
             read.damaged += line == kHead ? 0 : 1;
             continue;
         }
-        const std::string_view words = line.substr(0, line.rfind(kCheckMark));
+        const std::string_view words = line.substr(0, line.rfind(kBeforePuzzleCheck));
         const std::size_t blank = std::min(words.find(' '), words.size());
         const bool isWhole = JournalWriter().checked(std::string(words)) == line;
         const auto saving = isWhole ? read.puzzles.add(words.substr(0, blank), words.substr(blank))
