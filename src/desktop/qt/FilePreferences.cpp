@@ -1,6 +1,7 @@
 #include "desktop/qt/FilePreferences.h"
 
 #include "desktop/qt/Logging.h"
+#include "desktop/qt/PreferencesText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,49 +21,6 @@ QString tr(const char* text)
     return QCoreApplication::translate("FilePreferences", text);
 }
 
-QJsonValue toJson(const platform::PreferenceValue& value)
-{
-    if (const auto* flag = std::get_if<bool>(&value)) {
-        return *flag;
-    }
-    if (const auto* number = std::get_if<std::int64_t>(&value)) {
-        return static_cast<qint64>(*number);
-    }
-    if (const auto* fraction = std::get_if<double>(&value)) {
-        return *fraction;
-    }
-    return QString::fromStdString(std::get<std::string>(value));
-}
-
-std::optional<platform::PreferenceValue> toValue(const QJsonValue& json)
-{
-    if (json.isBool()) {
-        return json.toBool();
-    }
-    if (json.isDouble()) {
-        const qint64 number = json.toInteger();
-        if (number != 0 || json.toDouble() == 0) { // a fraction's integer is 0
-            return std::int64_t { number };
-        }
-        return json.toDouble();
-    }
-    if (json.isString()) {
-        return json.toString().toStdString();
-    }
-    return std::nullopt;
-}
-
-platform::PreferenceRecord toRecord(const QJsonObject& object)
-{
-    platform::PreferenceRecord record;
-    for (auto field = object.begin(); field != object.end(); ++field) {
-        if (auto value = toValue(field.value())) {
-            record.insert_or_assign(field.key().toStdString(), *std::move(value));
-        }
-    }
-    return record;
-}
-
 // Many times what a game ever writes.
 constexpr qint64 kMostBytes = 1024 * 1024;
 
@@ -78,34 +36,8 @@ Read readDocument(const QString& name)
     if (!file.bytes) {
         return { std::nullopt, file.fault };
     }
-    QJsonParseError error {};
-    const QJsonDocument document = QJsonDocument::fromJson(*file.bytes, &error);
-    if (error.error != QJsonParseError::NoError) {
-        return { std::nullopt,
-            QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset),
-            file.bytes };
-    }
-    if (!document.isObject()) {
-        return { std::nullopt, QStringLiteral("it holds no JSON object"), file.bytes };
-    }
-    return { document.object(), {}, file.bytes };
-}
-
-// The record takes the place of every plain value that was there; what could not be read as one is
-// not the reader's to remove.
-QJsonObject replaced(const QJsonObject& old, const platform::PreferenceRecord& record)
-{
-    QJsonObject group;
-    for (auto field = old.begin(); field != old.end(); ++field) {
-        if (!toValue(field.value())) {
-            group.insert(field.key(), field.value());
-        }
-    }
-    for (const auto& [key, value] : record) {
-        const QString name = QString::fromStdString(key);
-        group.insert(name, toJson(value));
-    }
-    return group;
+    PreferencesText text = readPreferencesText(*file.bytes);
+    return { std::move(text.document), std::move(text.fault), file.bytes };
 }
 
 QString keyName(std::string_view key)
@@ -131,23 +63,6 @@ QString nameForCopy(const QString& file)
         name = file + QStringLiteral(".damaged-%1").arg(number);
     }
     return name;
-}
-
-// What an object holds, sorted by what it is.
-platform::StoredGroup storedIn(const QJsonObject& object)
-{
-    platform::StoredGroup stored;
-    for (auto field = object.begin(); field != object.end(); ++field) {
-        std::string name = field.key().toStdString();
-        if (auto value = toValue(field.value())) {
-            stored.values.insert_or_assign(std::move(name), *std::move(value));
-        } else if (field.value().isObject()) {
-            stored.groups.push_back(std::move(name));
-        } else {
-            stored.others.push_back(std::move(name));
-        }
-    }
-    return stored;
 }
 
 } // namespace
@@ -188,20 +103,15 @@ void FilePreferences::load()
 
 void FilePreferences::understand(const QJsonObject& document)
 {
-    Contents contents;
     m_document = document;
     m_asRead = document;
     judge({}, document);
     for (auto field = document.begin(); field != document.end(); ++field) {
-        const std::string key = field.key().toStdString();
         if (field.value().isObject()) {
-            contents.records.insert_or_assign(key, toRecord(field.value().toObject()));
             judge(field.key(), field.value().toObject());
-        } else if (auto value = toValue(field.value())) {
-            contents.values.insert_or_assign(key, *std::move(value));
         }
     }
-    setStored(std::move(contents));
+    setStored({ .values = plainValuesOf(document), .records = recordsOf(document) });
 }
 
 void FilePreferences::judge(const QString& group, const QJsonObject& contents)
