@@ -48,6 +48,14 @@ std::vector<LineBreaker::Unit> LineBreaker::unitsOf(const std::vector<Piece>& te
     return units;
 }
 
+// So many that the gap is wider. Sizes of nonsense (none, less than none, a chip as wide as the
+// board's letters are small) are no reason to fill the memory with blanks.
+std::size_t LineBreaker::blanksFor(double width)
+{
+    constexpr double kMost = 200.0;
+    return width > 0.0 ? static_cast<std::size_t>(std::floor(std::min(width, kMost))) + 1 : 1;
+}
+
 // The gap parts the chips from the words on either side of it.
 void LineBreaker::append(FlowedLine& line, const Unit& unit) const
 {
@@ -61,7 +69,7 @@ void LineBreaker::append(FlowedLine& line, const Unit& unit) const
             continue;
         }
         const double chips = m_chip * static_cast<double>(piece.text.size());
-        const auto blanks = static_cast<std::size_t>(std::floor(chips / m_blank)) + 1;
+        const std::size_t blanks = blanksFor(chips / m_blank);
         const double start = widthOf(line.text);
         line.text.append(blanks, ' ');
         line.chips.push_back({ .letters = piece.text,

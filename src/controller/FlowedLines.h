@@ -41,6 +41,7 @@ private:
     [[nodiscard]] std::vector<FlowedLine> filled(
         const std::vector<Unit>& units, double width) const;
     [[nodiscard]] FlowedLine line(const Unit* first, const Unit* end) const;
+    [[nodiscard]] static std::size_t blanksFor(double width);
     void append(FlowedLine& line, const Unit& unit) const;
     [[nodiscard]] double widthOf(const std::string& text) const;
 

@@ -199,11 +199,21 @@ private:
             ++line;
             ++m_number;
         }
+        if (!saysSomething(paragraph.text) || paragraph.english.empty()) {
+            throw std::invalid_argument("has an empty text");
+        }
         if (found != wanted) {
             throw std::invalid_argument(
                 "English's text \"" + m_englishWords[m_next - 1] + "\" is not what its page says");
         }
         return paragraph;
+    }
+
+    static bool saysSomething(const std::vector<Piece>& text)
+    {
+        return std::any_of(text.begin(), text.end(), [](const Piece& piece) {
+            return piece.kind == Piece::Kind::Chips || !isBlank(piece.text);
+        });
     }
 
     std::vector<Piece> withValues(std::vector<Piece> text) const
