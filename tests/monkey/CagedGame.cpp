@@ -1,27 +1,25 @@
 #include "monkey/CagedGame.h"
 
-#include "board/BoardGeometry.h"
-#include "play/JournalText.h"
+#include "controller/SettingsTable.h"
+#include "monkey/Invariants.h"
+#include "progress/CalendarDate.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
 #include "progress/Settings.h"
-#include "support/BoardRows.h"
-#include "support/FolderResources.h"
 
-#include <algorithm>
-#include <map>
+#include <utility>
 
 namespace veyrand::test {
 
 namespace {
 
 using progress::Mode;
+using Kind = Event::Kind;
 
-// No animation, celebration or walk back takes longer.
-constexpr double kLongestBlock = 30.0; // seconds
-constexpr double kRest = 8.0;
+constexpr double kRest = 8.0; // seconds, after which nothing moves unless it is told to
 // What takes long to look at is looked at once in so many events.
 constexpr unsigned long kNow = 20;
+constexpr int kMostWaysOut = 40;
 
 platform::Preferences::Contents contentsOf(const Cage& cage)
 {
@@ -31,8 +29,9 @@ platform::Preferences::Contents contentsOf(const Cage& cage)
 
 } // namespace
 
-CagedGame::CagedGame(const Cage& cage)
-    : m_seed(cage.seed)
+CagedGame::CagedGame(const Cage& cage, MakeBody makeBody)
+    : m_makeBody(std::move(makeBody))
+    , m_seed(cage.seed)
 {
     headless::prepared(m_preferences, contentsOf(cage));
     progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
@@ -47,32 +46,42 @@ CagedGame::CagedGame(const Cage& cage)
 
 void CagedGame::launch()
 {
-    m_game.reset();
+    m_body.reset();
     m_isHeld = false;
-    m_game
-        = std::make_unique<headless::HeadlessGame>(headless::HeadlessGame::Options { .seed = m_seed,
-            .store = &m_preferences,
-            .resources = &gameResources(),
-            .journal = &m_journal });
-    m_game->launch();
+    m_body = m_makeBody({ .seed = m_seed, .store = &m_preferences, .journal = &m_journal });
 }
 
 std::string CagedGame::perform(const Event& event)
 {
     ++m_events;
     try {
-        if (event.kind == Event::Kind::Kill || event.kind == Event::Kind::Quit) {
+        if (event.kind == Kind::Kill || event.kind == Kind::Quit) {
             return restart();
         }
         act(event);
-        static_cast<void>(m_game->sounds().takePlayed());
-        if (m_game->quit().terminated()) {
+        for (const std::string& effect : game().sounds().takePlayed()) {
+            m_solved += effect == "CymbalRoll" ? 1 : 0;
+        }
+        if (game().quit().terminated()) {
             return restart();
         }
-        std::string fault = faultNow();
-        if (fault.empty() && event.kind == Event::Kind::Wait && event.seconds >= kRest
-            && isAtRest()) {
-            fault = faultAtRest();
+        std::string fault = std::exchange(m_faultOfPage, {});
+        if (fault.empty()) {
+            fault = faultAtAnyMoment(game());
+        }
+        if (fault.empty() && m_events % kNow == 0) {
+            fault = faultOfLayers(game());
+        }
+        if (fault.empty() && m_events % kNow == kNow / 2) {
+            fault = faultOfJournals(m_journal);
+        }
+        if (fault.empty()) {
+            fault = m_body->faultOfPicture();
+        }
+        if (fault.empty() && event.kind == Kind::Wait && event.seconds >= kRest && !m_isHeld
+            && isAtRest(game())) {
+            ++m_rests;
+            fault = faultAtRest(game());
         }
         return fault;
     } catch (const std::exception& error) {
@@ -80,72 +89,180 @@ std::string CagedGame::perform(const Event& event)
     }
 }
 
+std::string CagedGame::findWayOut()
+{
+    try {
+        if (m_isHeld) {
+            act({ .kind = Kind::LoseRelease });
+        }
+        for (int tries = 0; tries < kMostWaysOut; ++tries) {
+            game().wait(kRest);
+            if (game().alerts().isOpen()) {
+                game().alerts().close();
+            }
+            const bool isFree = game().controller().messages().page().empty()
+                && !game().controller().sheets().isOpen()
+                && game().controller().dialogueState() == 0;
+            if (isFree) {
+                return faultAtAnyMoment(game());
+            }
+            m_body->key("Esc");
+        }
+        return "there is no way out of " + game().controller().messages().page()
+            + game().controller().sheets().name();
+    } catch (const std::exception& error) {
+        return std::string("an exception on the way out: ") + error.what();
+    }
+}
+
 void CagedGame::act(const Event& event)
 {
-    using Kind = Event::Kind;
-    const auto place = placeOf(event.key, event.place);
-    if (!place) {
-        return;
-    }
     switch (event.kind) {
-    case Kind::Move:
-        return m_game->move(*place);
-    case Kind::Press:
-        m_isHeld = true;
-        return m_game->press(*place);
-    case Kind::Release:
+    case Kind::LoseRelease:
         m_isHeld = false;
-        return m_game->release(*place);
-    case Kind::Click:
-        m_isHeld = false;
-        return m_game->click(*place);
-    case Kind::Drag:
-        if (const auto there = placeOf(event.text, event.there)) {
-            m_isHeld = false;
-            m_game->press(*place);
-            m_game->release(*there);
+        return game().cancelGesture();
+    case Kind::Leave:
+        return game().leave();
+    case Kind::Key:
+        return m_body->key(event.text);
+    case Kind::Menu:
+        return m_body->menu(event.text);
+    case Kind::Setting:
+        return set(event.text, event.number);
+    case Kind::Copy:
+        return game().clipboard().setText(event.text);
+    case Kind::Open:
+        return game().controller().practice().openOrTell(event.text);
+    case Kind::Today:
+        if (const auto date = progress::dateIn(event.text)) {
+            game().calendar().setToday(progress::dayNumber(*date));
         }
         return;
-    case Kind::Touch:
-        m_isHeld = false;
-        return m_game->touch(*place);
-    case Kind::Key:
-        return m_game->key(event.text);
-    case Kind::Menu:
-        m_game->menu().trigger(event.text);
-        return;
     case Kind::Answer:
-        if (m_game->alerts().isOpen()) {
-            const bool isFirst = m_game->alerts().alert().defaultButton == event.text;
-            m_game->alerts().answer(
+        if (game().alerts().isOpen()) {
+            const bool isFirst = game().alerts().alert().defaultButton == event.text;
+            game().alerts().answer(
                 { .button = isFirst ? platform::AlertAnswer::Button::Default
                                     : platform::AlertAnswer::Button::Alternate });
         }
         return;
     case Kind::Resize:
-        return m_game->resize({ .width = event.there.x, .height = event.there.y });
+        return m_body->resize({ .width = event.there.x, .height = event.there.y });
     case Kind::Wait:
-        return m_game->wait(event.seconds);
-    case Kind::Quit:
-    case Kind::Kill:
+        return game().wait(event.seconds);
+    default:
+        if (const auto place = placeOf(event.key, event.place)) {
+            actAt(event, *place);
+        }
+    }
+}
+
+void CagedGame::actAt(const Event& event, platform::Point place)
+{
+    const auto there = placeOf(event.text, event.there);
+    switch (event.kind) {
+    case Kind::Move:
+        return m_body->move(place);
+    case Kind::Press:
+        m_isHeld = true;
+        return press(place);
+    case Kind::Release:
+        m_isHeld = false;
+        return m_body->release(place);
+    case Kind::Click:
+        m_isHeld = false;
+        press(place);
+        return m_body->release(place);
+    case Kind::Drag:
+        if (there) {
+            m_isHeld = false;
+            press(place);
+            m_body->release(*there);
+        }
         return;
+    case Kind::RightClick:
+        return m_body->rightClick(place);
+    case Kind::Touch:
+        m_isHeld = false;
+        return m_body->touch(place);
+    case Kind::TouchDrag:
+        if (there) {
+            m_isHeld = false;
+            m_body->touchDrag(place, *there);
+        }
+        return;
+    case Kind::LongPress:
+        m_isHeld = false;
+        return m_body->longPress(place);
+    default:
+        return;
+    }
+}
+
+// A press closes a page, or does nothing to it; and what comes next belongs there.
+void CagedGame::press(platform::Point place)
+{
+    auto& controller = game().controller();
+    const std::string page = controller.messages().page();
+    const bool isBefore = controller.sheets().isOpen() || game().alerts().isOpen();
+    const bool answers = !game().game().view().block().blockClick();
+    const std::string next = answers ? pageAfter(page, game().currentGame()) : page;
+    m_body->press(place);
+    const std::string& now = controller.messages().page();
+    const bool isAlone = answers && now.empty(); // what Help opens leads nowhere
+    if (!page.empty() && !isBefore && now != next && !isAlone) {
+        m_faultOfPage = "the press on " + page + " opened \"" + now + "\", not \"" + next + '"';
+    }
+}
+
+void CagedGame::set(const std::string& item, int value)
+{
+    for (const controller::SettingItem& each : controller::settingItems()) {
+        if (item == each.text) {
+            progress::Settings settings = progress::readSettings(m_preferences);
+            each.set(settings, value);
+            progress::writeSettings(m_preferences, settings);
+            game().game().settingsChanged();
+        }
     }
 }
 
 std::optional<platform::Point> CagedGame::placeOf(const std::string& key, platform::Point place)
 {
-    return key.empty() ? std::optional(place) : m_game->centreOf(key);
+    if (key.empty()) {
+        return place;
+    }
+    for (const auto& extra : game().game().layers().extras().shown()) {
+        if (extra.kind == present::ExtraKind::Place && extra.key == key) {
+            return platform::Point { .x = extra.rect.x, .y = extra.rect.y };
+        }
+    }
+    return game().centreOf(key);
+}
+
+std::vector<std::string> CagedGame::keys()
+{
+    std::vector<std::string> keys;
+    for (const auto& extra : game().game().layers().extras().shown()) {
+        if (extra.kind == present::ExtraKind::Place) {
+            keys.push_back(extra.key);
+        }
+    }
+    return keys.empty() ? game().gameData().gameObjects().keys() : keys;
 }
 
 // As after a kill: what was in play must be found again.
 std::string CagedGame::restart()
 {
-    if (const std::string fault = faultOfJournals(); !fault.empty()) {
-        return fault;
+    for (const std::string& fault :
+        { faultOfJournals(m_journal), faultOfPreferences(m_preferences) }) {
+        if (!fault.empty()) {
+            return fault;
+        }
     }
-    const play::Session* const session = m_game->controller().flow().session();
+    const play::Session* const session = game().controller().flow().session();
     const bool isKept = progress::readSettings(m_preferences).keepUnfinishedPuzzles;
-    const bool isPractice = m_game->controller().practice().isOn(); // which nothing keeps
+    const bool isPractice = game().controller().practice().isOn(); // which nothing keeps
     const auto before = session != nullptr && isKept && !isPractice
         ? std::optional(session->settled())
         : std::nullopt;
@@ -155,125 +272,13 @@ std::string CagedGame::restart()
     }
     const Mode mode = before->puzzle()->mode;
     if (!before->isOver()) {
-        const play::Replay* const kept = m_game->controller().kept().keptOf(mode);
+        const play::Replay* const kept = game().controller().kept().keptOf(mode);
         return kept != nullptr && kept->hash() == before->hash() ? std::string()
                                                                  : "the puzzle is not found again";
     }
-    return m_game->controller().kept().standingOf(mode).score == before->purse()
+    return game().controller().kept().standingOf(mode).score == before->purse()
         ? std::string()
         : "the points of the puzzle that was over are not there";
-}
-
-std::string CagedGame::faultNow()
-{
-    const auto& controller = m_game->controller();
-    const bool isOpen = !m_game->controller().messages().page().empty();
-    const auto& view = m_game->game().view();
-    if (isOpen != (view.messageWindow() || view.tutorialWindow())) {
-        return "a page is open and not told of, or told of and not open";
-    }
-    auto& block = m_game->game().view().block();
-    if (block.blockClick() && block.delayUntil() - m_game->runLoop().now() > kLongestBlock) {
-        return "input is blocked for ever";
-    }
-    if (const auto& proof = controller.proof()) {
-        if (proof->lines().size() > play::kMostLines) {
-            return "there are too many lines";
-        }
-        for (const engine::Theorem& line : proof->lines()) {
-            if (line.theorem().size() > play::kMostChips) {
-                return "a line is too long";
-            }
-        }
-    }
-    std::string fault = faultOfPurse();
-    if (fault.empty() && m_events % kNow == 0) {
-        fault = faultOfLayers();
-    }
-    if (fault.empty() && m_events % kNow == kNow / 2) {
-        fault = faultOfJournals();
-    }
-    return fault;
-}
-
-// What the panel counts is what the list of actions comes to.
-std::string CagedGame::faultOfPurse()
-{
-    const play::Session* const session = m_game->controller().flow().session();
-    if (session == nullptr || session->phase() == play::Phase::HintFlying) {
-        return {}; // the line that is settled counts when it has landed
-    }
-    if (m_game->controller().practice().isOn()) {
-        return {}; // played for no points
-    }
-    const progress::CurrentGame& game = m_game->currentGame();
-    const std::int64_t score = game.endlessGame() ? game.endlessScore() : game.score();
-    return score == session->settled().purse() ? std::string() : "the points do not add up";
-}
-
-std::string CagedGame::faultOfLayers()
-{
-    std::map<std::string, int> layers;
-    for (const auto& layer : m_game->game().layers().backgroundLayer().sublayers()) {
-        if (const auto* const mirror = dynamic_cast<const present::GameObjectLayer*>(layer.get())) {
-            ++layers[mirror->gameObjectKey()];
-        }
-    }
-    const auto keys = m_game->gameData().gameObjects().keys();
-    if (layers.size() != keys.size()) {
-        return "there are more layers than things, or fewer";
-    }
-    for (const std::string& key : keys) {
-        if (layers[key] != 1) {
-            return key + " has not one layer";
-        }
-    }
-    return {};
-}
-
-std::string CagedGame::faultOfJournals() const
-{
-    for (const auto& [name, text] : m_journal.texts()) {
-        if (name.find("previous") != std::string::npos || name.ends_with("-results.txt")) {
-            continue; // not journals, though they lie beside them
-        }
-        if (name.find(".txt.") != std::string::npos) {
-            return "a journal was set aside: " + name;
-        }
-        const play::JournalText journal
-            = play::readJournal(text, std::string(progress::kDefaultPlayerName));
-        if (journal.state != play::JournalText::State::Whole) {
-            return "a journal cannot be read: " + name;
-        }
-    }
-    return {};
-}
-
-bool CagedGame::isAtRest()
-{
-    return !m_isHeld && m_game->controller().proof() && !m_game->game().view().block().blockClick()
-        && m_game->controller().flow().phase() == play::Phase::Playing;
-}
-
-std::string CagedGame::faultAtRest()
-{
-    const board::ObjectTable& table = m_game->gameData().gameObjects();
-    const auto& lines = m_game->controller().proof()->lines();
-    std::size_t chips = 0;
-    for (unsigned row = 0; row < lines.size(); ++row) {
-        if (rowText(table, row) != lines[row].theorem()) {
-            return "row " + std::to_string(row) + " shows " + rowText(table, row) + " for "
-                + lines[row].theorem();
-        }
-        if (table.contains(board::deleteButtonKey(row)) != (row > 0)) {
-            return "row " + std::to_string(row) + " has a delete button too many or too few";
-        }
-        chips += lines[row].theorem().size();
-    }
-    if (keysFrom(table, "delete").size() + 1 != std::max<std::size_t>(lines.size(), 1)) {
-        return "there are stray delete buttons";
-    }
-    return keysFrom(table, "chip").size() == chips ? std::string() : "there are stray chips";
 }
 
 } // namespace veyrand::test

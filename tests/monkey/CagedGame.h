@@ -1,6 +1,6 @@
 #pragma once
 
-#include "headless/HeadlessGame.h"
+#include "monkey/Body.h"
 #include "monkey/Event.h"
 #include "platform/fakes/MemoryJournal.h"
 
@@ -12,34 +12,41 @@ namespace veyrand::test {
 // each, whatever was done.
 class CagedGame {
 public:
-    explicit CagedGame(const Cage& cage);
+    explicit CagedGame(const Cage& cage, MakeBody makeBody = bodyWithoutWindow);
 
     // What no longer holds, in words; empty while all does. An event that finds nothing to be done
     // to, as a key that is not on the board, does nothing.
     [[nodiscard]] std::string perform(const Event& event);
+    // The same for whoever has had enough: every page, note, sheet and question has a way out.
+    [[nodiscard]] std::string findWayOut();
 
-    [[nodiscard]] headless::HeadlessGame& game() { return *m_game; }
+    [[nodiscard]] headless::HeadlessGame& game() { return m_body->game(); }
+    // What can be pressed now, by its key: things on the board, and what a sheet before it offers.
+    [[nodiscard]] std::vector<std::string> keys();
+    // How often rows, buttons and chips were looked at while nothing moved.
+    [[nodiscard]] unsigned long rests() const { return m_rests; }
+    [[nodiscard]] unsigned long solved() const { return m_solved; } // puzzles
 
 private:
     void launch();
     void act(const Event& event);
+    void actAt(const Event& event, platform::Point place);
+    void press(platform::Point place);
+    void set(const std::string& item, int value);
     [[nodiscard]] std::optional<platform::Point> placeOf(
         const std::string& key, platform::Point place);
     [[nodiscard]] std::string restart();
 
-    [[nodiscard]] std::string faultNow();
-    [[nodiscard]] std::string faultOfLayers();
-    [[nodiscard]] std::string faultOfPurse();
-    [[nodiscard]] std::string faultOfJournals() const;
-    [[nodiscard]] std::string faultAtRest();
-    [[nodiscard]] bool isAtRest();
-
+    MakeBody m_makeBody;
     std::uint32_t m_seed;
     platform::MemoryPreferences m_preferences;
     platform::MemoryJournal m_journal;
-    std::unique_ptr<headless::HeadlessGame> m_game;
+    std::unique_ptr<Body> m_body;
     bool m_isHeld = false; // the button
     unsigned long m_events = 0;
+    unsigned long m_rests = 0;
+    unsigned long m_solved = 0;
+    std::string m_faultOfPage; // of the last press
 };
 
 } // namespace veyrand::test

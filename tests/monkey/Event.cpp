@@ -21,53 +21,69 @@ std::string placed(const std::string& key, platform::Point place)
     return text.str();
 }
 
-std::string callOf(const Event& event)
+// A call of the game, or a comment.
+std::string lineOf(const Event& event)
 {
     using Kind = Event::Kind;
     const std::string target = placed(event.key, event.place);
-    std::ostringstream call;
+    const std::string there = placed(event.text, event.there);
+    const auto call = [](const std::string& name, const std::string& arguments) {
+        return "game." + name + '(' + arguments + ");";
+    };
+    const auto numbers = [](std::initializer_list<double> values) {
+        std::ostringstream text;
+        for (const double value : values) {
+            text << (text.tellp() == 0 ? "" : ", ") << value;
+        }
+        return text.str();
+    };
     switch (event.kind) {
     case Kind::Move:
-        call << "move(" << target << ')';
-        break;
+        return call("move", target);
     case Kind::Press:
-        call << "press(" << target << ')';
-        break;
+        return call("press", target);
     case Kind::Release:
-        call << "release(" << target << ')';
-        break;
+        return call("release", target);
+    case Kind::LoseRelease:
+        return "// the release is lost";
+    case Kind::Leave:
+        return "// the pointer leaves";
     case Kind::Click:
-        call << "click(" << target << ')';
-        break;
+        return call("click", target);
     case Kind::Drag:
-        call << "drag(" << target << ", " << placed(event.text, event.there) << ')';
-        break;
+        return call("drag", target + ", " + there);
+    case Kind::RightClick:
+        return call("rightClick", target);
     case Kind::Touch:
-        call << "touch(" << target << ')';
-        break;
+        return call("touch", target);
+    case Kind::TouchDrag:
+        return call("touchDrag", target + ", " + there);
+    case Kind::LongPress:
+        return call("longPress", target);
     case Kind::Key:
-        call << "key(" << quoted(event.text) << ')';
-        break;
+        return call("key", quoted(event.text));
     case Kind::Menu:
-        call << "menu(" << quoted(event.text) << ')';
-        break;
+        return call("menu", quoted(event.text));
+    case Kind::Setting:
+        return "// the setting " + quoted(event.text) + " becomes " + std::to_string(event.number);
+    case Kind::Copy:
+        return call("clipboard", quoted(event.text));
+    case Kind::Open:
+        return call("open", quoted(event.text));
+    case Kind::Today:
+        return call("today", quoted(event.text));
     case Kind::Answer:
-        call << "answer(" << quoted(event.text) << ')';
-        break;
+        return call("answer", quoted(event.text));
     case Kind::Resize:
-        call << "resize(" << event.there.x << ", " << event.there.y << ')';
-        break;
+        return call("resize", numbers({ event.there.x, event.there.y }));
     case Kind::Wait:
-        call << "wait(" << event.seconds << ')';
-        break;
+        return call("wait", numbers({ event.seconds }));
     case Kind::Quit:
-        call << "quit();\ngame.restart()";
-        break;
+        return "game.quit();\ngame.restart();";
     case Kind::Kill:
-        call << "kill();\ngame.restart()";
-        break;
+        return "game.kill();\ngame.restart();";
     }
-    return call.str();
+    return {};
 }
 
 } // namespace
@@ -84,7 +100,7 @@ std::string scenarioOf(const Cage& cage, const std::vector<Event>& events, const
          << ",\n        TRNEndlessParKey: " << cage.endlessPar
          << ", TRNFirstHintClickKey: " << cage.knowsHints << " } });\n";
     for (const Event& event : events) {
-        text << "game." << callOf(event) << ";\n";
+        text << lineOf(event) << '\n';
     }
     return text.str();
 }

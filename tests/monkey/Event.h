@@ -15,11 +15,20 @@ struct Event {
         Move,
         Press,
         Release,
+        LoseRelease, // the release of a press will not come
+        Leave, // the pointer leaves the view
         Click,
         Drag, // to `text`, a key, or to `there`
+        RightClick,
         Touch,
+        TouchDrag, // as Drag
+        LongPress,
         Key, // `text`
         Menu, // `text`
+        Setting, // the item `text` of the settings window, to `number`
+        Copy, // `text`, to the clipboard
+        Open, // the code `text`
+        Today, // `text`, by the calendar
         Answer, // the box's button `text`
         Resize, // to `there`, in points
         Wait, // so long
@@ -32,6 +41,7 @@ struct Event {
     std::string text {};
     platform::Point there {};
     double seconds = 0.0;
+    int number = 0;
 };
 
 // How the game is set when the monkey gets at it.
@@ -46,7 +56,8 @@ struct Cage {
     std::string tempo = "normal";
 };
 
-// The events as a scenario, which shows what came of them.
+// The events as a scenario, which shows what came of them. What scenarios have no word for stands
+// in it as a comment.
 [[nodiscard]] std::string scenarioOf(
     const Cage& cage, const std::vector<Event>& events, const std::string& fault);
 

@@ -1,9 +1,13 @@
 #include "monkey/Monkey.h"
 
 #include "board/BoardGeometry.h"
+#include "controller/SettingsTable.h"
+#include "engine/HintHelper.h"
+#include "play/Decide.h"
 
 #include <algorithm>
 #include <array>
+#include <random>
 
 namespace veyrand::test {
 
@@ -11,14 +15,37 @@ using Kind = Event::Kind;
 
 namespace {
 
-Cage cageFor(std::uint32_t number)
+// What a fresh game makes of the events: the fault, and how many of them it took.
+std::optional<Finding> replayed(
+    const Cage& cage, const std::vector<Event>& events, const MakeBody& makeBody)
 {
-    std::mt19937 random(number);
-    const auto below = [&random](unsigned bound) { return static_cast<int>(random() % bound); };
+    CagedGame game(cage, makeBody);
+    for (std::size_t done = 0; done < events.size(); ++done) {
+        if (std::string fault = game.perform(events[done]); !fault.empty()) {
+            return Finding { std::move(fault),
+                { events.begin(), events.begin() + static_cast<std::ptrdiff_t>(done) + 1 } };
+        }
+    }
+    if (std::string fault = game.findWayOut(); !fault.empty()) {
+        return Finding { std::move(fault), events };
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Dice diceOf(std::uint32_t number)
+{
+    return [random = std::mt19937(number)]() mutable { return random(); };
+}
+
+Cage cageFrom(const Dice& dice)
+{
+    const auto below = [&dice](unsigned bound) { return static_cast<int>(dice() % bound); };
     static constexpr std::array<const char*, 4> kTempos { "normal", "normal", "fast", "off" };
     Cage cage;
-    cage.seed = number;
-    cage.level = 1 + below(11);
+    cage.seed = dice();
+    cage.level = 1 + below(below(2) == 0 ? 3 : 11);
     cage.stage = 1 + below(10);
     cage.score = below(3) == 0 ? 0 : below(2000);
     cage.endlessScore = below(3) == 0 ? 0 : below(2000);
@@ -28,25 +55,10 @@ Cage cageFor(std::uint32_t number)
     return cage;
 }
 
-// What a fresh game makes of the events: the fault, and how many of them it took.
-std::optional<Finding> replayed(const Cage& cage, const std::vector<Event>& events)
-{
-    CagedGame game(cage);
-    for (std::size_t done = 0; done < events.size(); ++done) {
-        if (std::string fault = game.perform(events[done]); !fault.empty()) {
-            return Finding { std::move(fault),
-                { events.begin(), events.begin() + static_cast<std::ptrdiff_t>(done) + 1 } };
-        }
-    }
-    return std::nullopt;
-}
-
-} // namespace
-
-Monkey::Monkey(std::uint32_t number)
-    : m_random(number)
-    , m_cage(cageFor(number))
-    , m_game(m_cage)
+Monkey::Monkey(Dice dice, MakeBody makeBody)
+    : m_dice(std::move(dice))
+    , m_cage(cageFrom(m_dice))
+    , m_game(m_cage, std::move(makeBody))
 {
 }
 
@@ -59,14 +71,14 @@ std::optional<Finding> Monkey::play(int events)
             return Finding { std::move(fault), std::move(done) };
         }
     }
+    if (std::string fault = m_game.findWayOut(); !fault.empty()) {
+        return Finding { std::move(fault), std::move(done) };
+    }
     return std::nullopt;
 }
 
 Event Monkey::next()
 {
-    static constexpr std::array<const char*, 16> kKeys { "Ctrl+Z", "Ctrl+Z", "Ctrl+Shift+Z",
-        "Ctrl+Y", "Esc", "F11", "F1", "F2", "Ctrl+N", "Ctrl+E", "Tab", "Left", "Right", "Return",
-        "Space", "Delete" };
     if (m_game.game().alerts().isOpen()) {
         const platform::Alert& alert = m_game.game().alerts().alert();
         return { .kind = Kind::Answer,
@@ -74,19 +86,11 @@ Event Monkey::next()
                                                                    : alert.alternateButton };
     }
     const unsigned choice = below(1000);
-    if (choice < 3) {
-        return { .kind = choice == 0 ? Kind::Quit : Kind::Kill };
+    if (choice < 30) {
+        return seldom(choice);
     }
-    if (choice < 10) {
-        const auto items = m_game.game().menu().items();
-        return { .kind = Kind::Menu, .text = items[below(items.size())] };
-    }
-    if (choice < 14) {
-        return { .kind = Kind::Resize,
-            .there = { .x = 200.0 + below(2000), .y = 200.0 + below(1200) } };
-    }
-    if (choice < 120) {
-        return { .kind = Kind::Key, .text = kKeys.at(below(kKeys.size())) };
+    if (choice < 130) {
+        return key();
     }
     if (choice < 350) {
         return waiting();
@@ -94,37 +98,119 @@ Event Monkey::next()
     return choice < 600 ? move() : anyGesture();
 }
 
-// Most often for no longer than an animation takes, and now and then until everything rests.
+// What would leave no time for anything else if it came often. The number is below 30.
+Event Monkey::seldom(unsigned choice)
+{
+    static constexpr std::array<const char*, 6> kTexts { "1C9B4", "veyrand:1C9B4", "no code", "",
+        "2222-2222-2222", "\xff\xfe" };
+    static constexpr std::array<const char*, 4> kDays { "2026-11-21", "2026-11-22", "2026-11-20",
+        "2030-02-28" };
+    if (choice < 3) {
+        return { .kind = choice == 0 ? Kind::Quit : Kind::Kill };
+    }
+    if (choice < 12) {
+        const auto items = m_game.game().menu().items();
+        return { .kind = Kind::Menu, .text = items[below(items.size())] };
+    }
+    if (choice < 17) {
+        return { .kind = Kind::Resize,
+            .there = { .x = 200.0 + below(1200), .y = 200.0 + below(800) } };
+    }
+    if (choice < 20) {
+        return setting();
+    }
+    if (choice < 24) {
+        return { .kind = choice < 22 ? Kind::LoseRelease : Kind::Leave };
+    }
+    if (choice < 26) {
+        return { .kind = Kind::Copy, .text = kTexts.at(below(kTexts.size())) };
+    }
+    if (choice < 28) {
+        return { .kind = Kind::Open, .text = kTexts.at(below(kTexts.size())) };
+    }
+    return { .kind = Kind::Today, .text = kDays.at(below(kDays.size())) };
+}
+
+Event Monkey::setting()
+{
+    const auto items = controller::settingItems();
+    const controller::SettingItem& item = items[below(items.size())];
+    const auto choices = static_cast<unsigned>(std::count_if(item.choices.begin(),
+        item.choices.end(), [](const char* text) { return text != nullptr; }));
+    const unsigned most = item.kind == controller::SettingItem::Kind::Switch ? 2
+        : item.kind == controller::SettingItem::Kind::Volume                 ? 101
+                                                                             : choices;
+    return { .kind = Kind::Setting, .text = item.text, .number = static_cast<int>(below(most)) };
+}
+
+Event Monkey::key()
+{
+    static constexpr std::array<const char*, 32> kKeys { "Ctrl+Z", "Ctrl+Z", "Ctrl+Shift+Z",
+        "Ctrl+Y", "Esc", "F11", "F1", "F2", "Ctrl+N", "Ctrl+E", "Ctrl+P", "Ctrl+V", "Ctrl+C", "Tab",
+        "Shift+Tab", "Left", "Right", "Up", "Down", "Home", "End", "PgUp", "Return", "Space",
+        "Ctrl+Right", "Delete", "Backspace", "H", "M", "7", "0", "?" };
+    return { .kind = Kind::Key, .text = kKeys.at(below(kKeys.size())) };
+}
+
+// Most often for no longer than an animation takes, now and then until everything rests, and once
+// in a while for a day: the lid was closed in the middle of something.
 Event Monkey::waiting()
 {
-    const unsigned choice = below(10);
-    const double seconds = choice == 0 ? 10.0 : choice < 4 ? 2.5 : below(100) / 100.0;
+    constexpr double kDay = 86'400.0;
+    const unsigned choice = below(400);
+    const double seconds = choice == 0 ? kDay
+        : choice < 60                  ? 10.0
+        : choice < 160                 ? 2.5
+                                       : below(100) / 100.0;
     return { .kind = Kind::Wait, .seconds = seconds };
 }
 
-// One of the gestures that are moves now, made at the last line's chips.
+// One of the gestures that are moves now, made at the last line's chips; and sometimes one that
+// leads to the goal, for chance alone seldom solves a puzzle.
 Event Monkey::move()
 {
     const auto gestures = m_game.game().controller().actions();
     if (gestures.empty()) {
         return anyGesture();
     }
-    const play::Gesture& gesture = gestures[below(gestures.size())];
-    if (const auto* const drag = std::get_if<play::Drag>(&gesture)) {
+    const unsigned choice = below(4 * gestures.size());
+    std::optional<play::Gesture> gesture = gestures[choice % gestures.size()];
+    if (choice < gestures.size()) {
+        const auto best = bestMove();
+        gesture = best ? best : gesture;
+    }
+    if (const auto* const drag = std::get_if<play::Drag>(&*gesture)) {
         return { .kind = Kind::Drag,
             .key = board::generateKeyChipKey(drag->from, drag->fromRow),
             .text = board::generateKeyChipKey(drag->to, drag->toRow) };
     }
-    const auto* const click = std::get_if<play::Click>(&gesture);
+    const auto* const click = std::get_if<play::Click>(&*gesture);
     return click == nullptr ? anyGesture()
                             : Event { .kind = Kind::Click,
                                   .key = board::generateKeyChipKey(click->column, click->row) };
 }
 
+// Nothing where the goal is out of reach, or takes long to search for.
+std::optional<play::Gesture> Monkey::bestMove()
+{
+    constexpr int kMostSearched = 5; // lines to the goal
+    const auto proof = m_game.game().controller().proof();
+    if (!proof || m_game.game().currentGame().par() > kMostSearched) {
+        return std::nullopt;
+    }
+    const auto next = engine::HintHelper(proof).nextTheorem();
+    return next ? play::gestureFor({ .lines = proof->lines(),
+                                       .goal = proof->goal(),
+                                       .open = m_game.game().currentGame().highestRule() },
+               next->theorem())
+                : std::nullopt;
+}
+
 Event Monkey::anyGesture()
 {
-    static constexpr std::array kKinds { Kind::Click, Kind::Click, Kind::Click, Kind::Move,
-        Kind::Press, Kind::Release, Kind::Release, Kind::Drag, Kind::Drag, Kind::Touch };
+    static constexpr std::array kKinds { Kind::Click, Kind::Click, Kind::Click, Kind::Click,
+        Kind::Click, Kind::Move, Kind::Press, Kind::Release, Kind::Release, Kind::Drag, Kind::Drag,
+        Kind::Drag, Kind::Touch, Kind::TouchDrag, Kind::LongPress, Kind::RightClick };
     return pressSomewhere(kKinds.at(below(kKinds.size())));
 }
 
@@ -136,7 +222,7 @@ Event Monkey::pressSomewhere(Kind kind)
     } else {
         event.key = anyKey();
     }
-    if (kind == Kind::Drag) {
+    if (kind == Kind::Drag || kind == Kind::TouchDrag) {
         event.text = below(4) == 0 ? "" : anyKey();
         event.there = anyPlace();
     }
@@ -146,7 +232,7 @@ Event Monkey::pressSomewhere(Kind kind)
 // More often what can be pressed than what cannot.
 std::string Monkey::anyKey()
 {
-    const auto keys = m_game.game().gameData().gameObjects().keys();
+    const auto keys = m_game.keys();
     if (keys.empty()) {
         return {};
     }
@@ -162,7 +248,7 @@ platform::Point Monkey::anyPlace()
     return { .x = below(1600) / 1000.0, .y = below(1000) / 1000.0 };
 }
 
-Finding shrunk(const Cage& cage, Finding finding)
+Finding shrunk(const Cage& cage, Finding finding, const MakeBody& makeBody)
 {
     for (std::size_t piece = std::max<std::size_t>(finding.events.size() / 2, 1); piece > 0;
          piece /= 2) {
@@ -172,7 +258,7 @@ Finding shrunk(const Cage& cage, Finding finding)
                 + static_cast<std::ptrdiff_t>(std::min(at + piece, finding.events.size()));
             std::vector<Event> fewer(finding.events.begin(), from);
             fewer.insert(fewer.end(), to, finding.events.end());
-            if (auto still = replayed(cage, fewer)) {
+            if (auto still = replayed(cage, fewer, makeBody)) {
                 finding = *std::move(still);
             } else {
                 at += piece;

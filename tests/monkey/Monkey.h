@@ -2,8 +2,8 @@
 
 #include "monkey/CagedGame.h"
 
+#include <functional>
 #include <optional>
-#include <random>
 #include <vector>
 
 namespace veyrand::test {
@@ -14,35 +14,48 @@ struct Finding {
     std::vector<Event> events; // that lead to it
 };
 
+// What decides what a monkey does: the next number each time.
+using Dice = std::function<std::uint32_t()>;
+
+// The same number makes the same dice.
+[[nodiscard]] Dice diceOf(std::uint32_t number);
+[[nodiscard]] Cage cageFrom(const Dice& dice);
+
 // Presses, drags, types and waits without sense or mercy, and now and then plays a move, so that
-// it sees more than refusals. The same number does the same.
+// it sees more than refusals. The same dice do the same.
 class Monkey {
 public:
-    explicit Monkey(std::uint32_t number);
+    Monkey(Dice dice, MakeBody makeBody = bodyWithoutWindow);
 
-    // So many events, or fewer where something is found.
+    // So many events and the way out, or fewer where something is found.
     [[nodiscard]] std::optional<Finding> play(int events);
     [[nodiscard]] const Cage& cage() const { return m_cage; }
+    [[nodiscard]] const CagedGame& game() const { return m_game; }
 
 private:
     [[nodiscard]] Event next();
+    [[nodiscard]] Event seldom(unsigned choice);
     [[nodiscard]] Event anyGesture();
     [[nodiscard]] Event move();
+    [[nodiscard]] std::optional<play::Gesture> bestMove();
     [[nodiscard]] Event waiting();
+    [[nodiscard]] Event setting();
+    [[nodiscard]] Event key();
     [[nodiscard]] Event pressSomewhere(Event::Kind kind);
     [[nodiscard]] std::string anyKey();
     [[nodiscard]] platform::Point anyPlace();
     [[nodiscard]] unsigned below(std::size_t bound)
     {
-        return static_cast<unsigned>(m_random() % bound);
+        return static_cast<unsigned>(m_dice() % bound);
     }
 
-    std::mt19937 m_random;
+    Dice m_dice;
     Cage m_cage;
     CagedGame m_game;
 };
 
 // As few of the events as still lead to a fault.
-[[nodiscard]] Finding shrunk(const Cage& cage, Finding finding);
+[[nodiscard]] Finding shrunk(
+    const Cage& cage, Finding finding, const MakeBody& makeBody = bodyWithoutWindow);
 
 } // namespace veyrand::test

@@ -1,0 +1,110 @@
+#include "app/VirtualGame.h"
+#include "monkey/Cages.h"
+#include "support/Places.h"
+#include "support/QtEnvironment.h"
+#include "support/ScratchFolder.h"
+
+#include <QImage>
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace veyrand::test {
+
+namespace {
+
+// Every so many events the picture is painted in full as well, and must be the one that was kept
+// up to date.
+constexpr unsigned long kComparing = 25;
+
+// The window's own content, which gets real events and paints after each what has changed.
+class PaintedBody final : public Body {
+public:
+    PaintedBody(const Launch& launch, const std::string& data)
+        : m_game({ .screen = { .width = 640, .height = 400 },
+            .window = { 480, 300 },
+            .seed = launch.seed,
+            .store = launch.store,
+            .journal = launch.journal,
+            .dataFolder = QString::fromStdString(data) })
+    {
+        m_game.launch();
+    }
+
+    [[nodiscard]] headless::HeadlessGame& game() override { return m_game.headless(); }
+
+    void move(platform::Point place) override { m_game.move(place); }
+    void press(platform::Point place) override { m_game.press(place); }
+    void release(platform::Point place) override { m_game.release(place); }
+    void rightClick(platform::Point place) override { m_game.rightClick(place); }
+    void touch(platform::Point place) override { m_game.touch(place); }
+    void touchDrag(platform::Point from, platform::Point to) override
+    {
+        m_game.touchDrag(from, to);
+    }
+    void longPress(platform::Point place) override { m_game.longPress(place); }
+    void key(const std::string& keys) override { m_game.key(QString::fromStdString(keys)); }
+    void menu(const std::string& item) override
+    {
+        m_game.menu().trigger(QString::fromStdString(item));
+    }
+    void resize(platform::Size size) override
+    {
+        // A third of what monkeys think of: painting takes its time.
+        m_game.resize({ static_cast<int>(size.width / 3.0), static_cast<int>(size.height / 3.0) });
+    }
+
+    [[nodiscard]] std::string faultOfPicture() override
+    {
+        auto& widget = m_game.widget();
+        if (m_kept.size() != widget.size()) {
+            m_kept = m_game.picture();
+            return {};
+        }
+        if (const QRegion damage = widget.nextFrame(); !damage.isEmpty()) {
+            widget.render(&m_kept, damage.boundingRect().topLeft(), damage);
+        }
+        if (++m_frames % kComparing != 0) {
+            return {};
+        }
+        QImage full(widget.size(), QImage::Format_RGB32);
+        widget.render(&full);
+        return full == m_kept ? std::string() : "something that has changed was not painted anew";
+    }
+
+private:
+    app::VirtualGame m_game;
+    QImage m_kept;
+    unsigned long m_frames = 0;
+};
+
+MakeBody paintedBodies(const std::string& data)
+{
+    return
+        [data](const Body::Launch& launch) { return std::make_unique<PaintedBody>(launch, data); };
+}
+
+} // namespace
+
+TEST(PaintedMonkeys, FindNothing)
+{
+    constexpr long kEvents = 1'500;
+    letMonkeysPlay(kEvents, paintedBodies(dataFolder()));
+}
+
+// A disk that is damaged, or a package that was put together badly.
+TEST(PaintedMonkeys, FindNothingWhereNoPictureIs)
+{
+    namespace fs = std::filesystem;
+    const ScratchFolder folder;
+    for (const auto& entry : fs::directory_iterator(dataFolder())) {
+        if (entry.path().filename() != "images") {
+            fs::create_symlink(entry.path(), folder.at(entry.path().filename().string()));
+        }
+    }
+    Monkey monkey(diceOf(1), paintedBodies(folder.path()));
+    const auto finding = monkey.play(200);
+    EXPECT_FALSE(finding.has_value()) << finding->fault;
+}
+
+} // namespace veyrand::test
