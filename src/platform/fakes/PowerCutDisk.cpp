@@ -96,6 +96,13 @@ std::string PowerCutDisk::rename(const std::string& from, const std::string& to)
     return {};
 }
 
+void PowerCutDisk::link(const std::string& path, const std::string& other)
+{
+    if (const auto found = m_names.find(path); found != m_names.end()) {
+        change({ {}, other, found->second });
+    }
+}
+
 std::string PowerCutDisk::remove(const std::string& path)
 {
     if (m_names.contains(path)) {

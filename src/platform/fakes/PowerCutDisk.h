@@ -34,6 +34,8 @@ public:
     [[nodiscard]] std::string syncFile(const std::string& path) override;
     [[nodiscard]] std::string syncFolder(const std::string& path) override;
 
+    // Another name for the file, beside its own; what stood under that is gone.
+    void link(const std::string& path, const std::string& other);
     // Room for so many bytes more; the write that finds none leaves what there was room for.
     void leaveRoomFor(std::size_t bytes) { m_room = bytes; }
 
