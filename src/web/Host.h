@@ -31,6 +31,11 @@ void veyrand_host_store(const char* name, const char* text); // null: nothing un
 void veyrand_host_full_screen(int on);
 void veyrand_host_alert(const char* json); // then veyrand_answer
 void veyrand_host_menu(const char* item); // what a menu item leaves to the page
+// A file for the player, and one of his, of so many bytes at most: then veyrand_file_chosen.
+void veyrand_host_save_file(const char* name, const char* text);
+void veyrand_host_open_file(double mostBytes);
+void veyrand_host_tree(const char* json); // what a screen reader finds: see WebReader
+void veyrand_host_announce(const char* sentence); // to whoever does not see the board
 void veyrand_host_quit();
 void veyrand_host_report(const char* words); // for the player
 void veyrand_host_damaged(const char* name); // the preferences, which are kept under the name

@@ -61,9 +61,11 @@ WebGame::Parts::Parts(WebGame& own)
                .desktopLanguages = own.m_languages,
                .motionWish = &own.m_motionWish,
                .calendar = &own.m_calendar,
-               .clipboard = &own.m_clipboard },
+               .clipboard = &own.m_clipboard,
+               .exchange = &own.m_exchange },
           currentGame, gameData)
     , view(game, own.m_pointer)
+    , reader(game, own.m_runLoop)
 {
 }
 
@@ -90,6 +92,10 @@ std::string WebGame::start(platform::Size view)
         m_parts->view.forgetPainted();
     });
     veyrand_host_language(m_parts->game.texts().code().c_str());
+    m_parts->view.setFrameListener([this] {
+        m_parts->reader.setViewHeight(m_parts->view.size().height);
+        m_parts->reader.look();
+    });
     m_parts->view.resize(view);
     controller()->awake(view);
     controller()->kept().setReporter(
@@ -125,7 +131,8 @@ std::string WebGame::menu()
             entries.push_back({ { "number", i }, { "kind", kindOf(item) },
                 { "text", said(m_menu.textOf(item)) }, { "keys", item.keys.front() },
                 { "on", isOn }, { "enabled", m_menu.mayChoose(item) },
-                { "fullScreen", item.id == MenuItemId::FullScreen } });
+                { "fullScreen", item.id == MenuItemId::FullScreen },
+                { "import", item.id == MenuItemId::Import } });
         }
         menus.push_back({ { "title", said(title.text) }, { "items", entries } });
     }

@@ -2,8 +2,10 @@
 
 #include "controller/Game.h"
 #include "controller/MenuChoices.h"
+#include "web/WebExchange.h"
 #include "web/WebPorts.h"
 #include "web/WebPreferences.h"
+#include "web/WebReader.h"
 #include "web/WebRunLoop.h"
 #include "web/WebStore.h"
 #include "web/WebView.h"
@@ -25,6 +27,11 @@ public:
     [[nodiscard]] WebScreen& screen() { return m_screen; }
     [[nodiscard]] WebAlerts& alerts() { return m_alerts; }
     [[nodiscard]] WebWindow& window() { return m_window; }
+    [[nodiscard]] WebExchange& exchange() { return m_exchange; }
+    [[nodiscard]] WebReader* reader()
+    {
+        return m_parts ? &m_parts->reader : nullptr;
+    } // as the view
     [[nodiscard]] WebClipboard& clipboard() { return m_clipboard; }
     [[nodiscard]] WebMotionWish& motionWish() { return m_motionWish; }
     // As the browser lists them, the dearest first.
@@ -65,6 +72,7 @@ private:
         board::GameData gameData;
         controller::Game game;
         WebView view;
+        WebReader reader;
     };
 
     WebRunLoop m_runLoop;
@@ -84,6 +92,7 @@ private:
     WebMotionWish m_motionWish;
     WebWindow m_window;
     WebAlerts m_alerts;
+    WebExchange m_exchange;
     controller::MenuChoices m_menu;
     std::vector<std::string> m_languages;
     std::unique_ptr<Parts> m_parts;

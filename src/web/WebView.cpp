@@ -81,6 +81,9 @@ void WebView::showFrame()
         veyrand_host_paint(m_items.data(), static_cast<int>(m_shown.size()), m_damage.data(),
             static_cast<int>(m_damage.size() / kRect));
     }
+    if (m_shownFrame) {
+        m_shownFrame();
+    }
     if (m_game.layers().scene().isAnimating()) {
         askForFrame();
     }

@@ -5,6 +5,7 @@
 #include "input/Touch.h"
 #include "platform/TrackedPointer.h"
 
+#include <functional>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -24,6 +25,8 @@ public:
     void resize(platform::Size size);
     // To be called for the frame asked for.
     void showFrame();
+    // Called after each frame.
+    void setFrameListener(std::function<void()> shown) { m_shownFrame = std::move(shown); }
     // The page has lost what it had painted, or has pictures that it had not.
     void forgetPainted();
 
@@ -59,6 +62,7 @@ private:
     std::unordered_map<std::string, double> m_numbers; // what pictures and texts are called
     std::optional<platform::Point> m_dragged; // where the held button was last seen
     input::Cursor m_cursor = input::Cursor::Arrow;
+    std::function<void()> m_shownFrame;
     bool m_frameIsDue = false;
     bool m_paintsAll = true;
 };

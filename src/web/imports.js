@@ -29,6 +29,12 @@ mergeInto(LibraryManager.library, {
   veyrand_host_full_screen: function (on) { Module['host'].fullScreen(on !== 0); },
   veyrand_host_alert: function (json) { Module['host'].alert(UTF8ToString(json)); },
   veyrand_host_menu: function (item) { Module['host'].menu(UTF8ToString(item)); },
+  veyrand_host_save_file: function (name, text) {
+    Module['host'].saveFile(UTF8ToString(name), UTF8ToString(text));
+  },
+  veyrand_host_open_file: function (mostBytes) { Module['host'].openFile(mostBytes); },
+  veyrand_host_tree: function (json) { Module['host'].tree(UTF8ToString(json)); },
+  veyrand_host_announce: function (sentence) { Module['host'].announce(UTF8ToString(sentence)); },
   veyrand_host_quit: function () { Module['host'].quit(); },
   veyrand_host_report: function (words) { Module['host'].report(UTF8ToString(words)); },
   veyrand_host_damaged: function (name) { Module['host'].damaged(UTF8ToString(name)); },

@@ -243,6 +243,31 @@ EMSCRIPTEN_KEEPALIVE void veyrand_answer(int button, int isSuppressed)
     });
 }
 
+// 0 when the player has cancelled, 1 with a text and 2 with a fault.
+EMSCRIPTEN_KEEPALIVE void veyrand_file_chosen(
+    int kind, const char* name, const char* text, const char* fault)
+{
+    using Kind = veyrand::platform::FileExchange::Answer::Kind;
+    guarded([&] {
+        game().exchange().chosen({ .kind = kind == 0 ? Kind::Cancelled
+                : kind == 1                          ? Kind::Done
+                                                     : Kind::Failed,
+            .name = name,
+            .text = text,
+            .fault = fault });
+    });
+}
+
+// An action of a thing in the tree that the page has been told.
+EMSCRIPTEN_KEEPALIVE void veyrand_act(const char* id, const char* action)
+{
+    guarded([&] {
+        if (auto* const reader = game().reader()) {
+            reader->act(id, action);
+        }
+    });
+}
+
 EMSCRIPTEN_KEEPALIVE void veyrand_full_screen_changed(int on)
 {
     guarded([&] { game().fullScreenChanged(on != 0); });

@@ -216,18 +216,18 @@ def turned_in_a_move(play, ratio):
     play.page.finger('touchStart', (x, y))
     play.page.finger('touchMove', (x + 30, y))
     play.page.shape(390, 844, ratio, True)
-    play.page.until('veyrand.canvas.width < veyrand.canvas.height', 'the upright page')
+    play.page.until('document.body.dataset.held === "standing"', 'the upright page')
     play.page.finger('touchEnd')
     play.at_rest()
     assert play.state()['lines'] == before, 'turning the phone has made a move: %s' % play.state()['lines']
     play.tap('chip-0-0')
     play.page.shape(844, 390, ratio, True)
-    play.page.until('veyrand.canvas.width > veyrand.canvas.height', 'the lying page')
+    play.page.until('document.body.dataset.held === "lying"', 'the lying page')
     play.until('s.lines.length === 2', 'the move')
     play.at_rest()
     after = play.state()['lines']
     play.page.shape(390, 844, ratio, True)
-    play.page.until('veyrand.canvas.width < veyrand.canvas.height', 'the upright page')
+    play.page.until('document.body.dataset.held === "standing"', 'the upright page')
     play.tap('delete-1')
     play.lines(before)
     assert after[0] == before[0] and len(after) == 2, after

@@ -1,7 +1,11 @@
+import { openFile, saveFile } from './exchange.mjs';
+import { isForAWeek } from './keeping.mjs';
 import { MenuBar } from './menu.mjs';
 import { ask, askLine, end, mention, tell } from './notices.mjs';
 import { Painter } from './painter.mjs';
+import { Phone } from './phone.mjs';
 import { Letters, Pictures } from './pictures.mjs';
+import { Reader } from './reader.mjs';
 import { SettingsPanel } from './settings.mjs';
 import { Sounds } from './sounds.mjs';
 import { Store, isOnlyPage, wordsFor } from './store.mjs';
@@ -66,6 +70,10 @@ export class Game {
       fullScreen: (on) => this.setFullScreen(on),
       alert: (json) => this.showAlert(JSON.parse(json)),
       menu: (item) => this.chosen(item),
+      saveFile: (name, text) => saveFile(name, text),
+      openFile: (mostBytes) => this.openFile(mostBytes),
+      tree: (json) => this.told(JSON.parse(json)),
+      announce: (sentence) => this.reader.announce(sentence),
       quit: () => this.quit(),
       language: (code) => this.speak(code),
       report: (words) => tell(words),
@@ -127,6 +135,10 @@ export class Game {
     navigator.languages.forEach((code) => this.call('add_language', code));
     this.watchMotion();
     await this.loadStore();
+    this.reader = new Reader({ root: document.getElementById('reader'), spoken: document.getElementById('spoken'),
+      canvas: this.canvas, act: (id, action) => this.tell('act', id, action) });
+    this.phone = new Phone({ area: this.canvas.parentElement, canvas: this.canvas, wood: () => this.pictureUrl('WoodBackground'),
+      press: (action) => this.pressThumb(action) });
     const size = this.fit();
     const fault = this.askText('start', screen.width, screen.height, size.width, size.height);
     if (fault !== '') {
@@ -147,6 +159,9 @@ export class Game {
     });
     this.canvas.focus();
     this.openPuzzleOfAddress();
+    if (isForAWeek(navigator)) {
+      this.tellOfKeeping();
+    }
     requestAnimationFrame(() => setTimeout(() => this.fetchTheRest()));
   }
 
@@ -217,6 +232,7 @@ export class Game {
         { reason: wordsFor(error) }));
       return;
     }
+    this.hasFoundNothing = kept.texts.size === 0 && !kept.isLater;
     for (const [name, text] of kept.texts) {
       if (typeof text === 'string') {
         this.call('load', name, text);
@@ -368,6 +384,50 @@ export class Game {
     }
   }
 
+  async openFile(mostBytes) {
+    this.letGo();
+    const file = await openFile(mostBytes, { tooLarge: say('it is larger than 1 MB'),
+      unreadable: say('the browser cannot read it') });
+    this.canvas.focus();
+    const kind = file === null ? 0 : file.fault === undefined ? 1 : 2;
+    this.tell('file_chosen', kind, file?.name ?? '', file?.text ?? '', file?.fault ?? '');
+  }
+
+  // What is on the board, for readers and for thumbs.
+  told(board) {
+    this.reader.show(board);
+    this.phone.show(Object.fromEntries(Object.entries(thumbs).map(([action, { id }]) =>
+      [action, id ? board.tree.children.find((node) => node.id === id && node.actions.length > 0)?.name : board[action]])));
+  }
+
+  pressThumb(action) {
+    const { id, keys } = thumbs[action];
+    if (id) {
+      this.tell('act', id, 'press');
+    } else {
+      this.tell('key', keys, 0);
+    }
+  }
+
+  // Where the browser throws away what a page has kept, the player is told before he has lost anything,
+  // and not left to wonder where it is when he has.
+  async tellOfKeeping() {
+    if (!this.hasFoundNothing) {
+      mention(say('This browser deletes what is kept here when it was not visited for seven days: Game > Export keeps it in a file.'));
+      return;
+    }
+    const chosen = await ask({ title: say('Nothing of yours is here'), text: [
+      say('This browser deletes what a page has kept when it was not visited for seven days. A game on the home screen is ' +
+        'kept: Share, then Add to Home Screen.'),
+      say('Game > Export keeps all that you have in a file. If you have one, it can be brought in now.')],
+      buttons: [say('Import'), say('Begin')] });
+    this.canvas.focus();
+    if (chosen.button === 0) {
+      const item = JSON.parse(this.askText('menu')).flatMap((menu) => menu.items).find((each) => each.import);
+      this.tell('choose', item.number);
+    }
+  }
+
   async showAlert(alert) {
     this.letGo();
     // The last one is what closing the box comes to.
@@ -430,5 +490,14 @@ function decodedPart(text) {
 export function daysTo(date) {
   return Math.round(Date.UTC(date.getFullYear(), date.getMonth(), date.getDate()) / 86_400_000);
 }
+
+// What a thumb can do: to a thing on the board, or by keys.
+const thumbs = {
+  undo: { keys: 'Ctrl+Z' },
+  redo: { keys: 'Ctrl+Shift+Z' },
+  hint: { id: 'button-lightbulbon' },
+  moves: { id: 'button-movesbuttonon' },
+  menu: { id: 'button-menubuttonon' },
+};
 
 const isModified = (event) => event.shiftKey || event.ctrlKey || event.altKey || event.metaKey;
