@@ -11,6 +11,9 @@ namespace veyrand::bench {
 // A hint on a full board that no line of leads to the goal, against the reference.
 void measureHint(Results& results);
 
+// What is proven of two lines while they are being put together.
+void measureVerdict(Results& results);
+
 // What telling a move costs while nobody listens, and what the accessible tree does.
 void measureSpeech(Results& results);
 

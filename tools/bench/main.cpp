@@ -32,6 +32,7 @@ int run(int argc, char** argv)
     }
     const bool same = measureSearch(results);
     measureHint(results);
+    measureVerdict(results);
     measureSpeech(results);
     measureDistances(results);
     if (!withoutGrowth) {
