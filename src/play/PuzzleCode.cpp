@@ -217,6 +217,7 @@ std::variant<CodedPuzzle, CodeFault> readCode(std::string_view text)
 std::string_view codeInLink(std::string_view text)
 {
     constexpr std::string_view kScheme = "VEYRAND:";
+    constexpr std::string_view kResult = "Veyrand ";
     const auto trim = [&text](const auto& isDropped) {
         while (!text.empty() && isDropped(text.front())) {
             text.remove_prefix(1);
@@ -226,6 +227,10 @@ std::string_view codeInLink(std::string_view text)
         }
     };
     trim(isGrouping);
+    if (text.starts_with(kResult) && text.find('\n') != std::string_view::npos) {
+        text.remove_prefix(text.rfind('\n'));
+        trim(isGrouping);
+    }
     bool isLink = text.size() >= kScheme.size();
     for (std::size_t i = 0; isLink && i < kScheme.size(); ++i) {
         isLink = capital(text[i]) == kScheme[i];

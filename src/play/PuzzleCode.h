@@ -45,8 +45,8 @@ inline constexpr std::size_t kLongestCode = 64;
 // Capitals and small letters are one. Blanks and hyphens group letters and say nothing.
 [[nodiscard]] std::variant<CodedPuzzle, CodeFault> readCode(std::string_view text);
 
-// What a link or a paste holds: the text without what surrounds it, be it blanks or the scheme
-// "veyrand:" with or without slashes.
+// What a link or a paste holds: the text without what surrounds it, be it blanks, the scheme
+// "veyrand:" with or without slashes, or a result in words on the lines before.
 [[nodiscard]] std::string_view codeInLink(std::string_view text);
 
 // In words for the player.
