@@ -1,5 +1,6 @@
 #include "app/Gallery.h"
 
+#include "app/GalleryResults.h"
 #include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
@@ -68,6 +69,9 @@ constexpr std::array kScenes {
     Scene { "takingBackMessageWindow", 6, 2 },
     Scene { "keysMessageWindow", 6, 2 },
     Scene { "practiceMessageWindow", 6, 2 },
+    Scene { "dailyMessageWindow", 6, 2 },
+    Scene { "editorMessageWindow", 6, 2 },
+    Scene { "statisticsMessageWindow", 6, 2 },
     Scene { "allMovesMessageWindow", 3, 2 },
     Scene { "hintsInClassicMessageWindow", 3, 2 },
     Scene { "classicGameFinished", kLastLevel, 10, "chip-1-0" },
@@ -133,6 +137,7 @@ public:
         paintAnswers();
         paintRewards();
         paintEdges();
+        paintSheets();
         paintOtherStones();
         return m_complete;
     }
@@ -327,6 +332,35 @@ private:
         take("edges-tall");
         m_game.menu().trigger(QStringLiteral("Wood to the Edges"));
         m_game.resize(usual);
+    }
+
+    // The pages that lie over the board, of somebody who has played for a while.
+    void paintSheets()
+    {
+        controller::Sheets& sheets = m_game.controller().sheets();
+        save({ .picture = "", .level = 6, .stage = 7, .endlessScore = 0, .unlocked = true });
+        m_game.launch();
+        m_game.controller().flow().returnToMenu();
+        m_game.controller().book().join(resultsToShow(m_game.controller()));
+        const auto paint = [this](const char* picture) {
+            m_game.wait(kEverythingHasFadedIn);
+            take(picture);
+        };
+        sheets.openMap();
+        paint("sheet-map");
+        sheets.openDaily();
+        paint("sheet-daily");
+        m_game.controller().shelf().setDraft({ "YBRGG", "RBBR" });
+        sheets.openEditor();
+        paint("sheet-editor");
+        for (const char* const code : { "37T8649F2MEJ", "38RTWET", "33745HP64M4P" }) {
+            m_game.controller().shelf().add(code);
+        }
+        sheets.openMine();
+        paint("sheet-my-puzzles");
+        sheets.openStatistics();
+        paint("sheet-statistics");
+        sheets.close();
     }
 
     void click(const std::string& key)

@@ -76,6 +76,8 @@ void MapSheet::press(const std::string& key)
         m_controller.practice().openToday();
     } else if (key == "paste-code") {
         pasteCode();
+    } else if (key == "editor") {
+        m_controller.sheets().openEditor();
     } else if (key == "menu") {
         m_controller.sheets().close();
     }
@@ -227,6 +229,7 @@ void MapSheet::drawPanel(SheetDrawing& drawing) const
     drawing.button("daily", text("daily"), 422, 706, 232, 74);
     drawing.button("copy-code", text("copyCode"), 180, 792, 232, 66);
     drawing.button("paste-code", text("pasteCode"), 422, 792, 232, 66);
+    drawing.button("editor", m_controller.context().texts.text("editor.title"), 180, 872, 232, 66);
     drawing.button("menu", text("menu"), 422, 872, 232, 66);
 }
 

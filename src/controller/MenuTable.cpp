@@ -24,6 +24,11 @@ bool canStart(GameController& game)
     return game.canStartGame();
 }
 
+bool canOpenSheet(GameController& game)
+{
+    return game.sheets().canOpen();
+}
+
 bool canOpenPage(GameController& game)
 {
     return game.canOpenPage();
@@ -83,7 +88,28 @@ constexpr std::array kItems {
         .text = "&Puzzles\u2026",
         .keys = { "Ctrl+P" },
         .choose = [](GameController& game) { game.sheets().openMap(); },
-        .mayChoose = [](GameController& game) { return game.sheets().canOpen(); } },
+        .mayChoose = canOpenSheet },
+    MenuItem { .id = MenuItemId::Daily,
+        .menu = MenuId::Game,
+        .text = "&Daily\u2026",
+        .keys = { "Ctrl+D" },
+        .choose = [](GameController& game) { game.sheets().openDaily(); },
+        .mayChoose = canOpenSheet },
+    MenuItem { .id = MenuItemId::Editor,
+        .menu = MenuId::Game,
+        .text = "Edi&tor\u2026",
+        .choose = [](GameController& game) { game.sheets().openEditor(); },
+        .mayChoose = canOpenSheet },
+    MenuItem { .id = MenuItemId::MyPuzzles,
+        .menu = MenuId::Game,
+        .text = "&My Puzzles\u2026",
+        .choose = [](GameController& game) { game.sheets().openMine(); },
+        .mayChoose = canOpenSheet },
+    MenuItem { .id = MenuItemId::Statistics,
+        .menu = MenuId::Game,
+        .text = "&Statistics\u2026",
+        .choose = [](GameController& game) { game.sheets().openStatistics(); },
+        .mayChoose = canOpenSheet },
     MenuItem { .id = MenuItemId::BringBack,
         .menu = MenuId::Game,
         .text = "&Bring Back the Previous Game",
@@ -179,6 +205,15 @@ constexpr std::array kItems {
     page(
         MenuItemId::ExportHelp, "&Export and Import", {},
         [](GameController& game) { game.pages().show("exportMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::DailyHelp, "&Daily Puzzles", {},
+        [](GameController& game) { game.pages().show("dailyMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::EditorHelp, "Edit&or", {},
+        [](GameController& game) { game.pages().show("editorMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::StatisticsHelp, "Stat&istics", {},
+        [](GameController& game) { game.pages().show("statisticsMessageWindow"); }, canOpenPage),
     separator(MenuId::Help),
     MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
 };

@@ -21,6 +21,10 @@ enum class MenuItemId {
     Puzzles,
     Export,
     Import,
+    Daily,
+    Editor,
+    MyPuzzles,
+    Statistics,
     Quit,
     Undo,
     Redo,
@@ -37,6 +41,9 @@ enum class MenuItemId {
     BoardAnswers,
     Practice,
     ExportHelp,
+    DailyHelp,
+    EditorHelp,
+    StatisticsHelp,
     About,
 };
 

@@ -1,11 +1,11 @@
 #include "controller/Practice.h"
 
+#include "controller/DailySheet.h"
 #include "controller/GameController.h"
 #include "progress/PlayerRecord.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace veyrand::controller {
 
@@ -97,18 +97,6 @@ std::string Practice::wordsOf(const play::CodeFault& fault) const
     return texts.text("practice.codeSlip");
 }
 
-// "21 Nov".
-std::string Practice::shortName(const progress::CalendarDate& date) const
-{
-    std::istringstream months(m_game.texts.text("practice.months"));
-    std::string month;
-    for (int i = 0; i < date.month; ++i) {
-        months >> month;
-    }
-    return m_game.texts.text(
-        "practice.day", { { "day", std::to_string(date.day) }, { "month", month } });
-}
-
 void Practice::openOrTell(std::string_view code)
 {
     tell(open(code));
@@ -149,26 +137,46 @@ std::string Practice::openDaily(const progress::CalendarDate& date)
     if (date > m_controller.book().today()) {
         return m_game.texts.text("practice.toCome");
     }
-    return openPuzzle(*puzzle, progress::textOf(date), shortName(date));
+    return openPuzzle(*puzzle, progress::textOf(date), shortDate(m_game.texts, date));
 }
 
-std::string Practice::openPuzzle(
-    const play::CodedPuzzle& puzzle, std::string name, std::string caption)
+std::string Practice::whyNot(std::string_view code)
+{
+    const auto read = play::readCode(play::codeInLink(code));
+    if (const auto* const fault = std::get_if<play::CodeFault>(&read)) {
+        return wordsOf(*fault);
+    }
+    const auto ways = waysOf(std::get<play::CodedPuzzle>(read));
+    const auto* const fault = std::get_if<std::string>(&ways);
+    return fault != nullptr ? *fault : std::string();
+}
+
+std::variant<play::Ways, std::string> Practice::waysOf(const play::CodedPuzzle& puzzle)
 {
     const auto root = engine::PackedLine::pack(puzzle.root);
     const auto goal = engine::PackedLine::pack(puzzle.goal);
     if (!root || !goal || !play::hasOneYellowAtMost(*root)) {
         return m_game.texts.text("practice.badStart");
     }
-    const auto ways = m_search.find(*root, *goal);
+    auto ways = m_search.find(*root, *goal);
     if (!ways) {
         return m_game.texts.text("practice.unreachable");
+    }
+    return *std::move(ways);
+}
+
+std::string Practice::openPuzzle(
+    const play::CodedPuzzle& puzzle, std::string name, std::string caption)
+{
+    const auto found = waysOf(puzzle);
+    if (const auto* const fault = std::get_if<std::string>(&found)) {
+        return *fault;
     }
     askFirst([this,
                  wanted = Wanted { .puzzle = puzzle,
                      .name = std::move(name),
                      .caption = std::move(caption),
-                     .par = ways->moves(),
+                     .par = std::get<play::Ways>(found).moves(),
                      .open = progress::kMoveCount }] { start(wanted); });
     return {};
 }

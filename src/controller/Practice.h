@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace veyrand::controller {
 
@@ -31,12 +32,18 @@ public:
     // What is wrong with the code, in words; empty when its puzzle comes. One that is in play is
     // left only when the player says so.
     [[nodiscard]] std::string open(std::string_view code);
+    // The same, and nothing is played.
+    [[nodiscard]] std::string whyNot(std::string_view code);
     // The same, and what is wrong is told the player in a box: for links, pastes and the command
     // line.
     void openOrTell(std::string_view code);
     void openToday();
     // What keeps the puzzle of a day from being played, in words; empty when it comes.
     [[nodiscard]] std::string openDaily(const progress::CalendarDate& date);
+
+    // In a box, where there is something to tell.
+    void tell(const std::string& fault);
+    [[nodiscard]] std::string wordsOf(const play::CodeFault& fault) const;
 
     // Where the Classic game stands, by the record.
     [[nodiscard]] progress::Place standing() const;
@@ -69,14 +76,13 @@ private:
         int open = 0; // moves
     };
 
+    // The ways to solve it, or why it cannot be played, in words.
+    [[nodiscard]] std::variant<play::Ways, std::string> waysOf(const play::CodedPuzzle& puzzle);
     void askFirst(std::function<void()> start);
     void start(const Wanted& wanted);
     [[nodiscard]] std::string openPuzzle(
         const play::CodedPuzzle& puzzle, std::string name, std::string caption);
     void tellOfAllMoves();
-    void tell(const std::string& fault);
-    [[nodiscard]] std::string wordsOf(const play::CodeFault& fault) const;
-    [[nodiscard]] std::string shortName(const progress::CalendarDate& date) const;
 
     GameController& m_controller;
     GameContext& m_game;

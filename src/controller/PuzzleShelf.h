@@ -21,12 +21,17 @@ public:
     void join(const play::MyPuzzles& others);
     void replace(const play::MyPuzzles& others);
 
+    // What the editor holds, for as long as the game runs.
+    [[nodiscard]] const play::CodedPuzzle& draft() const { return m_draft; }
+    void setDraft(const play::CodedPuzzle& draft) { m_draft = draft; }
+
 private:
     void save();
 
     GameContext& m_game;
     KeptText m_file;
     play::MyPuzzles m_puzzles;
+    play::CodedPuzzle m_draft;
 };
 
 } // namespace veyrand::controller

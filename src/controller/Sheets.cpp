@@ -1,8 +1,12 @@
 #include "controller/Sheets.h"
 
 #include "board/Buttons.h"
+#include "controller/DailySheet.h"
+#include "controller/EditorSheet.h"
 #include "controller/GameController.h"
 #include "controller/MapSheet.h"
+#include "controller/MineSheet.h"
+#include "controller/StatisticsSheet.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,6 +63,26 @@ void Sheets::open(std::unique_ptr<Sheet> sheet)
 void Sheets::openMap()
 {
     open(std::make_unique<MapSheet>(m_controller));
+}
+
+void Sheets::openDaily()
+{
+    open(std::make_unique<DailySheet>(m_controller));
+}
+
+void Sheets::openStatistics()
+{
+    open(std::make_unique<StatisticsSheet>(m_controller));
+}
+
+void Sheets::openEditor()
+{
+    open(std::make_unique<EditorSheet>(m_controller));
+}
+
+void Sheets::openMine()
+{
+    open(std::make_unique<MineSheet>(m_controller));
 }
 
 void Sheets::close()
@@ -193,6 +217,11 @@ std::string Sheets::placeAt(platform::Point place) const
     const auto found = std::find_if(drawn.places().begin(), drawn.places().end(),
         [place](const SheetPlace& each) { return holds(each.rect, place); });
     return found != drawn.places().end() ? found->key : std::string();
+}
+
+bool Sheets::covers(platform::Point place) const
+{
+    return m_sheet || !placeAt(place).empty();
 }
 
 bool Sheets::pressed(platform::Point place)

@@ -42,6 +42,10 @@ public:
     // Whether one may be opened over what is on the screen now.
     [[nodiscard]] bool canOpen() const;
     void openMap();
+    void openDaily();
+    void openStatistics();
+    void openEditor();
+    void openMine();
 
     // What the sheet shows has changed.
     void changed();
@@ -56,6 +60,7 @@ public:
     // Over something that can be pressed.
     [[nodiscard]] bool isPointing() const { return !m_hovered.empty(); }
 
+    [[nodiscard]] bool covers(platform::Point place) const override;
     bool pressed(platform::Point place) override;
     void released(platform::Point place) override;
     bool hovered(platform::Point place) override;

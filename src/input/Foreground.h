@@ -14,6 +14,8 @@ public:
     Foreground& operator=(const Foreground&) = delete;
     virtual ~Foreground() = default;
 
+    // Whether a press there would be its own.
+    [[nodiscard]] virtual bool covers(platform::Point place) const = 0;
     // The button goes down; true when this is the foreground's, and so is what follows until it is
     // let go.
     virtual bool pressed(platform::Point place) = 0;

@@ -323,6 +323,11 @@ std::string GameView::keyHit(platform::Point location) const
     return layer != nullptr ? layer->gameObjectKey() : std::string();
 }
 
+bool GameView::isCovered(platform::Point location) const
+{
+    return m_foreground != nullptr && m_foreground->covers(onBoard(location));
+}
+
 platform::Point GameView::onBoard(platform::Point location) const
 {
     const platform::RectF board = m_layers.backgroundLayer().rectInRoot();

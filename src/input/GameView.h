@@ -40,6 +40,8 @@ public:
     void setOnlooker(Onlooker* onlooker) { m_onlooker = onlooker; }
     // What lies before the board; null for nothing.
     void setForeground(Foreground* foreground) { m_foreground = foreground; }
+    // Whether it would take a press there, in view points.
+    [[nodiscard]] bool isCovered(platform::Point location) const;
     // What the player has chosen; asked whenever it matters.
     void setHabits(std::function<Habits()> habits) { m_habits = std::move(habits); }
     // Called whenever the mouse or a finger is used.

@@ -47,7 +47,7 @@ std::optional<Point> Touch::centreOf(const std::string& key) const
 
 std::string Touch::keyReached(Point place) const
 {
-    if (m_view.overlay() == Overlay::Page) {
+    if (m_view.overlay() == Overlay::Page || m_view.isCovered(place)) {
         return {};
     }
     std::string best;

@@ -50,6 +50,9 @@ public:
     void place(const std::string& key, const std::string& text, double x, double y, double width,
         double height);
 
+    // What it is called, where its look has no words.
+    void nameLastPlace(const std::string& text) { m_places.back().text = text; }
+
     [[nodiscard]] bool isFocused(std::string_view key) const { return m_focus == key; }
     [[nodiscard]] const std::vector<ExtraPiece>& pieces() const { return m_pieces; }
     [[nodiscard]] const std::vector<SheetPlace>& places() const { return m_places; }

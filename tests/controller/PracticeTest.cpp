@@ -48,7 +48,9 @@ protected:
     {
         std::string all;
         for (const auto& [name, text] : m_journal.texts()) {
-            all += name.find("results") == std::string::npos ? name + '\n' + text : "";
+            const bool isBeside = name.find("results") != std::string::npos
+                || name.find("puzzles") != std::string::npos;
+            all += isBeside ? "" : name + '\n' + text;
         }
         const auto record
             = m_preferences.record(progress::playerRecordKey(progress::kDefaultPlayerName));
@@ -114,6 +116,45 @@ TEST_F(PracticeTest, LeavesBothGamesAsTheyAreToTheByte)
     EXPECT_EQ(kept(), before);
     EXPECT_EQ(game().book().results().all().size(), 2U);
     EXPECT_EQ(m_game->currentGame().practice().has_value(), false);
+}
+
+TEST_F(PracticeTest, LeavesBothGamesAsTheyAreOnEveryPageBesideThem)
+{
+    const std::string before = kept();
+    const auto key = [this](const char* keys) {
+        m_game->key(keys);
+        m_game->wait(1.0);
+    };
+    game().sheets().openEditor();
+    for (const char* const keys : { "R", "G", "Down", "Y", "R", "R", "G" }) {
+        key(keys);
+    }
+    game().sheets().choose("make");
+    m_game->wait(1.0);
+    game().sheets().choose("save");
+    game().sheets().choose("play");
+    m_game->wait(3.0);
+    EXPECT_TRUE(game().practice().isOn());
+    game().closePage();
+    m_game->wait(1.0);
+    solveByHints();
+    m_game->wait(8.0);
+    game().sheets().openMine();
+    game().sheets().choose("play");
+    m_game->wait(3.0);
+    game().flow().returnToMenu();
+    game().sheets().openDaily();
+    key("PgUp");
+    key("Ctrl+C");
+    game().sheets().choose("play");
+    m_game->wait(3.0);
+    game().flow().returnToMenu();
+    game().sheets().openStatistics();
+    key("Esc");
+    EXPECT_EQ(kept(), before);
+    launch();
+    EXPECT_EQ(kept(), before);
+    EXPECT_EQ(game().shelf().puzzles().all().size(), 1U);
 }
 
 TEST_F(PracticeTest, LeavesAPuzzleInPlayWhereItIsFoundAgain)

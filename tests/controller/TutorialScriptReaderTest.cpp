@@ -63,7 +63,7 @@ TEST(TutorialScriptReader, ReadsTheFilesOfTheGame)
     const desktop::qt::FileResources resources(QString::fromStdString(test::dataFolder()));
     const TutorialScript script = readTutorialScript(resources);
     EXPECT_EQ(script.errors, "");
-    EXPECT_EQ(script.pages.size(), 49U);
+    EXPECT_EQ(script.pages.size(), 52U);
     EXPECT_EQ(script.chains.size(), 12U);
     EXPECT_EQ(script.ranks.size(), 13U);
     EXPECT_EQ(script.gates.size(), 9U);

@@ -149,6 +149,13 @@ Json Scenario::daily(const Arguments& arguments)
     return {};
 }
 
+Json Scenario::edit(const Arguments& arguments)
+{
+    game().controller().shelf().setDraft({ arguments.text(0), arguments.text(1) });
+    game().controller().sheets().openEditor();
+    return {};
+}
+
 Json Scenario::today(const Arguments& arguments)
 {
     game().calendar().setToday(progress::dayNumber(dateOf(arguments.text(0))));

@@ -39,6 +39,7 @@ private:
     Json practice(const Arguments& arguments);
     Json open(const Arguments& arguments);
     Json daily(const Arguments& arguments);
+    Json edit(const Arguments& arguments);
     Json today(const Arguments& arguments);
     Json quit(const Arguments& arguments);
     Json kill(const Arguments& arguments);

@@ -338,7 +338,7 @@ const std::vector<Scenario::Operation>& Scenario::table()
     static const std::vector<Operation> kOperations { { "start", &Scenario::start },
         { "play", &Scenario::play }, { "show", &Scenario::show },
         { "practice", &Scenario::practice }, { "open", &Scenario::open },
-        { "daily", &Scenario::daily }, { "today", &Scenario::today },
+        { "daily", &Scenario::daily }, { "edit", &Scenario::edit }, { "today", &Scenario::today },
         { "statistics", &Scenario::statistics }, { "clipboard", &Scenario::clipboard },
         { "sheet", &Scenario::sheet }, { "quit", &Scenario::quit }, { "kill", &Scenario::kill },
         { "restart", &Scenario::restart }, { "wait", &Scenario::wait }, { "move", &Scenario::move },
