@@ -293,11 +293,15 @@ void GameFlow::harderButtonClick()
 
 void GameFlow::cleanUpProofForPar(int par)
 {
+    const int newPar = std::clamp(par, kEasiestPar, kHardestPar);
+    // A par that is chosen while the puzzle ends by itself, or has been left already, is none: were
+    // it saved, the record would no longer fit what is kept of the puzzle.
+    if (!std::holds_alternative<play::Outcome>(apply(play::Leave { newPar }))) {
+        return;
+    }
     m_controller.hints().clearHint();
     m_controller.hints().resetHintMode();
     m_game.effects.play(platform::Effect::Marble);
-    const int newPar = std::clamp(par, kEasiestPar, kHardestPar);
-    static_cast<void>(apply(play::Leave { newPar }));
     m_game.view.block().startBlockClick(m_game.tempo.delay(times::kLeavingBlock));
     performWithThisProof(
         times::kLeftBoardEmpties, [this] { m_controller.lines().removeAllDeleteButtons(); });

@@ -89,6 +89,8 @@ void Hints::apply(const play::Hint& hint)
     if (const auto* const outcome = std::get_if<play::Outcome>(&answer)) {
         show(hint.kind, *outcome);
         m_controller.speaker().hintGiven(hint.kind);
+    } else {
+        m_game.currentGame.addToScore(kPrice); // asked for while the last one is on its way
     }
 }
 

@@ -43,6 +43,7 @@ public:
 private:
     [[nodiscard]] bool isFirstHintOfPlayer();
     [[nodiscard]] play::HintStage stage() const;
+    // Its price is taken; given back when the puzzle takes no hint now.
     void apply(const play::Hint& hint);
     void show(play::Hint::Kind kind, const play::Outcome& outcome);
     void showPieces();

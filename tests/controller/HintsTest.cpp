@@ -1,5 +1,5 @@
 #include "progress/PlayerKeys.h"
-#include "support/PlayedGame.h"
+#include "support/HeadlessPlay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,16 +10,16 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 // A player with points who knows what hints are.
-class HintsTest : public test::PlayedGame {
+class HintsTest : public test::HeadlessPlay {
 protected:
     HintsTest()
-        : PlayedGame(rich())
+        : HeadlessPlay(rich())
     {
     }
 
-    static app::VirtualGame::Options rich()
+    static Options rich()
     {
-        app::VirtualGame::Options options;
+        Options options;
         options.preferences.records["Player-New"] = {
             { std::string(progress::kLevelKey), std::int64_t { 5 } },
             { std::string(progress::kStageKey), std::int64_t { 2 } },
@@ -108,6 +108,25 @@ TEST_F(HintsTest, OneStageAClick)
         wait(0.6);
     }
     EXPECT_THAT(modes, ElementsAre(1, 2, 1));
+}
+
+TEST_F(HintsTest, AskedForWhileTheLastIsOnItsWayCostNothing)
+{
+    playBadly();
+    hint();
+    ASSERT_EQ(game().controller().flow().phase(), play::Phase::WalkingBack);
+    game().controller().hints().lightBulbClick();
+    EXPECT_EQ(game().currentGame().score(), 950);
+
+    play("YRR", "YRRRRG");
+    hint();
+    wait(1.0);
+    hint();
+    ASSERT_EQ(game().controller().flow().phase(), play::Phase::HintFlying);
+    const auto score = game().currentGame().score();
+    game().controller().hints().lightBulbClick();
+    EXPECT_EQ(game().currentGame().score(), score);
+    EXPECT_EQ(game().controller().flow().session()->settled().purse(), score);
 }
 
 TEST_F(HintsTest, TheSearchIsMadeAnewAfterEveryMove)

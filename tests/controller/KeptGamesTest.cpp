@@ -1,11 +1,9 @@
-#include "app/VirtualGame.h"
 #include "engine/HintHelper.h"
 #include "platform/fakes/MemoryJournal.h"
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
-#include "support/Places.h"
-#include "support/QtEnvironment.h"
+#include "support/HeadlessPlay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -41,10 +39,8 @@ protected:
     {
         m_game.reset();
         m_told.clear();
-        m_game = std::make_unique<app::VirtualGame>(
-            app::VirtualGame::Options { .store = &m_preferences,
-                .journal = &m_journal,
-                .dataFolder = QString::fromStdString(test::dataFolder()) });
+        m_game = std::make_unique<headless::HeadlessGame>(headless::HeadlessGame::Options {
+            .store = &m_preferences, .resources = &test::gameResources(), .journal = &m_journal });
         m_game->launch();
         kept().setReporter([this](const std::string& message) { m_told.push_back(message); });
     }
@@ -113,7 +109,7 @@ protected:
 
     platform::MemoryPreferences m_preferences;
     platform::MemoryJournal m_journal;
-    std::unique_ptr<app::VirtualGame> m_game;
+    std::unique_ptr<headless::HeadlessGame> m_game;
     std::vector<std::string> m_told;
 };
 
@@ -245,6 +241,47 @@ TEST_F(KeptGamesTest, AFailedWriteIsToldOnceAndAgainAtTheEnd)
     EXPECT_THAT(lines(), ElementsAre("YRRRR"));
     mergeReds();
     EXPECT_EQ(kept().lastWords(), "");
+}
+
+// Were the par saved, the journal would no longer fit the record.
+TEST_F(KeptGamesTest, AnEndlessPuzzleIsFoundAgainAfterAParThatCouldNotBeChosen)
+{
+    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+        { .endlessScore = 500, .endlessPar = 4 });
+    m_game->currentGame().newPlayer(std::string(progress::kDefaultPlayerName), Mode::Endless);
+    m_game->controller().flow().startEndlessGame();
+    m_game->wait(1.0);
+    playBestMove();
+    m_game->controller().hints().lightBulbClick(); // marked
+    m_game->wait(1.0);
+    m_game->controller().hints().lightBulbClick(); // in pieces
+    m_game->wait(1.0);
+    m_game->controller().hints().lightBulbClick(); // which fly
+    ASSERT_EQ(m_game->controller().flow().phase(), play::Phase::HintFlying);
+    m_game->controller().flow().harderButtonClick();
+    const std::uint64_t hash = m_game->controller().flow().session()->hash();
+    EXPECT_EQ(kept().standingOf(Mode::Endless).endlessPar, 4);
+    launch();
+    m_game->currentGame().newPlayer(std::string(progress::kDefaultPlayerName), Mode::Endless);
+    m_game->controller().flow().startEndlessGame();
+    EXPECT_EQ(m_game->controller().flow().session()->hash(), hash);
+    EXPECT_EQ(m_game->currentGame().endlessScore(), 350);
+    EXPECT_THAT(m_told, IsEmpty());
+}
+
+TEST_F(KeptGamesTest, TheFirstOfTwoParsCounts)
+{
+    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+        { .endlessScore = 500, .endlessPar = 4 });
+    m_game->currentGame().newPlayer(std::string(progress::kDefaultPlayerName), Mode::Endless);
+    m_game->controller().flow().startEndlessGame();
+    m_game->controller().flow().harderButtonClick();
+    m_game->controller().flow().easierButtonClick();
+    EXPECT_EQ(kept().standingOf(Mode::Endless).endlessPar, 5);
+    m_game->wait(4.0);
+    EXPECT_EQ(m_game->currentGame().par(), 5);
+    launch();
+    EXPECT_NE(kept().keptOf(Mode::Endless), nullptr);
 }
 
 // The preferences' disk is full, the journal's is not.
