@@ -1,4 +1,4 @@
-#include "support/PlayedGame.h"
+#include "support/HeadlessPlay.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -27,7 +27,7 @@ constexpr std::array kMoves {
     MoveByHand { "drop between blues", "YBRGBR", "chip-4-0", "chip-1-0" },
 };
 
-class FullScreenTest : public test::PlayedGame {
+class FullScreenTest : public test::HeadlessPlay {
 protected:
     void toggle() { game().controller().toggleFullscreen(); }
     void expectWindow(bool zoomed, bool fullScreen)
@@ -107,14 +107,14 @@ TEST_F(FullScreenTest, LeavingWorksOnlyFromWithin)
 
 TEST_F(FullScreenTest, TheKeysOfTheMenuAreF11AndEscape)
 {
-    game().key(QStringLiteral("Esc"));
+    game().key("Esc");
     expectWindow(false, false);
-    game().key(QStringLiteral("F11"));
+    game().key("F11");
     expectWindow(true, true);
-    game().key(QStringLiteral("Esc"));
+    game().key("Esc");
     expectWindow(false, false);
-    game().key(QStringLiteral("F11"));
-    game().key(QStringLiteral("F11"));
+    game().key("F11");
+    game().key("F11");
     expectWindow(false, false);
 }
 

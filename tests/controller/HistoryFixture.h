@@ -2,13 +2,13 @@
 
 #include "play/Gesture.h"
 #include "progress/PlayerKeys.h"
-#include "support/PlayedGame.h"
+#include "support/HeadlessPlay.h"
 
 namespace veyrand::controller {
 
-inline app::VirtualGame::Options richPlayer()
+inline headless::HeadlessGame::Options richPlayer()
 {
-    app::VirtualGame::Options options;
+    headless::HeadlessGame::Options options;
     options.preferences.records[progress::playerRecordKey(progress::kDefaultPlayerName)]
         = { { std::string(progress::kLevelKey), std::int64_t { 5 } },
               { std::string(progress::kStageKey), std::int64_t { 1 } },
@@ -18,15 +18,15 @@ inline app::VirtualGame::Options richPlayer()
 }
 
 // A game with points for hints, and its history at hand.
-class HistoryTest : public test::PlayedGame {
+class HistoryTest : public test::HeadlessPlay {
 protected:
     HistoryTest()
-        : PlayedGame(richPlayer())
+        : HeadlessPlay(richPlayer())
     {
     }
 
-    void undo() { game().key(QStringLiteral("Ctrl+Z")); }
-    void redo() { game().key(QStringLiteral("Ctrl+Shift+Z")); }
+    void undo() { game().key("Ctrl+Z"); }
+    void redo() { game().key("Ctrl+Shift+Z"); }
     void hint()
     {
         click("button-lightbulboff");
@@ -67,15 +67,6 @@ protected:
         EXPECT_EQ(test::keysFrom(table(), "chip-").size(), chips);
         EXPECT_EQ(test::keysFrom(table(), "delete-").size(), lines().size() - 1);
         EXPECT_FALSE(table().contains("temporaryGreen"));
-    }
-
-    // The picture once everything has come to rest and the pointer has gone aside.
-    QImage atRest()
-    {
-        game().move({ .x = 1.59, .y = 0.02 });
-        settle();
-        settle();
-        return game().picture();
     }
 };
 

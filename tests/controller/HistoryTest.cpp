@@ -324,7 +324,7 @@ TEST_F(HistoryTest, DoesNothingDuringTheCelebrationOrOnTheNextPuzzle)
         wait(0.5);
         EXPECT_FALSE(history().canUndo());
     }
-    EXPECT_FALSE(game().menu().trigger(QStringLiteral("Undo")));
+    EXPECT_FALSE(game().menu().trigger("Undo"));
     settle();
     undo();
     EXPECT_EQ(lines().size(), 1U);
@@ -365,19 +365,19 @@ TEST_F(HistoryTest, ALineTakenBackByUndoGivesUpTheChipInTheHand)
 TEST_F(HistoryTest, TheMenuNamesTheStep)
 {
     play("YR", "YB");
-    EXPECT_FALSE(game().menu().trigger(QStringLiteral("Undo")));
+    EXPECT_FALSE(game().menu().trigger("Undo"));
     click("chip-0-0");
     settle();
-    EXPECT_TRUE(game().menu().trigger(QStringLiteral("Undo Move")));
+    EXPECT_TRUE(game().menu().trigger("Undo Move"));
     settle();
-    EXPECT_TRUE(game().menu().trigger(QStringLiteral("Redo Move")));
+    EXPECT_TRUE(game().menu().trigger("Redo Move"));
     settle();
     click("delete-1");
     settle();
-    EXPECT_FALSE(game().menu().trigger(QStringLiteral("Redo")));
-    EXPECT_TRUE(game().menu().trigger(QStringLiteral("Undo Removal")));
+    EXPECT_FALSE(game().menu().trigger("Redo"));
+    EXPECT_TRUE(game().menu().trigger("Undo Removal"));
     settle();
-    EXPECT_TRUE(game().menu().trigger(QStringLiteral("Redo Removal")));
+    EXPECT_TRUE(game().menu().trigger("Redo Removal"));
     EXPECT_THAT(lines(), ElementsAre("YR"));
 }
 
@@ -388,7 +388,7 @@ TEST_F(HistoryTest, CtrlYRedoesToo)
     settle();
     undo();
     settle();
-    game().key(QStringLiteral("Ctrl+Y"));
+    game().key("Ctrl+Y");
     EXPECT_THAT(lines(), ElementsAre("YR", "YRR"));
 }
 

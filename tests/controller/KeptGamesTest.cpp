@@ -246,8 +246,8 @@ TEST_F(KeptGamesTest, AFailedWriteIsToldOnceAndAgainAtTheEnd)
 // Were the par saved, the journal would no longer fit the record.
 TEST_F(KeptGamesTest, AnEndlessPuzzleIsFoundAgainAfterAParThatCouldNotBeChosen)
 {
-    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
-        { .endlessScore = 500, .endlessPar = 4 });
+    progress::updatePlayerRecord(
+        m_preferences, progress::kDefaultPlayerName, { .endlessScore = 500, .endlessPar = 4 });
     m_game->currentGame().newPlayer(std::string(progress::kDefaultPlayerName), Mode::Endless);
     m_game->controller().flow().startEndlessGame();
     m_game->wait(1.0);
@@ -271,8 +271,8 @@ TEST_F(KeptGamesTest, AnEndlessPuzzleIsFoundAgainAfterAParThatCouldNotBeChosen)
 
 TEST_F(KeptGamesTest, TheFirstOfTwoParsCounts)
 {
-    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
-        { .endlessScore = 500, .endlessPar = 4 });
+    progress::updatePlayerRecord(
+        m_preferences, progress::kDefaultPlayerName, { .endlessScore = 500, .endlessPar = 4 });
     m_game->currentGame().newPlayer(std::string(progress::kDefaultPlayerName), Mode::Endless);
     m_game->controller().flow().startEndlessGame();
     m_game->controller().flow().harderButtonClick();

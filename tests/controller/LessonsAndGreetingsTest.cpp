@@ -1,4 +1,4 @@
-#include "support/PlayedGame.h"
+#include "support/HeadlessPlay.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -69,7 +69,7 @@ Greeted greetingAt(int level, int stage)
 
 } // namespace
 
-class LessonsTest : public test::PlayedGame {
+class LessonsTest : public test::HeadlessPlay {
 protected:
     // A puzzle at the place with so many lines standing.
     void stand(int level, int stage, unsigned lines, Mode mode = Mode::Classic)
@@ -172,7 +172,7 @@ TEST_F(LessonsTest, ANoteThatFollowsAClickNeverComesOverAnotherPuzzle)
     EXPECT_EQ(game().controller().messages().page(), "");
 }
 
-class GreetingsTest : public test::PlayedGame { };
+class GreetingsTest : public test::HeadlessPlay { };
 
 TEST_F(GreetingsTest, MeetThePlayerAtTheirPlacesAndNowhereElse)
 {

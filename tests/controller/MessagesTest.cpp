@@ -1,4 +1,4 @@
-#include "support/PlayedGame.h"
+#include "support/HeadlessPlay.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ constexpr std::array kFollowOns {
 
 } // namespace
 
-class MessagesTest : public test::PlayedGame {
+class MessagesTest : public test::HeadlessPlay {
 protected:
     Messages& messages() { return game().controller().messages(); }
     void show(const std::string& page) { game().controller().pages().show(page); }

@@ -1,5 +1,5 @@
+#include "support/HeadlessPlay.h"
 #include "support/Instant.h"
-#include "support/PlayedGame.h"
 
 #include <gmock/gmock.h>
 
@@ -12,7 +12,7 @@ using ::testing::SizeIs;
 
 namespace {
 
-class MovesTest : public test::PlayedGame {
+class MovesTest : public test::HeadlessPlay {
 protected:
     // YGG doubles to YGGGG, whose greens vanish to YGG again, as often as there is to play.
     void playUpTo(std::size_t count)
@@ -278,7 +278,7 @@ TEST_F(MovesTest, ABlueOnItsNeighbourWithNoMatchAtAllIsRefused)
 
 TEST_F(MovesTest, EffectsSwitchedOffPlayNothing)
 {
-    ASSERT_TRUE(game().menu().trigger(QStringLiteral("Sound Effects")));
+    ASSERT_TRUE(game().menu().trigger("Sound Effects"));
     play("YRG", "YB");
     click("chip-1-0");
     settle();

@@ -1,6 +1,6 @@
 #include "progress/PlayerKeys.h"
+#include "support/HeadlessPlay.h"
 #include "support/Instant.h"
-#include "support/PlayedGame.h"
 
 #include <gmock/gmock.h>
 
@@ -16,7 +16,7 @@ namespace {
 constexpr double kGoalOpacity = 0.699999988079071; // single-precision 0.7
 constexpr double kGoalMetOpacity = 0.10000000149011612; // single-precision 0.1
 
-class ProofLinesTest : public test::PlayedGame {
+class ProofLinesTest : public test::HeadlessPlay {
 protected:
     // Plays one move on the last line for each letter: d doubles, g adds a green.
     void playMoves(const std::string& moves)

@@ -1,8 +1,7 @@
 #include "controller/TutorialScriptReader.h"
 
-#include "desktop/qt/DataFolder.h"
+#include "support/FolderResources.h"
 #include "support/MemoryResources.h"
-#include "support/Places.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -60,8 +59,7 @@ struct Malformed {
 
 TEST(TutorialScriptReader, ReadsTheFilesOfTheGame)
 {
-    const desktop::qt::FileResources resources(QString::fromStdString(test::dataFolder()));
-    const TutorialScript script = readTutorialScript(resources);
+    const TutorialScript script = readTutorialScript(test::gameResources());
     EXPECT_EQ(script.errors, "");
     EXPECT_EQ(script.pages.size(), 52U);
     EXPECT_EQ(script.chains.size(), 12U);

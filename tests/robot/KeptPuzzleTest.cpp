@@ -5,22 +5,18 @@
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
 #include "robot/Robot.h"
-#include "support/Places.h"
+#include "support/FolderResources.h"
+#include "support/KilledChild.h"
 #include "support/QtEnvironment.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <array>
-#include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <map>
 #include <random>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace veyrand::test {
 
@@ -52,18 +48,44 @@ struct OnDisk {
     desktop::posix::FileJournal journal;
 };
 
+// The catalogues as they were when the first of them was read: a build beside a long run may put
+// others in their place, and then nothing that was begun would be found again.
+class DataAtTheStart final : public platform::Resources {
+public:
+    [[nodiscard]] std::optional<std::string> dataNamed(
+        std::string_view name, std::string_view type) const override
+    {
+        const std::string file = std::string(name) + '.' + std::string(type);
+        const auto found = m_read.find(file);
+        return (found != m_read.end()
+                ? found
+                : m_read.emplace(file, gameResources().dataNamed(name, type)).first)
+            ->second;
+    }
+
+private:
+    mutable std::map<std::string, std::optional<std::string>> m_read;
+};
+
+const platform::Resources& dataAtTheStart()
+{
+    static const DataAtTheStart kData;
+    return kData;
+}
+
 // Plays on what it finds: gestures, rows taken back, steps back and again, hints, other pars. Each
 // action is reported when its animation has begun.
 class RestlessPlayer {
 public:
-    RestlessPlayer(OnDisk& onDisk, Mode mode, std::uint32_t seed, int reports)
+    RestlessPlayer(
+        OnDisk& onDisk, Mode mode, std::uint32_t seed, const KilledChild<Report>::Tell& tell)
         : m_random(seed)
         , m_game({ .seed = seed,
               .store = &onDisk.preferences,
-              .journal = &onDisk.journal,
-              .dataFolder = QString::fromStdString(dataFolder()) })
+              .resources = &dataAtTheStart(),
+              .journal = &onDisk.journal })
         , m_robot(m_game)
-        , m_reports(reports)
+        , m_tell(tell)
     {
         m_game.controller().kept().setReporter([](const std::string& trouble) {
             std::cerr << trouble << '\n';
@@ -105,10 +127,7 @@ private:
     void report()
     {
         const play::Replay& settled = session().settled();
-        const Report report { settled.hash(), settled.purse(), settled.isOver() };
-        if (::write(m_reports, &report, sizeof report) != sizeof report) {
-            ::_exit(2);
-        }
+        m_tell({ settled.hash(), settled.purse(), settled.isOver() });
     }
 
     void act()
@@ -160,60 +179,20 @@ private:
     }
 
     std::mt19937 m_random;
-    app::VirtualGame m_game;
+    headless::HeadlessGame m_game;
     Robot m_robot;
-    int m_reports;
+    KilledChild<Report>::Tell m_tell;
 };
 
-// Another process that plays; it ends only by being killed.
-class PlayingProcess {
-public:
-    PlayingProcess(const QString& folder, Mode mode, std::uint32_t seed)
-    {
-        std::array<int, 2> ends {};
-        if (::pipe(ends.data()) != 0) {
-            throw std::runtime_error("no pipe");
-        }
-        m_child = ::fork();
-        if (m_child == 0) {
-            ::close(ends[0]);
-            OnDisk onDisk(folder);
-            RestlessPlayer(onDisk, mode, seed, ends[1]).play();
-        }
-        ::close(ends[1]);
-        m_reports = ends[0];
-    }
-    PlayingProcess(const PlayingProcess&) = delete;
-    PlayingProcess& operator=(const PlayingProcess&) = delete;
-    ~PlayingProcess()
-    {
-        kill();
-        ::close(m_reports);
-    }
+using PlayingProcess = KilledChild<Report>;
 
-    std::optional<Report> next()
-    {
-        Report report;
-        return ::read(m_reports, &report, sizeof report) == sizeof report ? std::optional(report)
-                                                                          : std::nullopt;
-    }
-
-    // True when it was this that ended it.
-    bool kill()
-    {
-        if (m_child <= 0) {
-            return false;
-        }
-        ::kill(m_child, SIGKILL);
-        int status = 0;
-        ::waitpid(std::exchange(m_child, 0), &status, 0);
-        return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
-    }
-
-private:
-    pid_t m_child = 0;
-    int m_reports = -1;
-};
+PlayingProcess playingProcess(const QString& folder, Mode mode, std::uint32_t seed)
+{
+    return PlayingProcess([&folder, mode, seed](const PlayingProcess::Tell& tell) {
+        OnDisk onDisk(folder);
+        RestlessPlayer(onDisk, mode, seed, tell).play();
+    });
+}
 
 // What the journal comes to, and what it came to one action before.
 struct Written {
@@ -266,19 +245,13 @@ int killsWanted()
     return wanted != nullptr ? std::atoi(wanted) : kUsualKills;
 }
 
-// A folder in memory where there is one: what a killed program wrote is there all the same.
-QString folderInMemory()
-{
-    const QString memory = QStringLiteral("/dev/shm");
-    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath())
-        + QStringLiteral("/veyrand-kept-XXXXXX");
-}
-
 } // namespace
 
 TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
 {
-    QTemporaryDir folder(folderInMemory());
+    // Read here, before the others come of this process.
+    headless::HeadlessGame({ .resources = &dataAtTheStart() }).launch();
+    QTemporaryDir folder(killedChildsFolder());
     {
         OnDisk onDisk(folder.path());
         progress::updatePlayerRecord(onDisk.preferences, progress::kDefaultPlayerName,
@@ -298,7 +271,8 @@ TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
     for (int kill = 0; kill < kills; ++kill) {
         SCOPED_TRACE("kill " + std::to_string(kill));
         const Mode mode = kill % 2 == 0 ? Mode::Classic : Mode::Endless;
-        PlayingProcess player(folder.path(), mode, static_cast<std::uint32_t>(kill + 1));
+        const QString path = folder.path();
+        auto player = playingProcess(path, mode, static_cast<std::uint32_t>(kill + 1));
         auto last = player.next();
         ASSERT_TRUE(last.has_value()) << "it could not play";
         auto& before = left.at(static_cast<std::size_t>(kill % 2));

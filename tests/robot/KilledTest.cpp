@@ -1,22 +1,17 @@
 #include "desktop/qt/FilePreferences.h"
-#include "platform/MemoryPreferences.h"
 #include "progress/PlayerKeys.h"
 #include "robot/Robot.h"
-#include "support/Places.h"
+#include "support/FolderResources.h"
+#include "support/KilledChild.h"
 #include "support/QtEnvironment.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
 #include <chrono>
-#include <csignal>
 #include <gtest/gtest.h>
 #include <random>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace veyrand::test {
 
@@ -29,115 +24,27 @@ constexpr int kStagesOfALevel = 10;
 // the puzzles, so it says which of them all was saved last.
 using Score = std::int64_t;
 
-// Hands everything on to preferences that may be changed for others: the game is put together once,
-// which takes longer than many saves, and each process gives its copy a file.
-class Redirected final : public platform::Preferences {
-public:
-    void redirectTo(platform::Preferences& target) { m_target = &target; }
-
-    void registerDefaults(Contents defaults) override
-    {
-        m_target->registerDefaults(std::move(defaults));
-    }
-    [[nodiscard]] std::optional<platform::PreferenceValue> value(
-        std::string_view key) const override
-    {
-        return m_target->value(key);
-    }
-    void setValue(std::string_view key, platform::PreferenceValue value) override
-    {
-        m_target->setValue(key, std::move(value));
-    }
-    [[nodiscard]] std::optional<platform::PreferenceRecord> record(
-        std::string_view key) const override
-    {
-        return m_target->record(key);
-    }
-    void setRecord(std::string_view key, platform::PreferenceRecord record) override
-    {
-        m_target->setRecord(key, std::move(record));
-    }
-
-private:
-    platform::MemoryPreferences m_none;
-    platform::Preferences* m_target = &m_none;
-};
-
 struct PreparedGame {
     Redirected preferences;
-    app::VirtualGame game { { .store = &preferences,
-        .dataFolder = QString::fromStdString(test::dataFolder()) } };
+    headless::HeadlessGame game { { .store = &preferences, .resources = &gameResources() } };
 };
 
-// Another process that plays on the preferences in the file from where they stand, and reports each
-// score once it has been saved. It ends only by being killed.
-class Player {
-public:
-    using Play = void (*)(app::VirtualGame& game, const std::function<void(Score)>& saved);
+using Player = KilledChild<Score>;
+using Play = void (*)(headless::HeadlessGame& game, const Player::Tell& saved);
 
-    Player(PreparedGame& prepared, const QString& file, Play play)
-    {
-        std::array<int, 2> ends {};
-        if (::pipe(ends.data()) != 0) {
-            throw std::runtime_error("no pipe");
-        }
-        m_child = ::fork();
-        if (m_child == 0) {
-            ::close(ends[0]);
-            run(prepared, file, play, ends[1]);
-            ::_exit(1); // it should not have come to an end
-        }
-        ::close(ends[1]);
-        m_reports = ends[0];
-    }
-    Player(const Player&) = delete;
-    Player& operator=(const Player&) = delete;
-    ~Player()
-    {
-        kill();
-        ::close(m_reports);
-    }
-
-    // Waits for the next report. Nothing once the process has gone.
-    std::optional<Score> nextReport()
-    {
-        Score score = 0;
-        return ::read(m_reports, &score, sizeof score) == sizeof score ? std::optional(score)
-                                                                       : std::nullopt;
-    }
-
-    // True when it was this that ended it.
-    bool kill()
-    {
-        if (m_child <= 0) {
-            return false;
-        }
-        ::kill(m_child, SIGKILL);
-        int status = 0;
-        ::waitpid(std::exchange(m_child, 0), &status, 0);
-        return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
-    }
-
-private:
-    static void run(PreparedGame& prepared, const QString& file, Play play, int reports)
-    {
+// Plays on the preferences in the file from where they stand, and reports each score once it has
+// been saved.
+Player player(PreparedGame& prepared, const QString& file, Play play)
+{
+    return Player([&prepared, &file, play](const Player::Tell& saved) {
         desktop::qt::FilePreferences preferences(file);
-        if (preferences.isHeldElsewhere()) {
-            return;
+        if (!preferences.isHeldElsewhere()) {
+            preferences.registerDefaults(progress::registeredDefaults());
+            prepared.preferences.redirectTo(preferences);
+            play(prepared.game, saved);
         }
-        preferences.registerDefaults(progress::registeredDefaults());
-        prepared.preferences.redirectTo(preferences);
-        play(prepared.game, [reports](Score score) {
-            // Shorter than what a pipe takes in one piece.
-            if (::write(reports, &score, sizeof score) != sizeof score) {
-                ::_exit(2);
-            }
-        });
-    }
-
-    pid_t m_child = 0;
-    int m_reports = -1;
-};
+    });
+}
 
 Score savedScore(const platform::Preferences& preferences)
 {
@@ -146,7 +53,7 @@ Score savedScore(const platform::Preferences& preferences)
 }
 
 // The puzzles as the flow brings them, as fast as it can: each is saved on its arrival.
-void hurry(app::VirtualGame& game, const std::function<void(Score)>& saved)
+void hurry(headless::HeadlessGame& game, const Player::Tell& saved)
 {
     auto& current = game.currentGame();
     auto& flow = game.controller().flow();
@@ -165,7 +72,7 @@ void hurry(app::VirtualGame& game, const std::function<void(Score)>& saved)
 }
 
 // As a player does, with the mouse. The game itself awards 150 points a puzzle.
-void playWithTheMouse(app::VirtualGame& game, const std::function<void(Score)>& saved)
+void playWithTheMouse(headless::HeadlessGame& game, const Player::Tell& saved)
 {
     Robot robot(game);
     game.controller().flow().startClassicGame();
@@ -182,17 +89,8 @@ void spin(std::chrono::microseconds time)
     while (std::chrono::steady_clock::now() < end) { }
 }
 
-// A folder in memory where there is one: what a killed program wrote is there all the same, and a
-// disk that others keep busy would take most of the time.
-QString templateOfFolder()
-{
-    const QString memory = QStringLiteral("/dev/shm");
-    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath())
-        + QStringLiteral("/veyrand-killed-XXXXXX");
-}
-
 struct Trial {
-    Player::Play play;
+    Play play;
     int kills;
     int mostReports; // that are waited for after the first
     std::chrono::microseconds longest; // from the last of those to the kill
@@ -201,7 +99,7 @@ struct Trial {
 
 void killAgainAndAgain(const Trial& trial)
 {
-    const QTemporaryDir folder(templateOfFolder());
+    const QTemporaryDir folder(killedChildsFolder());
     const QString file = folder.filePath("preferences.json");
     PreparedGame prepared;
     std::mt19937 random(20);
@@ -210,16 +108,16 @@ void killAgainAndAgain(const Trial& trial)
     Score last = 0;
     for (int kill = 0; kill < trial.kills; ++kill) {
         SCOPED_TRACE("kill " + std::to_string(kill));
-        Player player(prepared, file, trial.play);
-        const auto begun = player.nextReport();
+        Player child = player(prepared, file, trial.play);
+        const auto begun = child.next();
         ASSERT_TRUE(begun.has_value()) << "it could not play";
         ASSERT_EQ(*begun, last) << "it did not begin where the one before was killed";
         for (int more = count(random); more > 0; --more) {
-            last = player.nextReport().value_or(last);
+            last = child.next().value_or(last);
         }
         spin(std::chrono::microseconds(moment(random)));
-        ASSERT_TRUE(player.kill()) << "it ended by itself";
-        while (const auto report = player.nextReport()) {
+        ASSERT_TRUE(child.kill()) << "it ended by itself";
+        while (const auto report = child.next()) {
             last = *report;
         }
         // What it had reported, or what it was about to report.

@@ -1,3 +1,4 @@
+#include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
 #include "progress/Settings.h"
 #include "robot/Robot.h"
@@ -50,7 +51,7 @@ public:
                 .records = { { progress::playerRecordKey(progress::kDefaultPlayerName),
                     { { std::string(progress::kEndlessParKey), 3 } } } } },
             .dataFolder = QString::fromStdString(test::dataFolder()) })
-        , m_robot(m_game)
+        , m_robot(m_game.headless())
     {
         m_game.launch();
         m_game.wait(1.0);

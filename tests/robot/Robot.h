@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/VirtualGame.h"
+#include "headless/HeadlessGame.h"
 #include "play/Gesture.h"
 
 #include <optional>
@@ -12,7 +12,7 @@ namespace veyrand::test {
 // event it checks what must hold at any moment, and between moves that the board shows the proof.
 class Robot {
 public:
-    explicit Robot(app::VirtualGame& game)
+    explicit Robot(headless::HeadlessGame& game)
         : m_game(game)
     {
     }
@@ -39,7 +39,7 @@ private:
     void release(platform::Point place);
     void checkAtRest();
 
-    app::VirtualGame& m_game;
+    headless::HeadlessGame& m_game;
     std::vector<std::string> m_pagesRead;
     unsigned long m_eventsSent = 0;
 };

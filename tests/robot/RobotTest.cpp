@@ -2,8 +2,7 @@
 
 #include "progress/PlayerKeys.h"
 #include "progress/Settings.h"
-#include "support/Places.h"
-#include "support/QtEnvironment.h"
+#include "support/FolderResources.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,10 +14,9 @@ using ::testing::IsEmpty;
 
 namespace {
 
-app::VirtualGame::Options withData(platform::Preferences::Contents preferences = {})
+headless::HeadlessGame::Options withData(platform::Preferences::Contents preferences = {})
 {
-    return { .preferences = std::move(preferences),
-        .dataFolder = QString::fromStdString(test::dataFolder()) };
+    return { .preferences = std::move(preferences), .resources = &gameResources() };
 }
 
 std::vector<std::string> takePages(const Robot& robot, std::size_t& taken)
@@ -38,7 +36,7 @@ INSTANTIATE_TEST_SUITE_P(Tempos, RobotAtTempo, ::testing::Values("normal", "off"
 
 TEST_P(RobotAtTempo, PlaysClassicFromTheFirstPuzzleToTheClosingMessage)
 {
-    app::VirtualGame game(withData({ .values = {},
+    headless::HeadlessGame game(withData({ .values = {},
         .records = { { std::string(progress::kSettingsKey), { { "Tempo", GetParam() } } } } }));
     Robot robot(game);
     game.launch();
@@ -81,7 +79,7 @@ TEST_P(RobotAtTempo, PlaysClassicFromTheFirstPuzzleToTheClosingMessage)
 
 TEST(Robot, PlaysTwoHundredEndlessPuzzlesOfEveryPar)
 {
-    app::VirtualGame game(withData(
+    headless::HeadlessGame game(withData(
         { .values = { { std::string(progress::kEndlessGameUnlockedKey), true } }, .records = {} }));
     Robot robot(game);
     game.launch();

@@ -1,6 +1,6 @@
 #include "support/PlayedGame.h"
 
-namespace veyrand::controller {
+namespace veyrand::app {
 
 using platform::AlertAnswer;
 using platform::VolumeProperties;
@@ -20,7 +20,7 @@ protected:
     {
         game().controller().applicationWillTerminate([this] { m_done = true; });
     }
-    app::VirtualInstallation& installation() { return game().installation(); }
+    VirtualInstallation& installation() { return game().installation(); }
 
     bool m_done = false;
 };
@@ -57,4 +57,4 @@ TEST_F(Termination, KeepsTheChoiceNotToBeAskedInThePreferences)
     EXPECT_TRUE(game().preferences().boolForKey("M3DontAskInstallAgain"));
 }
 
-} // namespace veyrand::controller
+} // namespace veyrand::app

@@ -8,7 +8,7 @@
 #include <functional>
 #include <regex>
 
-namespace veyrand::controller {
+namespace veyrand::app {
 
 namespace {
 
@@ -283,4 +283,4 @@ TEST_F(PageLayout, KeepsLinesApartAndOnTheBoard)
     });
 }
 
-} // namespace veyrand::controller
+} // namespace veyrand::app

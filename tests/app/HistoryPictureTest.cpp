@@ -1,8 +1,51 @@
-#include "controller/HistoryFixture.h"
+#include "progress/PlayerKeys.h"
+#include "support/PlayedGame.h"
 
-namespace veyrand::controller {
+namespace veyrand::app {
 
-TEST_F(HistoryTest, LeavesThePictureAsItWasPixelForPixel)
+namespace {
+
+// A game with points for hints, and a look at it.
+class HistoryPictures : public test::PlayedGame {
+protected:
+    HistoryPictures()
+        : PlayedGame(richPlayer())
+    {
+    }
+
+    void undo() { game().key(QStringLiteral("Ctrl+Z")); }
+    void redo() { game().key(QStringLiteral("Ctrl+Shift+Z")); }
+    void hint()
+    {
+        click("button-lightbulboff");
+        settle();
+    }
+
+    // The picture once everything has come to rest and the pointer has gone aside.
+    QImage atRest()
+    {
+        game().move({ .x = 1.59, .y = 0.02 });
+        settle();
+        settle();
+        return game().picture();
+    }
+
+private:
+    static Options richPlayer()
+    {
+        Options options;
+        options.preferences.records[progress::playerRecordKey(progress::kDefaultPlayerName)]
+            = { { std::string(progress::kLevelKey), std::int64_t { 5 } },
+                  { std::string(progress::kStageKey), std::int64_t { 1 } },
+                  { std::string(progress::kScoreKey), std::int64_t { 1000 } },
+                  { std::string(progress::kFirstHintClickKey), true } };
+        return options;
+    }
+};
+
+} // namespace
+
+TEST_F(HistoryPictures, AreAsTheyWerePixelForPixel)
 {
     struct Step {
         const char* root;
@@ -33,7 +76,7 @@ TEST_F(HistoryTest, LeavesThePictureAsItWasPixelForPixel)
     }
 }
 
-TEST_F(HistoryTest, LeavesThePictureOfAHintedLineAsItWas)
+TEST_F(HistoryPictures, OfAHintedLineAreAsTheyWere)
 {
     play("YR", "YRRRRG");
     hint();
@@ -47,7 +90,7 @@ TEST_F(HistoryTest, LeavesThePictureOfAHintedLineAsItWas)
     EXPECT_EQ(atRest(), before);
 }
 
-TEST_F(HistoryTest, LeavesThePictureOfWhatAWalkBackTookAsItWas)
+TEST_F(HistoryPictures, OfWhatAWalkBackTookAreAsTheyWere)
 {
     play("YRR", "YRRRRG");
     click("chip-2-0");
@@ -58,11 +101,10 @@ TEST_F(HistoryTest, LeavesThePictureOfWhatAWalkBackTookAsItWas)
     const QImage after = atRest(); // with its mark, and the points it cost
     undo();
     const QImage before = atRest();
-    expectBoardShowsTheLines();
     redo();
     EXPECT_EQ(atRest(), after);
     undo();
     EXPECT_EQ(atRest(), before);
 }
 
-} // namespace veyrand::controller
+} // namespace veyrand::app

@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 
-namespace veyrand::input {
+namespace veyrand::app {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -93,6 +93,19 @@ TEST_F(MouseEvents, InAWindowOfAnotherShapeElementsAreHitWhereTheyShow)
     EXPECT_EQ(object("button-menubuttonon")->opacity(), 1.0);
 }
 
+TEST_F(MouseEvents, InAWindowTwiceAsWideNothingIsPaintedBesideTheBoard)
+{
+    wait(1.0);
+    game().resize({ 1920, 600 });
+    const QImage picture = game().picture();
+    for (const QPoint place : { QPoint(240, 300), QPoint(479, 0), QPoint(1440, 599) }) {
+        EXPECT_EQ(picture.pixelColor(place), QColor(Qt::black));
+    }
+    for (const QPoint place : { QPoint(480, 300), QPoint(1439, 300) }) {
+        EXPECT_NE(picture.pixelColor(place), QColor(Qt::black));
+    }
+}
+
 TEST_F(MouseEvents, AChipInTheHandGoesBackWhenTheWindowLosesThePointer)
 {
     play("YRRR", "YB");
@@ -148,4 +161,4 @@ TEST_F(MouseEvents, AFastFlickTakesTheStoneItBeganOnAndDropsItWhereItEnds)
     }
 }
 
-} // namespace veyrand::input
+} // namespace veyrand::app
