@@ -1,6 +1,7 @@
 #include "QtStage.h"
 #include "ScenarioChecks.h"
 #include "ScriptBridge.h"
+#include "ScriptIncludes.h"
 #include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
@@ -49,6 +50,8 @@ void runScript(const QString& fileName, const scenario::QtStage::Settings& setti
     scenario::ScriptBridge bridge(engine, scenario);
     bridge.install();
     checks.installIn(engine, fileName);
+    scenario::ScriptIncludes includes(engine, fileName);
+    includes.install();
     const QJSValue result = engine.evaluate(QString::fromUtf8(file.readAll()), fileName);
     if (result.isError()) {
         checks.scriptFailed(result);

@@ -64,6 +64,16 @@ function play(program, name, text) {
   return result;
 }
 
+// The script with the ones that it includes in their places.
+async function whole(url) {
+  let text = await (await fetch(url)).text();
+  for (const [line, name] of text.matchAll(/^include\("([^"]+)"\);$/gm)) {
+    const shared = await whole(new URL(name, new URL(url, location.href)).href);
+    text = text.replace(line, () => shared);
+  }
+  return text;
+}
+
 async function run() {
   await document.fonts.load('100px "Veyrand Letters"');
   const letters = new Letters();
@@ -80,7 +90,7 @@ async function run() {
   }
   const results = [];
   for (const url of scenarios) {
-    results.push(play(program, url.split('/').pop(), await (await fetch(url)).text()));
+    results.push(play(program, url.split('/').pop(), await whole(url)));
   }
   return results;
 }
