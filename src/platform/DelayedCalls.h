@@ -18,6 +18,8 @@ public:
     // When the next call is due, if any waits.
     [[nodiscard]] std::optional<Nanoseconds> nextDue() const;
 
+    [[nodiscard]] std::size_t count() const { return m_calls.size(); }
+
     // Takes out the first call that is due at or before the given time, and runs it. False when
     // none is.
     bool runNext(Nanoseconds until);

@@ -1,45 +1,17 @@
 #include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
 #include "progress/Settings.h"
+#include "robot/MemoryUse.h"
 #include "robot/Robot.h"
 #include "support/Places.h"
 #include "support/QtEnvironment.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <iostream>
-#include <malloc.h>
-#include <unistd.h>
 
 namespace veyrand::test {
 
 namespace {
-
-constexpr double kMegabyte = 1024.0 * 1024.0;
-
-struct MemoryUse {
-    double inUse = 0.0; // megabytes that were asked for and not given back
-    double resident = 0.0; // megabytes of the machine's that the process has
-};
-
-MemoryUse memoryUse()
-{
-    malloc_trim(0); // what has been given back is nobody's
-    const auto info = ::mallinfo2();
-    std::ifstream pages("/proc/self/statm");
-    double all = 0.0;
-    double resident = 0.0;
-    pages >> all >> resident;
-    return { .inUse = static_cast<double>(info.uordblks + info.hblkhd) / kMegabyte,
-        .resident = resident * static_cast<double>(::sysconf(_SC_PAGESIZE)) / kMegabyte };
-}
-
-int numberOf(const char* variable, int usual)
-{
-    const char* const wanted = std::getenv(variable);
-    return wanted != nullptr ? std::atoi(wanted) : usual;
-}
 
 // Short puzzles of the Endless game, painted as they begin, while a line slides and while they are
 // celebrated.
@@ -80,12 +52,11 @@ private:
 
 } // namespace
 
-// The sanitizers bring an allocator of their own, which knows no such figures.
 TEST(Memory, StaysWhatItWasHoweverManyPuzzlesAreSolved)
 {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP();
-#endif
+    if (!kMemoryIsCounted) {
+        GTEST_SKIP();
+    }
     const int begin = numberOf("VEYRAND_FIRST_PUZZLES", 100);
     const int end = numberOf("VEYRAND_PUZZLES", 130);
     LongGame game;

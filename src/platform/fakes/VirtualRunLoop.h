@@ -17,6 +17,7 @@ public:
 
     // When the next call is due, in seconds, if any waits.
     [[nodiscard]] std::optional<double> nextDue() const;
+    [[nodiscard]] std::size_t callsWaiting() const { return m_calls.count(); }
 
 private:
     Nanoseconds m_now = 0;
