@@ -130,15 +130,21 @@ void WebAlerts::show(const platform::Alert& alert, Answered answered)
 
 void WebAlerts::answer(const platform::AlertAnswer& given)
 {
+    using platform::AlertAnswer;
     if (m_waiting.empty()) {
         return;
+    }
+    AlertAnswer answer = given;
+    if (given.button == AlertAnswer::Button::Alternate
+        && m_waiting.front().alert.alternateButton.empty()) {
+        answer.button = AlertAnswer::Button::Default; // there is no other
     }
     const Answered answered = std::move(m_waiting.front().answered);
     m_waiting.pop_front();
     if (!m_waiting.empty()) {
         showFirst();
     }
-    answered(given);
+    answered(answer);
 }
 
 void WebAlerts::showFirst() const

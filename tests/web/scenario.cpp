@@ -1,10 +1,14 @@
 #include "Scenario.h"
 
+#include "web/EffectNumbers.h"
 #include "web/WebPorts.h"
+#include "web/WebView.h"
 
 #include <emscripten/emscripten.h>
 #include <exception>
 #include <memory>
+
+extern "C" void scenario_picture(const char* name); // what has just been painted
 
 // The scenarios' game on a page: the game without a toolkit, with the page's letters and data.
 
@@ -56,7 +60,16 @@ public:
             { .width = static_cast<double>(width), .height = static_cast<double>(height) });
     }
     bool chooseMenuItem(const std::string& text) override { return m_game.menu().trigger(text); }
-    [[nodiscard]] std::string screenshot(const std::string& /*name*/) override { return {}; }
+    // Painted as a page paints it, for whoever compares it with the desktop's.
+    [[nodiscard]] std::string screenshot(const std::string& name) override
+    {
+        platform::TrackedPointer nobody;
+        web::WebView view(m_game.game(), nobody);
+        view.resize(m_game.viewSize());
+        view.showFrame();
+        scenario_picture(name.c_str());
+        return {};
+    }
 
 private:
     web::WebTextMetrics m_letters;
@@ -107,6 +120,12 @@ EMSCRIPTEN_KEEPALIVE const char* scenario_call(int operation, const char* argume
         told["error"] = error.what();
     }
     answer() = told.dump();
+    return answer().c_str();
+}
+
+EMSCRIPTEN_KEEPALIVE const char* scenario_effects()
+{
+    answer() = web::effectNumbers();
     return answer().c_str();
 }
 }

@@ -1,6 +1,7 @@
 // Plays the scenarios named in list.json on this page, and posts what came of each.
 import createScenario from './bin/veyrand-scenario.mjs';
 import { Letters } from './page/pictures.mjs';
+import { Show } from './show.mjs';
 
 function same(a, b) {
   if (typeof a === 'number' && typeof b === 'number') {
@@ -77,10 +78,12 @@ async function whole(url) {
 async function run() {
   await document.fonts.load('100px "Veyrand Letters"');
   const letters = new Letters();
-  const host = new Proxy({ textWidth: (text) => letters.width(text), lineHeight: () => letters.lineHeight },
-    { get: (known, name) => known[name] ?? (() => 0) });
+  const { scenarios, resources, pictures } = await (await fetch('list.json')).json();
+  const show = pictures ? new Show(letters, pictures) : null;
+  const host = new Proxy({ textWidth: (text) => letters.width(text), lineHeight: () => letters.lineHeight,
+    ...show?.host }, { get: (known, name) => known[name] ?? (() => 0) });
   const program = await createScenario({ host });
-  const { scenarios, resources } = await (await fetch('list.json')).json();
+  await show?.begin(JSON.parse(program.UTF8ToString(program._scenario_effects())));
   for (const [name, url] of Object.entries(resources)) {
     const bytes = new Uint8Array(await (await fetch(url)).arrayBuffer());
     const place = program._malloc(bytes.length);
@@ -91,6 +94,9 @@ async function run() {
   const results = [];
   for (const url of scenarios) {
     results.push(play(program, url.split('/').pop(), await whole(url)));
+  }
+  if (show) {
+    results[0].pictures = await show.compared();
   }
   return results;
 }
