@@ -1,3 +1,4 @@
+#include "app/VirtualGame.h"
 #include "desktop/posix/FileJournal.h"
 #include "desktop/posix/PosixDisk.h"
 #include "desktop/qt/FilePreferences.h"
@@ -154,7 +155,7 @@ private:
         .store = &m_preferences,
         .journal = &m_journal,
         .dataFolder = QString::fromStdString(dataFolder()) } };
-    Robot m_robot { m_game };
+    Robot m_robot { m_game.headless() };
     int m_solved = 0;
     QSize m_size = kUsualSize;
 };
