@@ -121,10 +121,12 @@ Layout layOut(const ExtraRect& thing, double width, double height, double size)
     return layout;
 }
 
-// A text in lines, and how many times the usual size it can have.
+// A text in lines, how many times the usual size it can have, and how large its letters are on a
+// plate of that size: smaller than usual only where the largest plate would not hold them.
 struct Fitted {
     std::vector<std::string> lines;
     double size = 1.0;
+    double em = kTipEm;
 };
 
 Fitted fitted(const std::string& text, const ExtraRect& thing, double size,
@@ -132,6 +134,7 @@ Fitted fitted(const std::string& text, const ExtraRect& thing, double size,
 {
     constexpr double kLongestLine = 0.42;
     constexpr double kStep = 0.125;
+    constexpr double kSmaller = 0.95;
     const double room = sideFor(thing) == Side::Right
         ? 1.6 - kBoardMargin - (thing.x + thing.width / 2.0 + kTipGap * size)
         : 1.6 - 2.0 * kBoardMargin;
@@ -142,9 +145,13 @@ Fitted fitted(const std::string& text, const ExtraRect& thing, double size,
         if (lines.size() > kTipHeights.size()) {
             lines = broken(text, widest / kTipEm, metrics);
         }
-        if (lines.size() <= kTipHeights.size() || size <= 1.0) {
-            lines.resize(std::min(lines.size(), kTipHeights.size()));
-            return { std::move(lines), size };
+        double em = kTipEm;
+        while (size <= 1.0 && lines.size() > kTipHeights.size()) {
+            em *= kSmaller;
+            lines = broken(text, widest / em, metrics);
+        }
+        if (lines.size() <= kTipHeights.size()) {
+            return { std::move(lines), size, em };
         }
     }
 }
@@ -219,10 +226,10 @@ std::vector<std::string> broken(
 Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& text,
     const platform::TextMetrics& metrics, double size)
 {
-    const auto [lines, times] = fitted(text, thing, size, metrics);
+    const auto [lines, times, em] = fitted(text, thing, size, metrics);
     double longest = 0.0;
     for (const std::string& words : lines) {
-        longest = std::max(longest, metrics.preferredFrameSize(words).width * kTipEm);
+        longest = std::max(longest, metrics.preferredFrameSize(words).width * em);
     }
     const int width = stepFor(longest + kTipPadding, kTipNarrowest, kTipWidest, kTipStep);
     const Layout layout = layOut(
@@ -242,7 +249,7 @@ Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& 
         const double fromMiddle
             = (static_cast<double>(lines.size()) - 1.0) / 2.0 - static_cast<double>(i);
         extra.pieces.push_back(line(lines[i], layout.body.x,
-            layout.body.y + fromMiddle * kTipPitch * times, kTipEm * times, kTipInk, metrics));
+            layout.body.y + fromMiddle * kTipPitch * times, em * times, kTipInk, metrics));
     }
     return extra;
 }
@@ -252,7 +259,7 @@ Extra whisper(const std::string& text, const platform::TextMetrics& metrics, dou
     const double ems = metrics.preferredFrameSize(text).width;
     constexpr double kRoom = kWhisperWidest / 1000.0 - kWhisperPadding;
     const double em = std::clamp(kRoom / std::max(ems, 1.0), kWhisperSmallest, kWhisperEm);
-    if (size > 1.0) {
+    if (size > 1.0 || ems * em > kRoom) {
         return largeWhisper(text, metrics, em * size);
     }
     const int width

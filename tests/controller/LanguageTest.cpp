@@ -1,4 +1,5 @@
 #include "controller/MenuTable.h"
+#include "controller/SettingsTable.h"
 #include "controller/Speech.h"
 #include "language/Choice.h"
 #include "progress/Settings.h"
@@ -111,6 +112,28 @@ TEST_F(GermanGame, OpensTheItemsOfAMenuWithDifferentLetters)
                     << spoken.code << ": " << text << ", " << taken[letter];
             }
         }
+    }
+}
+
+TEST_F(GermanGame, ReachesTheLinesOfTheSettingsByDifferentLetters)
+{
+    for (const language::Name& spoken : language::kLanguages) {
+        choose(std::string(spoken.code));
+        std::map<std::string, std::string> taken;
+        const auto take = [&](const char* english) {
+            const std::string text = game().game().texts().localized("SettingsWindow", english);
+            const std::size_t mark = text.find('&');
+            ASSERT_NE(mark, std::string::npos) << text;
+            std::string letter = text.substr(mark + 1, 1);
+            letter[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(letter[0])));
+            EXPECT_TRUE(taken.emplace(letter, text).second)
+                << spoken.code << ": " << text << ", " << taken[letter];
+        };
+        for (const SettingItem& item : settingItems()) {
+            take(item.text);
+        }
+        take(kResetSettings);
+        take(kCloseSettings);
     }
 }
 

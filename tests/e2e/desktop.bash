@@ -81,6 +81,18 @@ stop_recording() {
   wait "$recorder" 2>/dev/null || true
 }
 
+# A session bus with what screen readers read through.
+start_bus() {
+  mkfifo "$folder/bus"
+  dbus-daemon --session --nofork --nopidfile --print-address=7 7>"$folder/bus" 2>"$folder/bus.log" &
+  children+=($!)
+  read -r DBUS_SESSION_BUS_ADDRESS <"$folder/bus"
+  export DBUS_SESSION_BUS_ADDRESS
+  # What a screen reader does when it starts.
+  dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.freedesktop.DBus.Properties.Set \
+    string:org.a11y.Status string:IsEnabled variant:boolean:true >/dev/null
+}
+
 start_game() {
   "$program" >>"$folder/log" 2>&1 &
   game=$!
