@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
-namespace veyrand::controller {
+namespace veyrand::app {
 
 namespace {
 
@@ -132,4 +132,4 @@ TEST_P(FittingWords, OfWhispersAreAllOnTheirPlates)
 
 INSTANTIATE_TEST_SUITE_P(All, FittingWords, testing::ValuesIn(language::knownCodes()));
 
-} // namespace veyrand::controller
+} // namespace veyrand::app
