@@ -1,6 +1,7 @@
 #include "app/Gallery.h"
 
 #include "app/GalleryResults.h"
+#include "app/SheetPictures.h"
 #include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
@@ -72,6 +73,8 @@ constexpr std::array kScenes {
     Scene { "dailyMessageWindow", 6, 2 },
     Scene { "editorMessageWindow", 6, 2 },
     Scene { "statisticsMessageWindow", 6, 2 },
+    Scene { "replayMessageWindow", 6, 2 },
+    Scene { "guideMessageWindow", 6, 2 },
     Scene { "allMovesMessageWindow", 3, 2 },
     Scene { "hintsInClassicMessageWindow", 3, 2 },
     Scene { "classicGameFinished", kLastLevel, 10, "chip-1-0" },
@@ -139,6 +142,7 @@ public:
         paintEdges();
         paintSheets();
         paintOtherStones();
+        showSheets(m_game, [this](const std::string& name) { take(name); });
         return m_complete;
     }
 

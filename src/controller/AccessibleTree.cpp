@@ -57,6 +57,9 @@ public:
             addLines(root);
             addHelp(root);
             addPanel(root);
+            if (m_controller.guide().showsButton()) {
+                root.children.push_back(placeToPress(m_controller.guide().button()));
+            }
         }
         root.children.push_back(status());
         return root;
@@ -78,14 +81,19 @@ private:
             made.children.push_back({ .id = "told", .role = Role::Text, .name = told });
         }
         for (const present::SheetPlace& place : sheets.places()) {
-            made.children.push_back({ .id = std::string(kOnSheet) + place.key,
-                .role = Role::Button,
-                .name = place.text,
-                .actions = { { kPress, m_names.pressAction() } },
-                .place = place.rect,
-                .isFocusable = true });
+            made.children.push_back(placeToPress(place));
         }
         return made;
+    }
+
+    [[nodiscard]] AccessibleNode placeToPress(const present::SheetPlace& place) const
+    {
+        return { .id = std::string(kOnSheet) + place.key,
+            .role = Role::Button,
+            .name = place.text,
+            .actions = { { kPress, m_names.pressAction() } },
+            .place = place.rect,
+            .isFocusable = true };
     }
 
     [[nodiscard]] AccessibleNode node(const std::string& key, Role role, std::string name) const

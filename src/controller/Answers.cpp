@@ -108,6 +108,7 @@ Answers::Situation Answers::situation() const
         return now;
     }
     now.whisper = m_whisper;
+    now.guide = m_controller.guide().state();
     now.tipSize = m_settings.tipSize;
     now.focus = m_controller.focus().shown();
     if (!now.isOn) {
@@ -156,6 +157,7 @@ void Answers::direct()
     }
     std::vector<Extra> wanted;
     m_controller.sheets().addTo(wanted);
+    m_controller.guide().addTo(wanted);
     if (m_shown.isOn) {
         addRows(wanted);
         addHands(wanted);

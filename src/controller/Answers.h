@@ -62,6 +62,7 @@ private:
         std::optional<input::Stop> focus;
         std::string celebration;
         unsigned sheet = 0; // the revision of what lies before the board
+        std::string guide; // what it says, and whether it can be asked
         std::string page;
         Finale finale = Finale::None;
         std::size_t words = 0; // lines of the message on show

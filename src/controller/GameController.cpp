@@ -21,6 +21,7 @@ GameController::GameController(GameContext& context)
     , m_shelf(*this)
     , m_practice(*this)
     , m_transfer(*this)
+    , m_guide(*this)
     , m_lines(*this)
     , m_moves(*this)
     , m_titlePage(context)
@@ -164,6 +165,8 @@ bool GameController::speak(input::KeyCommand::Verb verb)
     case Verb::SpeakChoices:
         m_speaker.sayChoices();
         return true;
+    case Verb::HowFar:
+        return m_guide.ask();
     default:
         return false;
     }

@@ -4,6 +4,7 @@
 #include "controller/Dialogues.h"
 #include "controller/FullScreen.h"
 #include "controller/GameFlow.h"
+#include "controller/Guide.h"
 #include "controller/Hints.h"
 #include "controller/History.h"
 #include "controller/KeptGames.h"
@@ -61,6 +62,7 @@ public:
     [[nodiscard]] Sheets& sheets() { return m_sheets; }
     [[nodiscard]] Practice& practice() { return m_practice; }
     [[nodiscard]] const Practice& practice() const { return m_practice; }
+    [[nodiscard]] Guide& guide() { return m_guide; }
     [[nodiscard]] ResultBook& book() { return m_book; }
     [[nodiscard]] PuzzleShelf& shelf() { return m_shelf; }
     [[nodiscard]] Transfer& transfer() { return m_transfer; }
@@ -127,6 +129,7 @@ private:
     PuzzleShelf m_shelf;
     Practice m_practice;
     Transfer m_transfer;
+    Guide m_guide;
     ProofLines m_lines;
     Moves m_moves;
     TitlePage m_titlePage;

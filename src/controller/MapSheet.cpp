@@ -68,6 +68,8 @@ void MapSheet::press(const std::string& key)
 {
     if (placeOf(key) || key == "play") {
         m_controller.practice().choose(m_chosen);
+    } else if (key == "replay") {
+        m_controller.sheets().openReplay(play::nameOf(m_chosen));
     } else if (key == "copy-code") {
         if (m_controller.context().clipboard != nullptr && !codeOfChosen().empty()) {
             m_controller.context().clipboard->setText(codeOfChosen());
@@ -225,12 +227,15 @@ void MapSheet::drawPanel(SheetDrawing& drawing) const
     drawing.words(text("countAtPar", { { "stars", std::to_string(statistics.atPar) } }), 295, 200,
         34, Ink::Gold);
     drawCard(drawing);
-    drawing.button("play", text("play"), 180, 706, 232, 74, SheetDrawing::Button::Main);
-    drawing.button("daily", text("daily"), 422, 706, 232, 74);
-    drawing.button("copy-code", text("copyCode"), 180, 792, 232, 66);
-    drawing.button("paste-code", text("pasteCode"), 422, 792, 232, 66);
-    drawing.button("editor", m_controller.context().texts.text("editor.title"), 180, 872, 232, 66);
-    drawing.button("menu", text("menu"), 422, 872, 232, 66);
+    drawing.button("play", text("play"), 180, 690, 232, 74, SheetDrawing::Button::Main);
+    if (m_controller.practice().isSolved(m_chosen)) {
+        drawing.button("replay", text("replay"), 422, 690, 232, 74);
+    }
+    drawing.button("daily", text("daily"), 180, 768, 232, 66);
+    drawing.button("editor", m_controller.context().texts.text("editor.title"), 422, 768, 232, 66);
+    drawing.button("copy-code", text("copyCode"), 180, 842, 232, 66);
+    drawing.button("paste-code", text("pasteCode"), 422, 842, 232, 66);
+    drawing.button("menu", text("menu"), 422, 916, 232, 66);
 }
 
 void MapSheet::drawCard(SheetDrawing& drawing) const

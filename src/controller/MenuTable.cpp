@@ -214,6 +214,12 @@ constexpr std::array kItems {
     page(
         MenuItemId::StatisticsHelp, "Stat&istics", {},
         [](GameController& game) { game.pages().show("statisticsMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::LookingBack, "&Looking Back", {},
+        [](GameController& game) { game.pages().show("replayMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::HowFar, "How &Far", {},
+        [](GameController& game) { game.pages().show("guideMessageWindow"); }, canOpenPage),
     separator(MenuId::Help),
     MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
 };

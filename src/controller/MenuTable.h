@@ -44,6 +44,8 @@ enum class MenuItemId {
     DailyHelp,
     EditorHelp,
     StatisticsHelp,
+    LookingBack,
+    HowFar,
     About,
 };
 

@@ -104,7 +104,12 @@ void Practice::openOrTell(std::string_view code)
 
 void Practice::openToday()
 {
-    tell(openDaily(m_controller.book().today()));
+    openDayOrTell(m_controller.book().today());
+}
+
+void Practice::openDayOrTell(const progress::CalendarDate& date)
+{
+    tell(openDaily(date));
 }
 
 void Practice::tell(const std::string& fault)
@@ -248,18 +253,27 @@ bool Practice::isOn() const
     return m_game.currentGame.practice() && m_controller.proof();
 }
 
-// What Classic asks next is no use of practice: it would be solved there by what is free here.
 bool Practice::givesHints() const
 {
-    const auto* const entry = entryAt(standing());
     const auto& proof = m_controller.proof();
-    return entry == nullptr || !proof || isSolved(standing())
-        || proof->root().theorem() != entry->root || proof->goal().theorem() != entry->goal;
+    return !proof || mayTellOf({ proof->root().theorem(), proof->goal().theorem() });
 }
 
+bool Practice::mayTellOf(const play::CodedPuzzle& puzzle) const
+{
+    const auto* const entry = entryAt(standing());
+    return entry == nullptr || isSolved(standing()) || puzzle.root != entry->root
+        || puzzle.goal != entry->goal;
+}
+
+// What has no place on the map is offered to be looked at again at once.
 void Practice::finished()
 {
+    const std::string solved = m_place ? std::string() : m_name;
     m_controller.flow().returnToMenu();
+    if (!solved.empty() && m_controller.sheets().name() == "map") {
+        m_controller.sheets().openReplay(solved);
+    }
 }
 
 } // namespace veyrand::controller

@@ -38,6 +38,7 @@ public:
     // line.
     void openOrTell(std::string_view code);
     void openToday();
+    void openDayOrTell(const progress::CalendarDate& date);
     // What keeps the puzzle of a day from being played, in words; empty when it comes.
     [[nodiscard]] std::string openDaily(const progress::CalendarDate& date);
 
@@ -56,6 +57,9 @@ public:
     // Of the puzzle that is practised now.
     [[nodiscard]] bool isOn() const;
     [[nodiscard]] bool givesHints() const;
+    // Whether the ways of a puzzle may be told. What Classic asks next is no use of practice: it
+    // would be solved there by what is free here.
+    [[nodiscard]] bool mayTellOf(const play::CodedPuzzle& puzzle) const;
     [[nodiscard]] const std::string& nameInPlay() const { return m_name; } // as results are named
 
     // Of the Classic game, practised last.

@@ -42,6 +42,12 @@ std::string ResultBook::nameOfPuzzleInPlay() const
                               : play::nameOf(progress::Place { game.level(), game.stage() });
 }
 
+const play::Result* ResultBook::toReplay(const std::string& name) const
+{
+    const auto latest = m_latest.find(name);
+    return latest != m_latest.end() ? &latest->second : m_results.of(name);
+}
+
 void ResultBook::solved(const std::string& name)
 {
     const play::Session* const session = m_controller.flow().session();
@@ -61,6 +67,7 @@ void ResultBook::solved(const std::string& name)
         result.moves.push_back(replay.lines()[row].move);
     }
     m_results.add(name, result);
+    m_latest.insert_or_assign(name, result);
     save();
 }
 

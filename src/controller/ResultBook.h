@@ -3,6 +3,8 @@
 #include "controller/KeptText.h"
 #include "play/Results.h"
 
+#include <map>
+
 namespace veyrand::controller {
 
 class GameController;
@@ -19,6 +21,10 @@ public:
     [[nodiscard]] const play::Results& results() const { return m_results; }
     [[nodiscard]] progress::CalendarDate today() const;
     [[nodiscard]] play::Statistics statistics() const;
+
+    // The solution to look at again: the last one since the launch, or the one that is kept. Null
+    // when there is none.
+    [[nodiscard]] const play::Result* toReplay(const std::string& name) const;
 
     // The puzzle in play has been solved, under this name.
     void solved(const std::string& name);
@@ -37,6 +43,7 @@ private:
     GameContext& m_game;
     KeptText m_file;
     play::Results m_results;
+    std::map<std::string, play::Result> m_latest; // since the launch
 };
 
 } // namespace veyrand::controller

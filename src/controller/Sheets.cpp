@@ -6,6 +6,7 @@
 #include "controller/GameController.h"
 #include "controller/MapSheet.h"
 #include "controller/MineSheet.h"
+#include "controller/ReplaySheet.h"
 #include "controller/StatisticsSheet.h"
 
 #include <algorithm>
@@ -83,6 +84,23 @@ void Sheets::openEditor()
 void Sheets::openMine()
 {
     open(std::make_unique<MineSheet>(m_controller));
+}
+
+void Sheets::openReplay(const std::string& name)
+{
+    if (auto subject = replaySubject(m_controller, name)) {
+        m_under = std::move(m_sheet);
+        open(std::make_unique<ReplaySheet>(m_controller, *std::move(subject)));
+    }
+}
+
+void Sheets::leaveReplay()
+{
+    if (m_under) {
+        open(std::move(m_under));
+    } else {
+        openMap();
+    }
 }
 
 void Sheets::close()
@@ -207,16 +225,28 @@ void Sheets::addTo(std::vector<present::Extra>& wanted) const
     }
 }
 
+std::vector<SheetPlace> Sheets::buttons() const
+{
+    std::vector<SheetPlace> buttons;
+    if (m_sheet) {
+        return buttons;
+    }
+    if (showsButton()) {
+        buttons.push_back({ std::string(kButton), m_game.texts.text("practice.puzzles"),
+            present::puzzlesButtonPlace() });
+    }
+    if (m_controller.guide().showsButton()) {
+        buttons.push_back(m_controller.guide().button());
+    }
+    return buttons;
+}
+
 std::string Sheets::placeAt(platform::Point place) const
 {
-    if (!m_sheet) {
-        return showsButton() && holds(present::puzzlesButtonPlace(), place) ? std::string(kButton)
-                                                                            : std::string();
-    }
-    const present::SheetDrawing drawn = drawing();
-    const auto found = std::find_if(drawn.places().begin(), drawn.places().end(),
+    const std::vector<SheetPlace> all = m_sheet ? places() : buttons();
+    const auto found = std::find_if(all.begin(), all.end(),
         [place](const SheetPlace& each) { return holds(each.rect, place); });
-    return found != drawn.places().end() ? found->key : std::string();
+    return found != all.end() ? found->key : std::string();
 }
 
 bool Sheets::covers(platform::Point place) const
@@ -241,7 +271,7 @@ void Sheets::released(platform::Point place)
 
 bool Sheets::hovered(platform::Point place)
 {
-    if (!m_sheet && !showsButton() && m_hovered.empty()) {
+    if (!m_sheet && m_hovered.empty() && buttons().empty()) {
         return false;
     }
     const std::string now = placeAt(place);
@@ -259,6 +289,8 @@ void Sheets::act(const std::string& key)
 {
     if (key == kButton) {
         openMap();
+    } else if (key == kGuideButton) {
+        m_controller.guide().ask();
     } else if (m_sheet) {
         m_sheet->press(key);
         changed();

@@ -46,6 +46,16 @@ public:
     void openStatistics();
     void openEditor();
     void openMine();
+    // A solved puzzle, by its name in the result book: nothing opens where it is not to be shown.
+    void openReplay(const std::string& name);
+    [[nodiscard]] bool isShowing(const Sheet& sheet) const { return m_sheet.get() == &sheet; }
+    [[nodiscard]] const Sheet* shown() const { return m_sheet.get(); } // null when none is open
+
+    void leaveReplay(); // for the sheet from which it was opened
+
+    // What can be pressed before the board while no sheet is open.
+    [[nodiscard]] std::vector<present::SheetPlace> buttons() const;
+    [[nodiscard]] const std::string& hovered() const { return m_hovered; }
 
     // What the sheet shows has changed.
     void changed();
@@ -79,6 +89,7 @@ private:
     GameContext& m_game;
     std::unique_ptr<Sheet> m_sheet;
     std::unique_ptr<Sheet> m_left; // from which the puzzle in play came
+    std::unique_ptr<Sheet> m_under; // from which a replay was opened
     std::vector<std::unique_ptr<Sheet>> m_closed; // until whoever they called has returned
     std::string m_focus;
     std::string m_hovered;

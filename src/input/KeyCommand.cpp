@@ -44,6 +44,7 @@ constexpr std::array kBindings {
     Binding { "P", Verb::SpeakPoints },
     Binding { "R", Verb::SpeakAgain },
     Binding { "Shift+H", Verb::SpeakChoices },
+    Binding { "N", Verb::HowFar },
 };
 
 } // namespace

@@ -27,6 +27,7 @@ struct KeyCommand {
         TakeBack, // the last line
         Hint,
         Moves,
+        HowFar, // the goal is
         SpeakGoal,
         SpeakLine,
         SpeakDifference,

@@ -1,5 +1,6 @@
 #include "play/Ways.h"
 
+#include "play/Refusal.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>
@@ -16,11 +17,6 @@ using engine::PackedLine;
 constexpr MoveSet kClicks
     = only(progress::kGreenToEnd) | only(progress::kDoubling) | only(progress::kSplitGreens);
 
-MoveSet movesWith(unsigned standing)
-{
-    return standing <= kMostLinesForDrag ? kAllMoves : kClicks;
-}
-
 // What no move makes where there is none: a goal that has it needs a line that has it.
 bool lacksForEver(PackedLine from, PackedLine goal)
 {
@@ -32,7 +28,43 @@ bool lacksForEver(PackedLine from, PackedLine goal)
     return lacks('Y') || lacks('R');
 }
 
+// Calls visit(child) for each line one such move away, in the order of all searches, until one is
+// answered with true; whether one was. One that is too long is no line.
+template <class Visit> bool anyChild(PackedLine line, MoveSet moves, const Visit& visit)
+{
+    engine::PackedMoves::Children children;
+    if (moves == kAllMoves) {
+        gameMoves().childrenOf(line, kMostChips, children);
+        return std::any_of(children.begin(), children.end(), visit);
+    }
+    for (unsigned rule = 0; rule < progress::kMoveCount; ++rule) {
+        if ((moves & only(rule)) != 0) {
+            gameMoves().childrenByRule(rule, line, kMostChips, children);
+            if (std::any_of(children.begin(), children.end(), visit)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 } // namespace
+
+MoveSet movesWith(unsigned standing)
+{
+    return standing <= kMostLinesForDrag ? kAllMoves : kClicks;
+}
+
+MoveSet openMoves(int count)
+{
+    constexpr unsigned kOpenTogether = 6; // and the seventh
+    MoveSet moves = 0;
+    for (unsigned rule = 0; rule < progress::kMoveCount; ++rule) {
+        const unsigned opens = std::min(labelOf(rule), kOpenTogether);
+        moves |= static_cast<int>(opens) <= count ? only(rule) : 0;
+    }
+    return moves;
+}
 
 bool hasOneYellowAtMost(PackedLine line)
 {
@@ -86,7 +118,7 @@ double Ways::bits() const
         at = m_lines[at].from.front();
         const unsigned standing = m_standing + m_lines[at].distance;
         if (standing + 1 < kMostLines) { // the last line is the goal or none
-            const auto steps = stepsFrom(m_lines[at].line, movesWith(standing));
+            const auto steps = stepsFrom(m_lines[at].line, movesWith(standing) & m_open);
             bits += std::log2(
                 static_cast<double>(steps.size()) / static_cast<double>(m_lines[at].on.size()));
         }
@@ -99,7 +131,8 @@ WaySearch::WaySearch()
 {
 }
 
-std::optional<Ways> WaySearch::find(PackedLine from, PackedLine goal, unsigned standing)
+std::optional<Ways> WaySearch::find(
+    PackedLine from, PackedLine goal, unsigned standing, MoveSet open)
 {
     if (standing >= kMostLines || goal.length() > kMostChips || from.length() > kMostChips
         || !hasOneYellowAtMost(goal) || lacksForEver(from, goal)) {
@@ -109,32 +142,28 @@ std::optional<Ways> WaySearch::find(PackedLine from, PackedLine goal, unsigned s
     m_seen.insert(from);
     m_lines.assign(1, from);
     m_firsts.assign(1, 0);
-    const std::optional<unsigned> moves = search(goal, standing, kMostLines - standing);
-    return moves ? std::optional(trace(goal, standing, *moves)) : std::nullopt;
+    const std::optional<unsigned> moves = search(goal, standing, kMostLines - standing, open);
+    return moves ? std::optional(trace(goal, standing, *moves, open)) : std::nullopt;
 }
 
 // How many moves away the goal is. All lines that are nearer have been found then.
-std::optional<unsigned> WaySearch::search(PackedLine goal, unsigned standing, unsigned most)
+std::optional<unsigned> WaySearch::search(
+    PackedLine goal, unsigned standing, unsigned most, MoveSet open)
 {
-    engine::PackedMoves::Children children;
     for (unsigned moves = 1; moves <= most; ++moves) {
-        const MoveSet open = movesWith(standing + moves - 1);
-        const bool isLast = moves == most;
+        const MoveSet now = movesWith(standing + moves - 1) & open;
         const std::size_t first = m_firsts.back();
         const std::size_t end = m_lines.size();
         m_firsts.push_back(end);
         for (std::size_t i = first; i < end; ++i) {
-            if (open == kAllMoves) {
-                gameMoves().childrenOf(m_lines[i], kMostChips, children);
-                for (const PackedLine child : children) {
-                    if (child == goal) {
-                        return moves;
-                    }
-                    if (child != PackedLine() && m_seen.insert(child)) {
-                        m_lines.push_back(child);
-                    }
+            const bool isMet = anyChild(m_lines[i], now, [&](PackedLine child) {
+                if (child != goal && moves < most && child != PackedLine()
+                    && m_seen.insert(child)) {
+                    m_lines.push_back(child);
                 }
-            } else if (const auto move = moveBetween(m_lines[i], goal, open); isLast && move) {
+                return child == goal;
+            });
+            if (isMet) {
                 return moves;
             }
         }
@@ -143,7 +172,7 @@ std::optional<unsigned> WaySearch::search(PackedLine goal, unsigned standing, un
 }
 
 // Backwards from the goal, distance by distance: a line is on a way when one of the next is.
-Ways WaySearch::trace(PackedLine goal, unsigned standing, unsigned moves) const
+Ways WaySearch::trace(PackedLine goal, unsigned standing, unsigned moves, MoveSet open) const
 {
     struct Found {
         PackedLine line;
@@ -161,7 +190,7 @@ Ways WaySearch::trace(PackedLine goal, unsigned standing, unsigned moves) const
                     [&](PackedLine child) { return wanted.contains(child.word()); })) {
                 continue;
             }
-            std::vector<Step> on = stepsFrom(m_lines[i], movesWith(standing + distance));
+            std::vector<Step> on = stepsFrom(m_lines[i], movesWith(standing + distance) & open);
             on.erase(std::remove_if(on.begin(), on.end(),
                          [&](const Step& step) { return !wanted.contains(step.line.word()); }),
                 on.end());
@@ -177,6 +206,7 @@ Ways WaySearch::trace(PackedLine goal, unsigned standing, unsigned moves) const
 
     Ways ways;
     ways.m_standing = standing;
+    ways.m_open = open;
     std::vector<std::unordered_map<std::uint64_t, std::size_t>> places(moves + 1);
     for (unsigned distance = 0; distance <= moves; ++distance) {
         for (const Found& found : layers[distance]) {

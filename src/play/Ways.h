@@ -10,9 +10,14 @@
 
 namespace veyrand::play {
 
+// The moves that the board accepts with so many lines on it, which are clicks in the end; and
+// those that are open where the player has so many of them.
+[[nodiscard]] MoveSet movesWith(unsigned standing);
+[[nodiscard]] MoveSet openMoves(int count);
+
 // All shortest ways from one line to another that the board accepts: lines of 12 chips at most, 13
-// lines in all, no drag from the twelfth on, and all seven moves. Exact: what a Ways says has been
-// proven. Two ways that differ in a line are different.
+// lines in all, no drag from the twelfth on, and the moves that are open. Exact: what a Ways says
+// has been proven. Two ways that differ in a line are different.
 class Ways {
 public:
     // A line on one of them, and how it goes on towards the goal.
@@ -48,6 +53,7 @@ private:
 
     std::vector<Line> m_lines;
     unsigned m_standing = 1; // lines on the board, the first one included
+    MoveSet m_open = kAllMoves;
 };
 
 // Finds them. One object serves any number of questions, and keeps its memory between them.
@@ -58,13 +64,14 @@ public:
     // With so many lines on the board, of which `from` is the last. Nothing when the goal cannot be
     // reached on this board. A goal that stands already is to be made again. `from` must have one
     // yellow at most.
-    [[nodiscard]] std::optional<Ways> find(
-        engine::PackedLine from, engine::PackedLine goal, unsigned standing = 1);
+    [[nodiscard]] std::optional<Ways> find(engine::PackedLine from, engine::PackedLine goal,
+        unsigned standing = 1, MoveSet open = kAllMoves);
 
 private:
     [[nodiscard]] std::optional<unsigned> search(
-        engine::PackedLine goal, unsigned standing, unsigned most);
-    [[nodiscard]] Ways trace(engine::PackedLine goal, unsigned standing, unsigned moves) const;
+        engine::PackedLine goal, unsigned standing, unsigned most, MoveSet open);
+    [[nodiscard]] Ways trace(
+        engine::PackedLine goal, unsigned standing, unsigned moves, MoveSet open) const;
 
     engine::OneYellowSet m_seen;
     std::vector<engine::PackedLine> m_lines; // by distance

@@ -1,6 +1,7 @@
 #include "present/SheetDrawing.h"
 
 #include "board/BoardGeometry.h"
+#include "present/ExtraWords.h"
 
 #include <algorithm>
 #include <array>
@@ -32,6 +33,8 @@ board::Color colourOf(SheetDrawing::Ink ink)
         return { .red = 0.953, .green = 0.886, .blue = 0.737, .alpha = 1.0 };
     case SheetDrawing::Ink::Dark:
         return { .red = 0.20, .green = 0.125, .blue = 0.06, .alpha = 1.0 };
+    case SheetDrawing::Ink::Shade:
+        return { .red = 0.10, .green = 0.05, .blue = 0.016, .alpha = 1.0 };
     case SheetDrawing::Ink::Carved:
         break;
     }
@@ -86,8 +89,28 @@ void SheetDrawing::title(const std::string& text)
     picture("HorizontalLine", 295, 112, 380, 3);
 }
 
-void SheetDrawing::button(const std::string& key, const std::string& text, double x, double y,
-    int width, int height, Button look)
+void SheetDrawing::paragraph(
+    const std::string& text, double x, double y, double em, Ink ink, double room)
+{
+    constexpr double kPitch = 1.28; // ems
+    const std::vector<std::string> lines = broken(text, room / em, m_metrics);
+    double at = y - (static_cast<double>(lines.size()) - 1.0) / 2.0 * kPitch * em;
+    for (const std::string& line : lines) {
+        words(line, x, at, em, ink, Align::Middle, room);
+        at += kPitch * em;
+    }
+}
+
+void SheetDrawing::bar(double x, double y, double width, double height, Ink ink, double opacity)
+{
+    m_pieces.push_back({ .content = SolidContent { colourOf(ink) },
+        .rect = rectAt(x, y, width, height),
+        .opacity = opacity });
+}
+
+// Whether it is lit.
+bool SheetDrawing::plate(
+    const std::string& key, double x, double y, int width, int height, Button look)
 {
     const bool isLit = look == Button::Main || isFocused(key);
     picture(sized("SheetButton", width, height) + (isLit ? "-Lit" : ""), x, y,
@@ -95,6 +118,22 @@ void SheetDrawing::button(const std::string& key, const std::string& text, doubl
     if (look == Button::Chosen || (look == Button::Main && isFocused(key))) {
         picture("HorizontalLine", x, y + height / 2.0 - 13.0, width * 0.7, 3);
     }
+    return isLit;
+}
+
+void SheetDrawing::signButton(const std::string& key, const std::string& text,
+    std::string_view sign, double x, double y, int width, int height, Button look)
+{
+    constexpr double kShare = 0.6; // of the plate's height
+    const bool isLit = plate(key, x, y, width, height, look);
+    picture(std::string(sign) + (isLit ? "-Lit" : ""), x, y, kShare * height, kShare * height);
+    place(key, text, x, y, width, height);
+}
+
+void SheetDrawing::button(const std::string& key, const std::string& text, double x, double y,
+    int width, int height, Button look)
+{
+    const bool isLit = plate(key, x, y, width, height, look);
     constexpr double kSideRoom = 36.0;
     words(text, x, y - 1.0, std::min(34.0, height * 0.47), isLit ? Ink::Ivory : Ink::Carved,
         Align::Middle, width - kSideRoom);
@@ -154,6 +193,11 @@ std::vector<std::string> sheetPictureNames()
         "EmptySeat", "DayComing", "DayOpen", "DayAtPar", "DayOver", "BrassDisc", "NotReachable",
         "BackGold", "OnGold", "BackDark", "OnDark", "BarGold", "BarPale", "BarPlain", "BarOpen",
         "BarTrack" };
+    for (const char* const sign :
+        { "StepFirst", "StepBack", "StepRun", "StepPause", "StepOn", "StepLast" }) {
+        names.emplace_back(sign);
+        names.push_back(names.back() + "-Lit");
+    }
     for (const auto& [width, height] : kButtons) {
         names.push_back(sized("SheetButton", width, height));
         names.push_back(names.back() + "-Lit");

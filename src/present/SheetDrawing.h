@@ -21,7 +21,7 @@ struct SheetPlace {
 // paper: a sheet is 1600 wide.
 class SheetDrawing {
 public:
-    enum class Ink { Ivory, Gold, Pale, Dark, Carved };
+    enum class Ink { Ivory, Gold, Pale, Dark, Carved, Shade };
     enum class Align { Left, Middle, Right };
     enum class Button { Plain, Main, Chosen };
 
@@ -37,11 +37,18 @@ public:
     // A text is made smaller when it is wider than its room, where that is given.
     void words(const std::string& text, double x, double y, double em, Ink ink,
         Align align = Align::Middle, double room = 0.0);
+    // In as many lines as it takes, the middle one at the place given.
+    void paragraph(const std::string& text, double x, double y, double em, Ink ink, double room);
+    // A bar of one colour.
+    void bar(double x, double y, double width, double height, Ink ink, double opacity = 1.0);
     // The name of the sheet over its panel.
     void title(const std::string& text);
     // Plates of the sizes that there are pictures of.
     void button(const std::string& key, const std::string& text, double x, double y, int width,
         int height, Button look = Button::Plain);
+    // With a sign in the place of words, which are for whoever does not see it.
+    void signButton(const std::string& key, const std::string& text, std::string_view sign,
+        double x, double y, int width, int height, Button look = Button::Plain);
     void card(double x, double y, int width, int height);
     void pane(double x, double y, int width, int height);
     // A line of chips from its left end on.
@@ -58,6 +65,8 @@ public:
     [[nodiscard]] const std::vector<SheetPlace>& places() const { return m_places; }
 
 private:
+    bool plate(const std::string& key, double x, double y, int width, int height, Button look);
+
     const platform::TextMetrics& m_metrics;
     std::string m_focus;
     std::vector<ExtraPiece> m_pieces;

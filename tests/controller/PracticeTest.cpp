@@ -1,3 +1,4 @@
+#include "controller/ReplaySheet.h"
 #include "headless/HeadlessGame.h"
 #include "platform/fakes/MemoryJournal.h"
 #include "progress/PlayerKeys.h"
@@ -155,6 +156,76 @@ TEST_F(PracticeTest, LeavesBothGamesAsTheyAreOnEveryPageBesideThem)
     launch();
     EXPECT_EQ(kept(), before);
     EXPECT_EQ(game().shelf().puzzles().all().size(), 1U);
+}
+
+TEST_F(PracticeTest, LeavesThemSoWhenTheBoardIsAskedAndASolutionLookedAt)
+{
+    const std::string before = kept();
+    ASSERT_TRUE(game().practice().play({ 2, 5 }));
+    m_game->wait(2.0);
+    ASSERT_TRUE(game().guide().ask());
+    playSomething();
+    m_game->wait(3.0);
+    EXPECT_TRUE(game().guide().advice());
+    solveByHints();
+    m_game->wait(8.0);
+    game().sheets().openReplay("2-5");
+    ASSERT_EQ(game().sheets().name(), "replay");
+    for (const char* const key : { "Right", "End", "Home", "PgDown", "PgUp", "Return" }) {
+        game().sheets().key(key);
+    }
+    m_game->wait(12.0);
+    game().sheets().close();
+    EXPECT_EQ(kept(), before);
+    launch();
+    EXPECT_EQ(kept(), before);
+}
+
+TEST_F(PracticeTest, TellsNoShortestWayOfThePuzzleThatClassicAsks)
+{
+    const auto* const next = game().practice().entryAt({ 3, 4 });
+    const auto* const other = game().practice().entryAt({ 3, 5 });
+    play::Results results;
+    for (const auto* const entry : { next, other }) {
+        results.add(play::codeOf(entry->root, entry->goal).value(),
+            { .puzzle = { entry->root, entry->goal }, .par = 3, .moves = {} });
+    }
+    game().book().join(results);
+    EXPECT_FALSE(replaySubject(game(), play::codeOf(next->root, next->goal).value())->mayTell);
+    EXPECT_TRUE(replaySubject(game(), play::codeOf(other->root, other->goal).value())->mayTell);
+    EXPECT_FALSE(replaySubject(game(), "3-4")); // not solved
+    EXPECT_FALSE(replaySubject(game(), "9-9")); // not reached
+    EXPECT_TRUE(replaySubject(game(), "3-3"));
+}
+
+TEST_F(PracticeTest, ShowsTheSolutionPlayedLastAndKeepsTheBest)
+{
+    const auto* const entry = game().practice().entryAt({ 1, 3 }); // YR to YRG
+    for (const std::size_t doublings : { 0U, 2U }) {
+        ASSERT_TRUE(game().practice().play({ 1, 3 }));
+        m_game->wait(2.0);
+        m_game->currentGame().placePuzzle({ .root = entry->root,
+            .goal = entry->goal,
+            .par = entry->par,
+            .level = 1,
+            .stage = 3,
+            .practice
+            = progress::CurrentGame::Practice { .open = 7, .caption = "1-3", .purse = 1000 } });
+        game().flow().layOutPuzzle();
+        for (unsigned row = 0; row < doublings; ++row) {
+            game().moves().mouseClick(row, 0);
+            m_game->wait(3.0);
+        }
+        if (doublings == 0) {
+            game().moves().mouseClick(0, 1);
+        } else {
+            game().moves().mouseDrag(2, 2, 2, 4); // three reds of YRRRR
+        }
+        m_game->wait(8.0);
+    }
+    EXPECT_EQ(game().book().toReplay("1-3")->moves.size(), 3U);
+    EXPECT_EQ(game().book().results().of("1-3")->moves.size(), 1U);
+    EXPECT_EQ(game().book().toReplay("1-5"), nullptr);
 }
 
 TEST_F(PracticeTest, LeavesAPuzzleInPlayWhereItIsFoundAgain)

@@ -11,13 +11,13 @@ using ::testing::IsEmpty;
 
 namespace {
 
-constexpr int kAllMoves = 7;
+constexpr int kAllOpen = 7;
 
 // So many lines, the last of which is the given one; the goal is one that no gesture here makes,
 // unless it is named.
 class Situation {
 public:
-    explicit Situation(const char* line, int open = kAllMoves, std::size_t count = 1)
+    explicit Situation(const char* line, int open = kAllOpen, std::size_t count = 1)
         : m_lines(count, engine::Theorem(line))
         , m_open(open)
     {
@@ -84,7 +84,7 @@ private:
 // The yellow chip, wherever it stands, if it is not the last: always open.
 TEST(Click, OnTheYellowDoublesWhatFollowsIt)
 {
-    for (int open = 1; open <= kAllMoves; ++open) {
+    for (int open = 1; open <= kAllOpen; ++open) {
         EXPECT_EQ(Situation("YR", open).click(0), "1/0 YRR") << open;
     }
     EXPECT_EQ(Situation("RGYB").click(2), "1/0 RGYBB");
@@ -124,17 +124,17 @@ TEST(Click, MakesNoLineThatTheBoardHasNoRoomFor)
 {
     EXPECT_EQ(Situation("RYGGGGG").click(1), "1/0 RYGGGGGGGGGG"); // 12 chips
     EXPECT_EQ(Situation("YGGGGGG").click(0), "TooLong");
-    EXPECT_EQ(Situation("YR", kAllMoves, 11).click(0), "1/0 YRR");
-    EXPECT_EQ(Situation("YR", kAllMoves, 12).click(0), "LastMustBeGoal");
-    EXPECT_EQ(Situation("YR", kAllMoves, 12).towards("YRR").click(0), "1/0 YRR");
-    EXPECT_EQ(Situation("YR", kAllMoves, 13).towards("YRR").click(0), "BoardFull");
-    EXPECT_EQ(Situation("YR", kAllMoves, 0).ask(Click { 0, 0 }), "NoLine");
+    EXPECT_EQ(Situation("YR", kAllOpen, 11).click(0), "1/0 YRR");
+    EXPECT_EQ(Situation("YR", kAllOpen, 12).click(0), "LastMustBeGoal");
+    EXPECT_EQ(Situation("YR", kAllOpen, 12).towards("YRR").click(0), "1/0 YRR");
+    EXPECT_EQ(Situation("YR", kAllOpen, 13).towards("YRR").click(0), "BoardFull");
+    EXPECT_EQ(Situation("YR", kAllOpen, 0).ask(Click { 0, 0 }), "NoLine");
 }
 
 TEST(Click, IsForTheLastLine)
 {
-    EXPECT_EQ(Situation("YR", kAllMoves, 3).ask(Click { 1, 0 }), "NotLastLine");
-    EXPECT_EQ(Situation("YR", kAllMoves, 3).ask(Click { 3, 0 }), "NotLastLine");
+    EXPECT_EQ(Situation("YR", kAllOpen, 3).ask(Click { 1, 0 }), "NotLastLine");
+    EXPECT_EQ(Situation("YR", kAllOpen, 3).ask(Click { 3, 0 }), "NotLastLine");
 }
 
 TEST(Drag, AlongThreeRedsMakesThemAGreen)
@@ -189,21 +189,21 @@ TEST(Drag, OfNeighbouringBluesFallsToTheFirstMatchOfTheLine)
 
 TEST(Drag, IsRefusedWhereItStartsThenWhereItEnds)
 {
-    const Situation three("YGG", kAllMoves, 3);
+    const Situation three("YGG", kAllOpen, 3);
     EXPECT_EQ(three.ask(Drag { 1, 1, 1, 2 }), "NotLastLine");
     EXPECT_EQ(three.ask(Drag { 2, 1, 1, 2 }), "OtherRow");
     EXPECT_EQ(three.drag(1, 1), "SameChip");
     EXPECT_EQ(three.drag(1, 3), "NoChip");
     EXPECT_EQ(three.drag(7, 1), "NoChip");
-    EXPECT_EQ(Situation("YGG", kAllMoves, 11).drag(1, 2), "3/0 Y");
-    EXPECT_EQ(Situation("YGG", kAllMoves, 12).drag(1, 2), "NoDragNow");
-    EXPECT_EQ(Situation("YGG", kAllMoves, 13).drag(1, 2), "NoDragNow");
-    EXPECT_EQ(Situation("YGG", kAllMoves, 0).ask(Drag { 0, 1, 0, 2 }), "NoLine");
+    EXPECT_EQ(Situation("YGG", kAllOpen, 11).drag(1, 2), "3/0 Y");
+    EXPECT_EQ(Situation("YGG", kAllOpen, 12).drag(1, 2), "NoDragNow");
+    EXPECT_EQ(Situation("YGG", kAllOpen, 13).drag(1, 2), "NoDragNow");
+    EXPECT_EQ(Situation("YGG", kAllOpen, 0).ask(Drag { 0, 1, 0, 2 }), "NoLine");
 }
 
 TEST(Drag, IsSilentOnALineThatIsNotTheLastWhereAClickIsNot)
 {
-    const Situation three("YGG", kAllMoves, 3);
+    const Situation three("YGG", kAllOpen, 3);
     EXPECT_EQ(
         std::get<Refusal>(decide(three.position(), Drag { 1, 1, 1, 2 })).heard, Heard::Silent);
     EXPECT_EQ(std::get<Refusal>(decide(three.position(), Click { 1, 1 })).heard, Heard::No);
@@ -211,7 +211,7 @@ TEST(Drag, IsSilentOnALineThatIsNotTheLastWhereAClickIsNot)
 
 TEST(Removal, IsOfAnyRowButTheStartLine)
 {
-    const Situation three("YR", kAllMoves, 3);
+    const Situation three("YR", kAllOpen, 3);
     EXPECT_EQ(three.ask(Remove { 1 }), "remove 1");
     EXPECT_EQ(three.ask(Remove { 2 }), "remove 2");
     EXPECT_EQ(three.ask(Remove { 0 }), "NoSuchRow");
@@ -220,7 +220,7 @@ TEST(Removal, IsOfAnyRowButTheStartLine)
 
 TEST(ALesson, WithAClickAcceptsThatClickAndEveryDrag)
 {
-    Situation lesson("YGG", kAllMoves, 2);
+    Situation lesson("YGG", kAllOpen, 2);
     lesson.inLesson({ .click = Click { 1, 0 }, .drag = {} });
     EXPECT_EQ(lesson.click(0), "1/0 YGGGG");
     EXPECT_EQ(lesson.click(1), "Lesson");
@@ -231,7 +231,7 @@ TEST(ALesson, WithAClickAcceptsThatClickAndEveryDrag)
 
 TEST(ALesson, WithADragAcceptsNothingButThatDrag)
 {
-    Situation lesson("YGGG", kAllMoves, 2);
+    Situation lesson("YGGG", kAllOpen, 2);
     lesson.inLesson({ .click = {}, .drag = Drag { 1, 1, 1, 2 } });
     EXPECT_EQ(lesson.drag(1, 2), "3/0 YG");
     EXPECT_EQ(lesson.drag(2, 3), "Lesson");
@@ -245,7 +245,7 @@ TEST(EveryGesture, IsRefusedWhileTheGameIsBusy)
 {
     for (const Phase phase : { Phase::None, Phase::HintFlying, Phase::WalkingBack,
              Phase::Celebrating, Phase::Leaving }) {
-        Situation busy("YGG", kAllMoves, 2);
+        Situation busy("YGG", kAllOpen, 2);
         busy.during(phase);
         EXPECT_EQ(busy.click(0), "Busy");
         EXPECT_EQ(busy.drag(1, 2), "Busy");
@@ -296,8 +296,8 @@ TEST(Targets, AreThePlacesEachShapeAllows)
 
 TEST(Targets, AreNoneFromTwelveLinesOn)
 {
-    EXPECT_THAT(targets(Situation("YGG", kAllMoves, 11).position(), 1), ElementsAre(2));
-    EXPECT_THAT(targets(Situation("YGG", kAllMoves, 12).position(), 1), IsEmpty());
+    EXPECT_THAT(targets(Situation("YGG", kAllOpen, 11).position(), 1), ElementsAre(2));
+    EXPECT_THAT(targets(Situation("YGG", kAllOpen, 12).position(), 1), IsEmpty());
 }
 
 // Whatever is open to the player; the drop itself is what is tested against that.

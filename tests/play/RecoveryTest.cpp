@@ -28,7 +28,7 @@ Catalogue endless()
 
 constexpr Standing kClassic { Mode::Classic, { 5, 4 }, 470, 0 };
 constexpr Standing kEndless { Mode::Endless, { 5, 4 }, 300, 0 };
-const std::string kPuzzle = "puzzle 5-4 YRRR YGG 3 470 0";
+const std::string kPuzzleLine = "puzzle 5-4 YRRR YGG 3 470 0";
 const std::string kDraw = "puzzle endless YRRR YGG 5 300 0";
 
 // What the journal of these actions comes to: through its text, as at launch.
@@ -64,7 +64,7 @@ TEST(Recovery, FindsNothingWhereNothingWasWritten)
 
 TEST(Recovery, APuzzleThatWasBeingPlayedGoesOn)
 {
-    const Recovery recovery = recovered(kClassic, { kPuzzle, "move 2 0", "remove 1", "undo" });
+    const Recovery recovery = recovered(kClassic, { kPuzzleLine, "move 2 0", "remove 1", "undo" });
     EXPECT_EQ(recovery.found, Found::InPlay);
     EXPECT_EQ(recovery.replay.lastLine(), "YG");
     EXPECT_EQ(recovery.standing, kClassic);
@@ -73,7 +73,7 @@ TEST(Recovery, APuzzleThatWasBeingPlayedGoesOn)
 
 TEST(Recovery, PiecesThatWereShownArePaidFor)
 {
-    const Recovery recovery = recovered(kClassic, { kPuzzle, "hint pieces" });
+    const Recovery recovery = recovered(kClassic, { kPuzzleLine, "hint pieces" });
     EXPECT_EQ(recovery.found, Found::InPlay);
     EXPECT_EQ(recovery.replay.hintStage(), 2);
     EXPECT_EQ(recovery.replay.purse(), 420);
@@ -81,7 +81,7 @@ TEST(Recovery, PiecesThatWereShownArePaidFor)
 
 TEST(Recovery, PiecesThatWereFlyingAreALine)
 {
-    const Recovery recovery = recovered(kClassic, { kPuzzle, "hint pieces", "hint line 2 0" });
+    const Recovery recovery = recovered(kClassic, { kPuzzleLine, "hint pieces", "hint line 2 0" });
     EXPECT_EQ(recovery.found, Found::InPlay);
     EXPECT_EQ(recovery.replay.lastLine(), "YG");
     EXPECT_EQ(recovery.replay.purse(), 370);
@@ -89,8 +89,8 @@ TEST(Recovery, PiecesThatWereFlyingAreALine)
 
 TEST(Recovery, PiecesThatWereFlyingToTheGoalHaveSolvedIt)
 {
-    const Recovery recovery
-        = recovered(kClassic, { kPuzzle, "move 2 0", "hint good", "hint pieces", "hint line 1 0" });
+    const Recovery recovery = recovered(
+        kClassic, { kPuzzleLine, "move 2 0", "hint good", "hint pieces", "hint line 1 0" });
     EXPECT_EQ(recovery.found, Found::Solved);
     EXPECT_EQ(recovery.standing, saved(kClassic, 470 - 150 + 150, { 5, 5 }));
 }
@@ -98,7 +98,7 @@ TEST(Recovery, PiecesThatWereFlyingToTheGoalHaveSolvedIt)
 TEST(Recovery, AWalkBackHasArrived)
 {
     const Recovery recovery
-        = recovered(kClassic, { kPuzzle, "move 1 0", "remove 1", "move 1 0", "hint back 1" });
+        = recovered(kClassic, { kPuzzleLine, "move 1 0", "remove 1", "move 1 0", "hint back 1" });
     EXPECT_EQ(recovery.found, Found::InPlay);
     EXPECT_EQ(recovery.replay.lastLine(), "YRRR");
     EXPECT_TRUE(recovery.replay.isMarked());
@@ -107,7 +107,7 @@ TEST(Recovery, AWalkBackHasArrived)
 
 TEST(Recovery, ACelebrationCounts)
 {
-    const std::vector<std::string> solved { kPuzzle, "move 2 0", "move 1 0" };
+    const std::vector<std::string> solved { kPuzzleLine, "move 2 0", "move 1 0" };
     EXPECT_EQ(recovered(kClassic, solved).found, Found::Solved);
     EXPECT_EQ(recovered(kClassic, solved).standing, saved(kClassic, 620, { 5, 5 }));
     const Recovery drawn = recovered(kEndless, { kDraw, "move 2 0", "move 1 0" });
@@ -125,7 +125,7 @@ TEST(Recovery, TheLastPuzzleBringsItsPointsAlone)
 
 TEST(Recovery, WhatTheRecordHasEarnedAlreadyCountsOnce)
 {
-    const std::vector<std::string> solved { kPuzzle, "hint pieces", "move 2 0", "move 1 0" };
+    const std::vector<std::string> solved { kPuzzleLine, "hint pieces", "move 2 0", "move 1 0" };
     EXPECT_EQ(recovered(saved(kClassic, 570, { 5, 5 }), solved).found, Found::AlreadySaved);
     EXPECT_EQ(recovered(saved(kClassic, 570, { 5, 4 }), solved).found, Found::Misfit);
     EXPECT_EQ(recovered(saved(kClassic, 470, { 5, 5 }), solved).found, Found::Misfit);
@@ -149,7 +149,7 @@ TEST(Recovery, APuzzleThatWasLeftIsLeft)
 
 TEST(Recovery, AJournalOfAnotherRecordIsAMisfit)
 {
-    const std::vector<std::string> played { kPuzzle, "move 2 0" };
+    const std::vector<std::string> played { kPuzzleLine, "move 2 0" };
     EXPECT_EQ(recovered(saved(kClassic, 480, { 5, 4 }), played).found, Found::Misfit);
     EXPECT_EQ(recovered(saved(kClassic, 470, { 5, 3 }), played).found, Found::Misfit);
     Standing hard = kEndless;
@@ -171,7 +171,7 @@ TEST(Recovery, AJournalOfAnotherCatalogueIsAMisfit)
 // The check of a line says that it was written so, not that a game can have gone like that.
 TEST(Recovery, GoesAsFarAsAGameCanHaveGone)
 {
-    const JournalEntry puzzle { *parse(kPuzzle), "YRRR" };
+    const JournalEntry puzzle { *parse(kPuzzleLine), "YRRR" };
     const JournalEntry move { *parse("move 2 0"), "YG" };
     const auto found = [&](const JournalEntry& third) {
         return recover(kClassic, classic(), { puzzle, move, third });
@@ -194,7 +194,7 @@ TEST(Recovery, GoesAsFarAsAGameCanHaveGone)
 // One puzzle follows another where the record could not be saved: it may stand at any of them.
 TEST(Recovery, GoesOnFromWhereverTheRecordStands)
 {
-    const std::vector<std::string> played { kPuzzle, "move 2 0", "move 1 0",
+    const std::vector<std::string> played { kPuzzleLine, "move 2 0", "move 1 0",
         "puzzle 5-5 YR Y 2 620 0", "move 1 0", "hint back 1" };
     for (const Standing& record : { kClassic, saved(kClassic, 620, { 5, 5 }) }) {
         const Recovery recovery = recovered(record, played);
@@ -219,12 +219,16 @@ TEST(Recovery, NoPuzzleFollowsOneThatIsNotOverOrLedElsewhere)
         }
         return recover(kClassic, classic(), entries).fault;
     };
-    EXPECT_EQ(fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle 5-5 YR Y 2 620 0" }), "");
-    EXPECT_NE(fault({ kPuzzle.c_str(), "move 2 0", "puzzle 5-5 YR Y 2 470 0" }), "");
-    EXPECT_NE(fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle 5-6 YR Y 2 620 0" }), "");
-    EXPECT_NE(fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle 5-5 YR Y 2 630 0" }), "");
+    EXPECT_EQ(
+        fault({ kPuzzleLine.c_str(), "move 2 0", "move 1 0", "puzzle 5-5 YR Y 2 620 0" }), "");
+    EXPECT_NE(fault({ kPuzzleLine.c_str(), "move 2 0", "puzzle 5-5 YR Y 2 470 0" }), "");
     EXPECT_NE(
-        fault({ kPuzzle.c_str(), "move 2 0", "move 1 0", "puzzle endless YRRR YGG 5 620 0" }), "");
+        fault({ kPuzzleLine.c_str(), "move 2 0", "move 1 0", "puzzle 5-6 YR Y 2 620 0" }), "");
+    EXPECT_NE(
+        fault({ kPuzzleLine.c_str(), "move 2 0", "move 1 0", "puzzle 5-5 YR Y 2 630 0" }), "");
+    EXPECT_NE(
+        fault({ kPuzzleLine.c_str(), "move 2 0", "move 1 0", "puzzle endless YRRR YGG 5 620 0" }),
+        "");
 }
 
 TEST(Recovery, WhatWasSpentBeforeIsStillSpent)

@@ -100,6 +100,8 @@ private:
     Json statistics(const Arguments& arguments);
     Json clipboard(const Arguments& arguments);
     Json sheet(const Arguments& arguments);
+    Json replay(const Arguments& arguments);
+    Json guide(const Arguments& arguments);
     Json music(const Arguments& arguments);
     Json preference(const Arguments& arguments);
     Json record(const Arguments& arguments);

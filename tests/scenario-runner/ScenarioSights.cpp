@@ -1,5 +1,6 @@
 #include "Scenario.h"
 #include "controller/AccessibleTree.h"
+#include "controller/ReplaySheet.h"
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 
@@ -52,6 +53,34 @@ Json Scenario::sheet(const Arguments& /*arguments*/)
     const auto& sheets = game().controller().sheets();
     return sheets.isOpen() ? Json({ { "name", sheets.name() }, { "focus", sheets.focus() } })
                            : Json();
+}
+
+Json Scenario::replay(const Arguments& /*arguments*/)
+{
+    const auto* const sheet
+        = dynamic_cast<const controller::ReplaySheet*>(game().controller().sheets().shown());
+    if (sheet == nullptr) {
+        return {};
+    }
+    const auto state = sheet->state();
+    return { { "shows", state.isYours ? "yours" : "shortest" }, { "way", state.way },
+        { "ways", state.ways }, { "step", state.step }, { "running", state.isRunning },
+        { "caption", state.caption }, { "note", state.note }, { "leftAt", state.leftAt },
+        { "lines", state.lines } };
+}
+
+Json Scenario::guide(const Arguments& /*arguments*/)
+{
+    const auto& advice = game().controller().guide().advice();
+    if (!advice) {
+        return {};
+    }
+    if (advice->moves) {
+        return { { "moves", *advice->moves } };
+    }
+    return { { "deadEnd", play::nameOf(advice->why) },
+        { "colour", advice->colour != 0 ? std::string(1, advice->colour) : std::string() },
+        { "back", advice->goodRow } };
 }
 
 Json Scenario::clipboard(const Arguments& arguments)
@@ -340,7 +369,8 @@ const std::vector<Scenario::Operation>& Scenario::table()
         { "practice", &Scenario::practice }, { "open", &Scenario::open },
         { "daily", &Scenario::daily }, { "edit", &Scenario::edit }, { "today", &Scenario::today },
         { "statistics", &Scenario::statistics }, { "clipboard", &Scenario::clipboard },
-        { "sheet", &Scenario::sheet }, { "quit", &Scenario::quit }, { "kill", &Scenario::kill },
+        { "sheet", &Scenario::sheet }, { "replay", &Scenario::replay },
+        { "guide", &Scenario::guide }, { "quit", &Scenario::quit }, { "kill", &Scenario::kill },
         { "restart", &Scenario::restart }, { "wait", &Scenario::wait }, { "move", &Scenario::move },
         { "press", &Scenario::press }, { "release", &Scenario::release },
         { "click", &Scenario::click }, { "drag", &Scenario::drag }, { "touch", &Scenario::touch },

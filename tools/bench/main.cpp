@@ -32,8 +32,8 @@ int run(int argc, char** argv)
     }
     const bool same = measureSearch(results);
     measureHint(results);
-    measureVerdict(results);
     measureSpeech(results);
+    measureVerdict(results);
     measureDistances(results);
     if (!withoutGrowth) {
         measureGrowth(results);
