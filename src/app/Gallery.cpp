@@ -140,9 +140,9 @@ public:
         paintAnswers();
         paintRewards();
         paintEdges();
+        showSheets(m_game, [this](const std::string& name) { take(name); });
         paintSheets();
         paintOtherStones();
-        showSheets(m_game, [this](const std::string& name) { take(name); });
         return m_complete;
     }
 

@@ -78,6 +78,9 @@ std::optional<ReplaySubject> replaySubject(GameController& controller, const std
     // One that was kept of another puzzle, which stood in this place once, is none.
     if (result != nullptr && result->puzzle == subject.puzzle) {
         subject.yours = play::trailOf(result->puzzle, result->moves);
+        if (subject.yours.back().line != subject.puzzle.goal) {
+            subject.yours.clear();
+        }
     }
     return subject;
 }

@@ -21,7 +21,7 @@ struct ReplaySubject {
     bool mayTell = true; // of the shortest ways
 };
 
-// Nothing for a puzzle that is not solved, or that has neither a solution nor a way to be shown.
+// Nothing for a puzzle that is not solved.
 [[nodiscard]] std::optional<ReplaySubject> replaySubject(
     GameController& controller, const std::string& name);
 

@@ -16,7 +16,7 @@ constexpr std::size_t kMostKnown = 100'000;
 
 // Beyond the board's edge a search is soon without end: it goes so far, and then says nothing.
 constexpr unsigned kLongestBeyond = 20; // chips
-constexpr std::size_t kMostBeyond = 60'000; // lines
+constexpr std::size_t kMostBeyond = 20'000; // lines
 
 bool holdsColour(PackedLine line, char colour)
 {

@@ -196,6 +196,9 @@ TEST_F(PracticeTest, TellsNoShortestWayOfThePuzzleThatClassicAsks)
     EXPECT_FALSE(replaySubject(game(), "3-4")); // not solved
     EXPECT_FALSE(replaySubject(game(), "9-9")); // not reached
     EXPECT_TRUE(replaySubject(game(), "3-3"));
+    // What does not end with the goal is no solution to be shown.
+    EXPECT_TRUE(
+        replaySubject(game(), play::codeOf(other->root, other->goal).value())->yours.empty());
 }
 
 TEST_F(PracticeTest, ShowsTheSolutionPlayedLastAndKeepsTheBest)
