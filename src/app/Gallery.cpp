@@ -75,6 +75,8 @@ constexpr std::array kScenes {
     Scene { "statisticsMessageWindow", 6, 2 },
     Scene { "replayMessageWindow", 6, 2 },
     Scene { "guideMessageWindow", 6, 2 },
+    Scene { "settingsMessageWindow", 6, 2 },
+    Scene { "byEarMessageWindow", 6, 2 },
     Scene { "allMovesMessageWindow", 3, 2 },
     Scene { "hintsInClassicMessageWindow", 3, 2 },
     Scene { "classicGameFinished", kLastLevel, 10, "chip-1-0" },

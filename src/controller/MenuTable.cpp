@@ -220,6 +220,12 @@ constexpr std::array kItems {
     page(
         MenuItemId::HowFar, "How &Far", {},
         [](GameController& game) { game.pages().show("guideMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::AboutSettings, "The Settin&gs", {},
+        [](GameController& game) { game.pages().show("settingsMessageWindow"); }, canOpenPage),
+    page(
+        MenuItemId::ByEar, "Playing by Ea&r", {},
+        [](GameController& game) { game.pages().show("byEarMessageWindow"); }, canOpenPage),
     separator(MenuId::Help),
     MenuItem { .id = MenuItemId::About, .menu = MenuId::Help, .text = "&About Veyrand" },
 };

@@ -39,6 +39,8 @@ enum class MenuItemId {
     TakingBack,
     Scoring,
     BoardAnswers,
+    AboutSettings,
+    ByEar,
     Practice,
     ExportHelp,
     DailyHelp,

@@ -61,7 +61,7 @@ TEST(TutorialScriptReader, ReadsTheFilesOfTheGame)
 {
     const TutorialScript script = readTutorialScript(test::gameResources());
     EXPECT_EQ(script.errors, "");
-    EXPECT_EQ(script.pages.size(), 54U);
+    EXPECT_EQ(script.pages.size(), 56U);
     EXPECT_EQ(script.chains.size(), 12U);
     EXPECT_EQ(script.ranks.size(), 13U);
     EXPECT_EQ(script.gates.size(), 9U);

@@ -48,4 +48,28 @@ TEST(ShippedLanguages, HaveSpokenTextsOfTheirOwn)
     }
 }
 
+// An ordinary blank would let a line begin with the sign, and a wide one looks wrong.
+TEST(ShippedLanguages, FrenchSetsItsSignsOffByNarrowBlanks)
+{
+    Texts texts(test::gameResources());
+    texts.choose("fr");
+    std::vector<std::string> all;
+    texts.forEachId([&](const std::string& id) {
+        for (const std::int64_t count : { 1, 5 }) {
+            all.push_back(texts.text(id, { { "count", count } }));
+        }
+    });
+    texts.forEachPage([&](const std::string& page) {
+        all.insert(all.end(), texts.page(page)->begin(), texts.page(page)->end());
+    });
+    for (const std::string& text : all) {
+        for (const std::string blank : { " ", "\u00A0" }) {
+            for (const char* const sign : { ":", ";", "!", "?", "»" }) {
+                EXPECT_EQ(text.find(blank + sign), std::string::npos) << text;
+            }
+            EXPECT_EQ(text.find("«" + blank), std::string::npos) << text;
+        }
+    }
+}
+
 } // namespace veyrand::language
