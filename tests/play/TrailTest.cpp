@@ -38,6 +38,7 @@ TEST(ASolution, IsLookedAtLineByLine)
     const auto trail
         = trailOf(kDoubledThenGreen, { { progress::kDoubling, 0 }, { progress::kGreenToEnd, 0 } });
     EXPECT_THAT(textsOfTrail(trail), ElementsAre("YR", "YRR", "YRRG"));
+    EXPECT_EQ(trail[1].move.rule, progress::kDoubling);
     EXPECT_EQ(trail[2].move.rule, progress::kGreenToEnd);
 }
 
@@ -89,6 +90,7 @@ TEST(OpenMoves, AreCountedAsThePlayerKnowsThem)
     EXPECT_EQ(openMoves(2), only(progress::kDoubling) | only(progress::kGreenToEnd));
     EXPECT_EQ(openMoves(5),
         kAllMoves & ~only(progress::kSplitGreens) & ~only(progress::kDropBetweenBlues));
+    EXPECT_EQ(openMoves(6), kAllMoves); // the last two come together
     EXPECT_EQ(openMoves(7), kAllMoves);
 }
 
