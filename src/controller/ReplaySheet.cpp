@@ -245,7 +245,7 @@ void ReplaySheet::drawRows(SheetDrawing& drawing) const
 {
     constexpr double kPassed = 0.86;
     constexpr double kToCome = 0.28;
-    constexpr double kRing = 83.0;
+    constexpr double kRingOfStep = 83.0;
     const auto chips = [&](const std::string& letters, double y, double opacity) {
         drawing.chips(letters, columnAt(0) - kChip / 2.0, y, kChip, opacity);
     };
@@ -263,8 +263,8 @@ void ReplaySheet::drawRows(SheetDrawing& drawing) const
         const std::string& before = trail()[m_step - 1].line;
         if (const auto stones = play::stonesOf(before, trail()[m_step].move)) {
             for (unsigned i = 0; i < stones->length; ++i) {
-                drawing.picture(
-                    "Ring", columnAt(stones->location + i), rowAt(m_step - 1), kRing, kRing);
+                drawing.picture("Ring", columnAt(stones->location + i), rowAt(m_step - 1),
+                    kRingOfStep, kRingOfStep);
             }
         }
     }
