@@ -352,8 +352,6 @@ private:
             m_game.wait(kEverythingHasFadedIn);
             take(picture);
         };
-        sheets.openMap();
-        paint("sheet-map");
         sheets.openDaily();
         paint("sheet-daily");
         m_game.controller().shelf().setDraft({ "YBRGG", "RBBR" });

@@ -12,10 +12,10 @@ inline constexpr std::uint64_t kFnvStart = 0xcbf29ce484222325U;
 [[nodiscard]] constexpr std::uint64_t fnv1a(
     std::string_view bytes, std::uint64_t before = kFnvStart)
 {
-    constexpr std::uint64_t kPrime = 0x100000001b3U;
+    constexpr std::uint64_t kFnvPrime = 0x100000001b3U;
     std::uint64_t sum = before;
     for (const char byte : bytes) {
-        sum = (sum ^ static_cast<unsigned char>(byte)) * kPrime;
+        sum = (sum ^ static_cast<unsigned char>(byte)) * kFnvPrime;
     }
     return sum;
 }
