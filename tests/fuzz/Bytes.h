@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -44,8 +43,8 @@ public:
     {
         double number = 0;
         char bytes[sizeof number] = {};
-        const std::size_t size = std::min(m_rest.size(), sizeof number);
-        std::memcpy(bytes, m_rest.data(), size);
+        const std::size_t size
+            = m_rest.copy(bytes, sizeof number); // none there may be no place either
         std::memcpy(&number, bytes, sizeof number);
         m_rest.remove_prefix(size);
         return number;
