@@ -20,10 +20,6 @@ struct Kindness {
     unsigned deadSteps = 0;
 
     [[nodiscard]] bool hasNearPar() const { return oneMore + twoMore > 0; }
-    [[nodiscard]] double deadShare() const
-    {
-        return wrongSteps == 0 ? 0 : static_cast<double>(deadSteps) / wrongSteps;
-    }
 };
 
 // Everything that a player with these moves can make of a root on a board of 13 lines, and how far
