@@ -67,7 +67,6 @@ public:
                      .sounds = m_sounds,
                      .pointer = m_pointer,
                      .textMetrics = m_font,
-                     .menu = m_menu,
                      .log = m_log,
                      .quit = m_quit,
                      .overlay = m_overlay,
@@ -83,7 +82,7 @@ public:
                      .calendar = &m_calendar,
                      .clipboard = &m_clipboard,
                      .exchange = &m_exchange },
-              m_currentGame, board::GameData::sharedGameData(m_screen))
+              m_currentGame, board::GameData::sharedGameData(desktop::qt::mainScreenSize()))
         , m_board({ .layers = m_game.layers(),
               .view = m_game.view(),
               .pointer = m_pointer,
@@ -263,12 +262,11 @@ private:
     desktop::qt::SystemRandom m_random;
     desktop::qt::FileResources m_resources;
     SystemInstallation m_installation;
-    desktop::qt::MainScreen m_screen;
     desktop::qt::QtQuit m_quit;
     desktop::qt::QtLog m_log;
     desktop::qt::SystemCalendar m_calendar;
     desktop::qt::SystemClipboard m_clipboard;
-    platform::TrackedPointer m_pointer;
+    platform::Pointer m_pointer;
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images;
     desktop::qt::QtOverlayWindow m_overlay;

@@ -31,7 +31,6 @@ VirtualGame::VirtualGame(const Options& options)
           .store = &m_preferences,
           .resources = &m_resources,
           .textMetrics = &m_font,
-          .menu = &m_menu,
           .alerts = &m_installation.alerts,
           .offerInstallation =
               [this](std::function<void()> done) {

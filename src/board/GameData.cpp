@@ -4,7 +4,7 @@
 
 namespace veyrand::board {
 
-GameData& GameData::sharedGameData(const platform::Screen& screen)
+GameData& GameData::sharedGameData(platform::Size screen)
 {
     static std::mutex creation;
     static std::unique_ptr<GameData> instance;
@@ -13,14 +13,6 @@ GameData& GameData::sharedGameData(const platform::Screen& screen)
         instance = std::make_unique<GameData>(screen);
     }
     return *instance;
-}
-
-platform::Size GameData::gameSize() const
-{
-    if (!m_gameSize) {
-        m_gameSize = gameSizeForScreen(m_screen.mainScreenSize());
-    }
-    return *m_gameSize;
 }
 
 GameObjectPtr GameData::createGameObjectWithText(const TextStyle& style, double x, double y,

@@ -3,9 +3,7 @@
 #include "board/BoardGeometry.h"
 #include "board/ButtonTracking.h"
 #include "board/ObjectTable.h"
-#include "platform/Screen.h"
-
-#include <optional>
+#include "platform/Geometry.h"
 
 namespace veyrand::board {
 
@@ -14,21 +12,22 @@ namespace veyrand::board {
 // It knows records only; hit areas are asked for through ButtonTracking.
 class GameData {
 public:
-    explicit GameData(const platform::Screen& screen)
-        : m_screen(screen)
+    // The size of the main screen, in points.
+    explicit GameData(platform::Size screen)
+        : m_gameSize(gameSizeForScreen(screen))
     {
     }
 
     // The application's one board, made on the first call from that call's screen. Everything but
     // the application's entry is handed a reference instead.
-    static GameData& sharedGameData(const platform::Screen& screen);
+    static GameData& sharedGameData(platform::Size screen);
 
     ObjectTable& gameObjects() { return m_gameObjects; }
     [[nodiscard]] const ObjectTable& gameObjects() const { return m_gameObjects; }
 
-    // Points; taken from the main screen on first use and kept from then on.
-    [[nodiscard]] double gameWidth() const { return gameSize().width; }
-    [[nodiscard]] double gameHeight() const { return gameSize().height; }
+    // Points; kept, whatever becomes of the screen.
+    [[nodiscard]] double gameWidth() const { return m_gameSize.width; }
+    [[nodiscard]] double gameHeight() const { return m_gameSize.height; }
 
     void setButtonTracking(ButtonTracking& tracking) { m_buttonTracking = &tracking; }
     [[nodiscard]] ButtonTracking* buttonTracking() const { return m_buttonTracking; }
@@ -53,12 +52,9 @@ public:
     static void renewAllObjects() { }
 
 private:
-    [[nodiscard]] platform::Size gameSize() const;
-
-    const platform::Screen& m_screen;
+    platform::Size m_gameSize;
     ObjectTable m_gameObjects;
     ButtonTracking* m_buttonTracking = nullptr;
-    mutable std::optional<platform::Size> m_gameSize;
 };
 
 } // namespace veyrand::board

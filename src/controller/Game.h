@@ -6,6 +6,7 @@
 #include "platform/Random.h"
 #include "platform/Resources.h"
 #include "platform/TextMetrics.h"
+#include "progress/PlayerKeys.h"
 
 namespace veyrand::controller {
 
@@ -17,7 +18,6 @@ struct GamePorts {
     platform::Sounds& sounds;
     const platform::Pointer& pointer;
     const platform::TextMetrics& textMetrics;
-    const platform::Menu& menu;
     platform::Log& log;
     platform::Quit& quit;
     platform::OverlayWindow& overlay;
@@ -42,7 +42,10 @@ public:
         : m_script(readTutorialScript(ports.resources))
         , m_texts(ports.resources)
         , m_desktopLanguages(ports.desktopLanguages)
-        , m_effects(ports.sounds, ports.menu)
+        , m_effects(ports.sounds,
+              [&preferences = ports.preferences] {
+                  return preferences.boolForKey(progress::kPlayEffectsKey);
+              })
         , m_pacedLoop(ports.runLoop, m_tempo)
         , m_scene(ports.runLoop, m_tempo)
         , m_board(gameData, currentGame, m_pacedLoop)
@@ -62,7 +65,6 @@ public:
             .preferences = ports.preferences,
             .sounds = ports.sounds,
             .effects = m_effects,
-            .menu = ports.menu,
             .script = m_script,
             .texts = m_texts,
             .log = ports.log,

@@ -37,7 +37,6 @@ struct GameContext {
     platform::Preferences& preferences;
     platform::Sounds& sounds;
     const platform::SoundEffects& effects;
-    const platform::Menu& menu;
     const TutorialScript& script;
     language::Texts& texts;
     platform::Log& log;

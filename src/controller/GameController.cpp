@@ -4,6 +4,7 @@
 #include "controller/Legality.h"
 #include "controller/OverlayFrame.h"
 #include "play/Decide.h"
+#include "progress/PlayerKeys.h"
 
 #include <utility>
 
@@ -78,10 +79,15 @@ void GameController::settingsChanged()
     m_kept.settingsChanged();
 }
 
+double GameController::musicVolume() const
+{
+    return m_context.preferences.boolForKey(progress::kPlayMusicKey) ? 1.0 : 0.0;
+}
+
 void GameController::musicMenuClick()
 {
     // Muting is by volume: the music goes on unheard.
-    m_context.sounds.setLoopVolume(m_context.menu.musicOn() ? 1.0 : 0.0);
+    m_context.sounds.setLoopVolume(musicVolume());
 }
 
 void GameController::applicationWillTerminate(std::function<void()> done)

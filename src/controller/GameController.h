@@ -82,6 +82,8 @@ public:
     // To be called when the player has chosen other settings: they are in force from now on.
     void settingsChanged();
     void musicMenuClick();
+    // As the switch is.
+    [[nodiscard]] double musicVolume() const;
     // The last thing the game does: the offer to install it, where there is reason for one. The
     // game must live until `done` is called, which may be at once.
     void applicationWillTerminate(std::function<void()> done);

@@ -217,7 +217,7 @@ void GameFlow::layOutPuzzle()
 void GameFlow::startMusic()
 {
     // It plays even when muted, so that turning it on finds it where it would be.
-    m_game.sounds.startLoop(platform::kMusic, m_game.menu.musicOn() ? 1.0 : 0.0);
+    m_game.sounds.startLoop(platform::kMusic, m_controller.musicVolume());
 }
 
 void GameFlow::puzzleFinished()

@@ -24,16 +24,6 @@ void MenuChoices::connectTo(std::vector<MenuItemId> only, std::function<void(Men
     m_others = std::move(others);
 }
 
-bool MenuChoices::musicOn() const
-{
-    return m_preferences.boolForKey(progress::kPlayMusicKey);
-}
-
-bool MenuChoices::effectsOn() const
-{
-    return m_preferences.boolForKey(progress::kPlayEffectsKey);
-}
-
 bool MenuChoices::mayChoose(const MenuItem& item) const
 {
     if (m_only) {

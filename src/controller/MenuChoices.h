@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controller/MenuTable.h"
-#include "platform/Menu.h"
+#include "platform/Preferences.h"
 
 #include <functional>
 #include <optional>
@@ -12,7 +12,7 @@ namespace veyrand::controller {
 // The menu of one game behind whatever shows it: what may be chosen now, what is on, and what a
 // choice does. The switches are the player's saved choices. Until a game is there, choosing a
 // command does nothing, and a switch only saves the choice.
-class MenuChoices final : public platform::Menu {
+class MenuChoices {
 public:
     explicit MenuChoices(platform::Preferences& preferences)
         : m_preferences(preferences)
@@ -25,9 +25,6 @@ public:
 
     // Nothing but these may be chosen, and goes to the function: there is no game to play.
     void connectTo(std::vector<MenuItemId> only, std::function<void(MenuItemId)> others);
-
-    [[nodiscard]] bool musicOn() const override;
-    [[nodiscard]] bool effectsOn() const override;
 
     [[nodiscard]] bool mayChoose(const MenuItem& item) const;
     // Whether a switch with a setting is on.

@@ -48,19 +48,17 @@ HeadlessGame::HeadlessGame(const Options& options)
         prepared(options.store != nullptr ? *options.store : m_memory, options.preferences))
     , m_random(options.seed)
     , m_resources(options.resources != nullptr ? *options.resources : noResources())
-    , m_screen(options.screen)
     , m_calendar(options.today)
     , m_alerts(options.alerts != nullptr ? *options.alerts : m_ownAlerts)
     , m_menu(m_preferences)
     , m_currentGame(m_preferences, m_random, m_resources)
-    , m_gameData(m_screen)
+    , m_gameData(options.screen)
     , m_game({ .runLoop = m_runLoop,
                  .preferences = m_preferences,
                  .resources = m_resources,
                  .sounds = m_sounds,
                  .pointer = m_pointer,
                  .textMetrics = options.textMetrics != nullptr ? *options.textMetrics : m_letters,
-                 .menu = options.menu != nullptr ? *options.menu : m_menu,
                  .log = m_log,
                  .quit = m_quit,
                  .overlay = m_overlay,

@@ -5,9 +5,8 @@
 #include "headless/HeadlessMenu.h"
 #include "input/Touch.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/TrackedPointer.h"
+#include "platform/Pointer.h"
 #include "platform/fakes/FixedCalendar.h"
-#include "platform/fakes/FixedScreen.h"
 #include "platform/fakes/MemoryClipboard.h"
 #include "platform/fakes/MemoryExchange.h"
 #include "platform/fakes/MemoryWindow.h"
@@ -44,7 +43,6 @@ public:
         platform::Preferences* store = nullptr; // outlives the game; null for one in memory
         const platform::Resources* resources = nullptr; // outlives the game; null: there are none
         const platform::TextMetrics* textMetrics = nullptr; // null for letters of one width
-        const platform::Menu* menu = nullptr; // null for the menu below
         platform::NotedAlerts* alerts = nullptr; // outlives the game; null for those below
         std::function<void(std::function<void()>)> offerInstallation {}; // see GameContext
         platform::Journal* journal = nullptr; // outlives the game; null: nothing is kept
@@ -104,7 +102,7 @@ public:
     [[nodiscard]] platform::VirtualRunLoop& runLoop() { return m_runLoop; }
     [[nodiscard]] platform::Preferences& preferences() { return m_preferences; }
     [[nodiscard]] platform::RecordedSounds& sounds() { return m_sounds; }
-    [[nodiscard]] platform::TrackedPointer& pointer() { return m_pointer; }
+    [[nodiscard]] platform::Pointer& pointer() { return m_pointer; }
     [[nodiscard]] const platform::NotedQuit& quit() const { return m_quit; }
     [[nodiscard]] const platform::NotedLog& log() const { return m_log; }
     [[nodiscard]] const platform::NotedOverlay& overlay() const { return m_overlay; }
@@ -123,7 +121,6 @@ private:
     platform::Preferences& m_preferences;
     platform::SeededRandom m_random;
     const platform::Resources& m_resources;
-    platform::FixedScreen m_screen;
     platform::RecordedSounds m_sounds;
     platform::NotedQuit m_quit;
     platform::NotedLog m_log;
@@ -134,7 +131,7 @@ private:
     platform::MemoryExchange m_exchange;
     platform::NotedAlerts m_ownAlerts;
     platform::NotedAlerts& m_alerts;
-    platform::TrackedPointer m_pointer;
+    platform::Pointer m_pointer;
     EvenLetters m_letters;
     HeadlessMenu m_menu;
     progress::CurrentGame m_currentGame;

@@ -9,7 +9,7 @@
 namespace veyrand::headless {
 
 // The menu of a game without a menu bar: items are chosen by their names and keys.
-class HeadlessMenu final : public platform::Menu {
+class HeadlessMenu {
 public:
     explicit HeadlessMenu(platform::Preferences& preferences)
         : m_choices(preferences)
@@ -17,9 +17,6 @@ public:
     }
     // Until then choosing a command does nothing.
     void connectTo(controller::GameController& controller);
-
-    [[nodiscard]] bool musicOn() const override { return m_choices.musicOn(); }
-    [[nodiscard]] bool effectsOn() const override { return m_choices.effectsOn(); }
 
     // The names of all items, those too that may not be chosen now.
     [[nodiscard]] std::vector<std::string> items() const;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "input/GameView.h"
-#include "platform/TrackedPointer.h"
+#include "platform/Pointer.h"
 
 namespace veyrand::input {
 
@@ -9,7 +9,7 @@ namespace veyrand::input {
 // touches, so it reaches an element whose centre lies near; what it drags follows from there on.
 class Touch {
 public:
-    Touch(GameView& view, const present::BoardLayers& layers, platform::TrackedPointer& pointer)
+    Touch(GameView& view, const present::BoardLayers& layers, platform::Pointer& pointer)
         : m_view(view)
         , m_layers(layers)
         , m_pointer(pointer)
@@ -34,7 +34,7 @@ private:
 
     GameView& m_view;
     const present::BoardLayers& m_layers;
-    platform::TrackedPointer& m_pointer;
+    platform::Pointer& m_pointer;
     platform::Point m_correction; // from the finger to the centre it reached
     platform::Point m_place; // of the finger, last seen
     bool m_isDown = false;

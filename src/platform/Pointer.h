@@ -6,16 +6,15 @@
 
 namespace veyrand::platform {
 
-// Where the pointer rests.
+// Where the pointer rests, as whoever receives its events tells it.
 class Pointer {
 public:
-    Pointer() = default;
-    Pointer(const Pointer&) = delete;
-    Pointer& operator=(const Pointer&) = delete;
-    virtual ~Pointer() = default;
-
     // In the view's points, origin lower left; nothing while the pointer is outside the view.
-    [[nodiscard]] virtual std::optional<Point> position() const = 0;
+    [[nodiscard]] std::optional<Point> position() const { return m_position; }
+    void setPosition(std::optional<Point> position) { m_position = position; }
+
+private:
+    std::optional<Point> m_position;
 };
 
 } // namespace veyrand::platform

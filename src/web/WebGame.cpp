@@ -40,18 +40,24 @@ const char* kindOf(const MenuItem& item)
     return "command";
 }
 
+// How a device is held changes while the game is played.
+platform::Size lying(platform::Size screen)
+{
+    return { .width = std::max(screen.width, screen.height),
+        .height = std::min(screen.width, screen.height) };
+}
+
 } // namespace
 
 WebGame::Parts::Parts(WebGame& own)
     : currentGame(own.m_preferences, own.m_random, own.m_resources)
-    , gameData(own.m_screen)
+    , gameData(lying(own.m_screen))
     , game({ .runLoop = own.m_runLoop,
                .preferences = own.m_preferences,
                .resources = own.m_resources,
                .sounds = own.m_sounds,
                .pointer = own.m_pointer,
                .textMetrics = own.m_metrics,
-               .menu = own.m_menu,
                .log = own.m_log,
                .quit = own.m_quit,
                .overlay = own.m_overlay,

@@ -24,7 +24,8 @@ public:
     [[nodiscard]] WebStore& store() { return m_store; }
     [[nodiscard]] WebResources& resources() { return m_resources; }
     [[nodiscard]] WebRunLoop& runLoop() { return m_runLoop; }
-    [[nodiscard]] WebScreen& screen() { return m_screen; }
+    // Points, however the device is held.
+    void setScreen(platform::Size size) { m_screen = size; }
     [[nodiscard]] WebAlerts& alerts() { return m_alerts; }
     [[nodiscard]] WebWindow& window() { return m_window; }
     [[nodiscard]] WebExchange& exchange() { return m_exchange; }
@@ -81,10 +82,10 @@ private:
     WebSounds m_sounds;
     WebRandom m_random;
     WebResources m_resources;
-    WebScreen m_screen;
+    platform::Size m_screen { .width = 1440.0, .height = 900.0 };
     WebQuit m_quit;
     WebLog m_log;
-    platform::TrackedPointer m_pointer;
+    platform::Pointer m_pointer;
     WebTextMetrics m_metrics;
     WebOverlayWindow m_overlay;
     WebCalendar m_calendar;

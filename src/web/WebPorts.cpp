@@ -2,7 +2,6 @@
 
 #include "web/Host.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -100,12 +99,6 @@ void WebSounds::stopLoop()
 void WebSounds::setVolume(platform::SoundKind kind, int percent)
 {
     veyrand_host_volume(kind == platform::SoundKind::Music ? 1 : 0, percent);
-}
-
-platform::Size WebScreen::mainScreenSize() const
-{
-    return { .width = std::max(m_size.width, m_size.height),
-        .height = std::min(m_size.width, m_size.height) };
 }
 
 void WebOverlayWindow::open(const platform::RectF& /*frame*/, std::string_view imageName)

@@ -9,7 +9,6 @@
 #include "platform/Quit.h"
 #include "platform/Random.h"
 #include "platform/Resources.h"
-#include "platform/Screen.h"
 #include "platform/Sounds.h"
 #include "platform/TextMetrics.h"
 #include "platform/Window.h"
@@ -95,16 +94,6 @@ public:
     void setLoopVolume(double volume) override;
     void stopLoop() override;
     void setVolume(platform::SoundKind kind, int percent) override;
-};
-
-// The screen of the device, lying: how it is held changes while the game is played.
-class WebScreen final : public platform::Screen {
-public:
-    void set(platform::Size size) { m_size = size; }
-    [[nodiscard]] platform::Size mainScreenSize() const override;
-
-private:
-    platform::Size m_size { .width = 1440.0, .height = 900.0 };
 };
 
 // Nothing in the game opens a second window.

@@ -14,7 +14,7 @@ enum class Kind { Solid, Image, Text };
 
 } // namespace
 
-WebView::WebView(controller::Game& game, platform::TrackedPointer& pointer)
+WebView::WebView(controller::Game& game, platform::Pointer& pointer)
     : m_game(game)
     , m_pointer(pointer)
     , m_touch(game.view(), game.layers(), pointer)

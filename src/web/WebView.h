@@ -3,7 +3,7 @@
 #include "controller/Game.h"
 #include "input/Cursor.h"
 #include "input/Touch.h"
-#include "platform/TrackedPointer.h"
+#include "platform/Pointer.h"
 
 #include <functional>
 #include <optional>
@@ -17,7 +17,7 @@ namespace veyrand::web {
 // Places are in the page's points, from the upper left corner of the canvas.
 class WebView {
 public:
-    WebView(controller::Game& game, platform::TrackedPointer& pointer);
+    WebView(controller::Game& game, platform::Pointer& pointer);
     WebView(const WebView&) = delete;
     WebView& operator=(const WebView&) = delete;
     ~WebView();
@@ -53,7 +53,7 @@ private:
     [[nodiscard]] double numberOf(const std::string& text);
 
     controller::Game& m_game;
-    platform::TrackedPointer& m_pointer;
+    platform::Pointer& m_pointer;
     input::Touch m_touch;
     platform::Size m_size { .width = 1.0, .height = 1.0 };
     present::DisplayList m_shown;

@@ -83,7 +83,7 @@ EMSCRIPTEN_KEEPALIVE const char* veyrand_start(
     double screenWidth, double screenHeight, double width, double height)
 {
     guarded([&] {
-        game().screen().set({ .width = screenWidth, .height = screenHeight });
+        game().setScreen({ .width = screenWidth, .height = screenHeight });
         answer() = game().start({ .width = width, .height = height });
     });
     return answer().c_str();

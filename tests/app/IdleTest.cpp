@@ -83,16 +83,14 @@ TEST_F(Idle, ThePointerMovingOverNothingPaintsNothing)
 // The real clock and timers: a line slides into a board that then comes to rest by itself.
 TEST(IdleBoard, WithTheRealClockTheTimersStopOnceEverythingRests)
 {
-    const test::FakeScreen screen({ .width = 1440, .height = 900 });
     desktop::qt::QtRunLoop runLoop;
     platform::RecordedSounds sounds;
     platform::MemoryPreferences preferences;
-    desktop::qt::GameMenu menu(preferences);
-    const platform::SoundEffects effects(sounds, menu);
-    platform::TrackedPointer pointer;
+    const platform::SoundEffects effects(sounds, [] { return true; });
+    platform::Pointer pointer;
     const desktop::qt::GameFont font;
     desktop::qt::ImageStore images(QString::fromStdString(test::dataFolder() + "/images"), font);
-    board::GameData data(screen);
+    board::GameData data({ .width = 1440, .height = 900 });
     board::LineDrawing lines(data, runLoop);
     present::Scene scene(runLoop);
     present::BoardLayers layers(scene, data, font);

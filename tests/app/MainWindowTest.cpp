@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "progress/Settings.h"
 #include "support/PlayedGame.h"
 
 #include <QDialog>
@@ -71,9 +72,10 @@ TEST_F(MainWindowTest, HidesTheMenuBarInFullScreenModeAndHearsItsKeysAllTheSame)
     EXPECT_FALSE(game().menu().bar()->isVisible());
     window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    ASSERT_TRUE(game().menu().musicOn());
+    const auto isMusicOn = [this] { return progress::readSettings(game().preferences()).music; };
+    ASSERT_TRUE(isMusicOn());
     QTest::keyClick(&window(), Qt::Key_M, Qt::ControlModifier);
-    EXPECT_FALSE(game().menu().musicOn());
+    EXPECT_FALSE(isMusicOn());
     QTest::keyClick(&window(), Qt::Key_F1);
     EXPECT_EQ(game().controller().messages().page(), "howToPlayMessageWindow");
     window().setWindowState(Qt::WindowNoState);

@@ -18,7 +18,7 @@ class BoardTest : public ::testing::Test {
 protected:
     BoardTest()
         : m_currentGame(m_preferences, m_random, m_resources)
-        , m_gameData(m_screen)
+        , m_gameData({ .width = 1440, .height = 900 })
         , m_board(m_gameData, m_currentGame, m_runLoop)
     {
         m_preferences.registerDefaults(progress::registeredDefaults());
@@ -55,7 +55,6 @@ protected:
     void wait(double seconds) { m_runLoop.advance(seconds); }
 
 private:
-    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
     test::MemoryResources m_resources;
     platform::MemoryPreferences m_preferences;
     platform::SeededRandom m_random { 1 };

@@ -58,30 +58,17 @@ TEST(BoardGeometry, TheGameAreaIsTheLargestSixteenToTenThatFits)
     }
 }
 
-TEST(GameData, TheGameAreasSizeIsTakenOnceAndKept)
+TEST(GameData, TheGameAreaFitsTheScreen)
 {
-    test::FakeScreen screen({ .width = 1920, .height = 1080 });
-    const GameData data(screen);
-    EXPECT_EQ(data.gameWidth(), 1728);
-    screen.setSize({ .width = 1280, .height = 800 });
+    const GameData data({ .width = 1920, .height = 1080 });
     EXPECT_EQ(data.gameWidth(), 1728);
     EXPECT_EQ(data.gameHeight(), 1080);
 }
 
-TEST(GameData, TheScreenIsNotAskedBeforeTheSizeIsWanted)
-{
-    test::FakeScreen screen({ .width = 800, .height = 600 });
-    const GameData data(screen);
-    screen.setSize({ .width = 1280, .height = 800 });
-    EXPECT_EQ(data.gameHeight(), 800);
-}
-
 TEST(GameData, TheSharedOneIsMadeOnce)
 {
-    static const test::FakeScreen first({ .width = 1440, .height = 900 });
-    static const test::FakeScreen second({ .width = 800, .height = 500 });
-    GameData& data = GameData::sharedGameData(first);
-    EXPECT_EQ(&GameData::sharedGameData(second), &data);
+    GameData& data = GameData::sharedGameData({ .width = 1440, .height = 900 });
+    EXPECT_EQ(&GameData::sharedGameData({ .width = 800, .height = 500 }), &data);
     EXPECT_EQ(data.gameHeight(), 900);
 }
 

@@ -62,7 +62,7 @@ TEST_F(ShellTest, MutedDuringAGameTheMusicPlaysOnAtVolumeNought)
     game().controller().flow().startClassicGame();
     EXPECT_EQ(musicVolume(), 1.0);
     ASSERT_TRUE(choose("Music"));
-    EXPECT_FALSE(game().menu().musicOn());
+    EXPECT_FALSE(game().preferences().boolForKey("TRNPlayMusicKey"));
     EXPECT_EQ(musicVolume(), 0.0);
     ASSERT_TRUE(choose("Music"));
     EXPECT_EQ(musicVolume(), 1.0);
@@ -92,9 +92,9 @@ TEST(Switches, AreAsTheyWereLeft)
     platform::MemoryPreferences preferences;
     preferences.setValue("TRNPlayMusicKey", false);
     preferences.setValue("TRNPlayEffectsKey", true);
-    const headless::HeadlessMenu menu(preferences);
-    EXPECT_FALSE(menu.musicOn());
-    EXPECT_TRUE(menu.effectsOn());
+    const MenuChoices menu(preferences);
+    EXPECT_FALSE(menu.isOn(menuItem(MenuItemId::Music)));
+    EXPECT_TRUE(menu.isOn(menuItem(MenuItemId::SoundEffects)));
 }
 
 TEST_F(ShellTest, GamesAreStartedFromTheTitlePageOnly)

@@ -55,9 +55,8 @@ TEST(MenuChoices, SavesASwitchBeforeThereIsAGame)
 {
     platform::MemoryPreferences preferences;
     MenuChoices choices(preferences);
-    EXPECT_FALSE(choices.musicOn());
+    EXPECT_FALSE(choices.isOn(menuItem(MenuItemId::Music)));
     EXPECT_TRUE(choices.choose(menuItem(MenuItemId::Music)));
-    EXPECT_TRUE(choices.musicOn());
     EXPECT_TRUE(choices.isOn(menuItem(MenuItemId::Music)));
     EXPECT_TRUE(choices.choose(menuItem(MenuItemId::Quit))) << "which does nothing";
 }

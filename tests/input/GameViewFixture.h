@@ -2,8 +2,8 @@
 
 #include "board/LineDrawing.h"
 #include "input/GameView.h"
+#include "platform/Pointer.h"
 #include "platform/SoundEffects.h"
-#include "platform/TrackedPointer.h"
 #include "platform/fakes/RecordedSounds.h"
 #include "platform/fakes/VirtualRunLoop.h"
 #include "support/BoardFakes.h"
@@ -65,13 +65,6 @@ private:
         }
     }
     std::vector<std::string> m_heard;
-};
-
-class FakeMenu final : public platform::Menu {
-public:
-    [[nodiscard]] bool musicOn() const override { return true; }
-    [[nodiscard]] bool effectsOn() const override { return effects; }
-    bool effects = true;
 };
 
 // The game view over a board of two lines, YRGR and YRGG, in a view of 1440 x 900 points: one chip
@@ -155,10 +148,10 @@ protected:
     void wait(double seconds) { m_runLoop.advance(seconds); }
 
     [[nodiscard]] FakeGame& target() { return m_target; }
-    [[nodiscard]] FakeMenu& menu() { return m_menu; }
+    void muteEffects() { m_effectsOn = false; }
     [[nodiscard]] GameView& view() { return m_view; }
     [[nodiscard]] present::BoardLayers& layers() { return m_layers; }
-    [[nodiscard]] platform::TrackedPointer& pointer() { return m_pointer; }
+    [[nodiscard]] platform::Pointer& pointer() { return m_pointer; }
     [[nodiscard]] board::ObjectTable& table() { return m_gameData.gameObjects(); }
     [[nodiscard]] board::LineDrawing& lines() { return m_lines; }
     [[nodiscard]] bool blocked() { return m_view.block().blockClick(); }
@@ -183,14 +176,13 @@ protected:
     }
 
 private:
-    test::FakeScreen m_screen { { .width = 1440, .height = 900 } };
     test::SquareLetters m_metrics;
     platform::VirtualRunLoop m_runLoop;
-    platform::TrackedPointer m_pointer;
+    platform::Pointer m_pointer;
     platform::RecordedSounds m_sounds;
-    FakeMenu m_menu;
-    platform::SoundEffects m_effects { m_sounds, m_menu };
-    board::GameData m_gameData { m_screen };
+    bool m_effectsOn = true;
+    platform::SoundEffects m_effects { m_sounds, [this] { return m_effectsOn; } };
+    board::GameData m_gameData { { .width = 1440, .height = 900 } };
     board::LineDrawing m_lines { m_gameData, m_runLoop };
     present::Scene m_scene { m_runLoop };
     present::BoardLayers m_layers { m_scene, m_gameData, m_metrics };

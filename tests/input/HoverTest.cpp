@@ -59,7 +59,7 @@ TEST_F(HoverTest, LeavingTheViewPutsTheLightOut)
 
 TEST_F(HoverTest, EffectsSwitchedOffEnterSilently)
 {
-    menu().effects = false;
+    muteEffects();
     moveTo(centre("button-lightbulboff"));
     EXPECT_EQ(opacity("button-lightbulbon"), 1.0);
     EXPECT_THAT(sounds(), IsEmpty());

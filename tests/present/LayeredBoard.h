@@ -15,7 +15,7 @@ namespace veyrand::present {
 class LayeredBoard : public ::testing::Test {
 protected:
     explicit LayeredBoard(platform::Size screen = { .width = 1440, .height = 900 })
-        : m_screen(screen)
+        : m_gameData(screen)
     {
     }
 
@@ -46,10 +46,9 @@ protected:
     }
 
 private:
-    test::FakeScreen m_screen;
     test::SquareLetters m_metrics;
     platform::VirtualRunLoop m_runLoop;
-    board::GameData m_gameData { m_screen };
+    board::GameData m_gameData;
     Scene m_scene { m_runLoop };
     BoardLayers m_layers { m_scene, m_gameData, m_metrics };
 };

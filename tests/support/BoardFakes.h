@@ -2,27 +2,12 @@
 
 #include "board/ButtonTracking.h"
 #include "board/ObjectTable.h"
-#include "platform/Screen.h"
 #include "platform/TextMetrics.h"
 
 #include <string>
 #include <vector>
 
 namespace veyrand::test {
-
-// A screen of a size that the test may change.
-class FakeScreen final : public platform::Screen {
-public:
-    explicit FakeScreen(platform::Size size)
-        : m_size(size)
-    {
-    }
-    [[nodiscard]] platform::Size mainScreenSize() const override { return m_size; }
-    void setSize(platform::Size size) { m_size = size; }
-
-private:
-    platform::Size m_size;
-};
 
 class CountedTracking final : public board::ButtonTracking {
 public:

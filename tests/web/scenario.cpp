@@ -63,7 +63,7 @@ public:
     // Painted as a page paints it, for whoever compares it with the desktop's.
     [[nodiscard]] std::string screenshot(const std::string& name) override
     {
-        platform::TrackedPointer nobody;
+        platform::Pointer nobody;
         web::WebView view(m_game.game(), nobody);
         view.resize(m_game.viewSize());
         view.showFrame();

@@ -4,7 +4,7 @@
 #include "desktop/qt/ListPainter.h"
 #include "input/Cursor.h"
 #include "input/Touch.h"
-#include "platform/TrackedPointer.h"
+#include "platform/Pointer.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -29,7 +29,7 @@ public:
     struct Parts {
         present::BoardLayers& layers;
         input::GameView& view;
-        platform::TrackedPointer& pointer;
+        platform::Pointer& pointer;
         ImageStore& images;
         // Called with the new size (points) whenever the widget has one.
         std::function<void(platform::Size)> resized;

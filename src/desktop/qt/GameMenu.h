@@ -10,7 +10,7 @@
 namespace veyrand::desktop::qt {
 
 // The menu bar: the items of the table, with their texts translated.
-class GameMenu final : public platform::Menu {
+class GameMenu {
 public:
     explicit GameMenu(platform::Preferences& preferences);
 
@@ -28,8 +28,6 @@ public:
         m_choices.connectTo(std::move(only), std::move(others));
     }
 
-    [[nodiscard]] bool musicOn() const override { return m_choices.musicOn(); }
-    [[nodiscard]] bool effectsOn() const override { return m_choices.effectsOn(); }
     // The texts anew, after another language was chosen.
     void retranslate();
     // What the Full Screen item shows.

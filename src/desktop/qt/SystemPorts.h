@@ -2,9 +2,9 @@
 
 #include "platform/Calendar.h"
 #include "platform/Clipboard.h"
+#include "platform/Geometry.h"
 #include "platform/Quit.h"
 #include "platform/Random.h"
-#include "platform/Screen.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -22,14 +22,12 @@ public:
     std::uint32_t next() override { return QRandomGenerator::system()->generate(); }
 };
 
-class MainScreen final : public platform::Screen {
-public:
-    [[nodiscard]] platform::Size mainScreenSize() const override
-    {
-        const QSizeF size = QGuiApplication::primaryScreen()->size();
-        return { .width = size.width(), .height = size.height() };
-    }
-};
+// Points.
+inline platform::Size mainScreenSize()
+{
+    const QSizeF size = QGuiApplication::primaryScreen()->size();
+    return { .width = size.width(), .height = size.height() };
+}
 
 class SystemCalendar final : public platform::Calendar {
 public:

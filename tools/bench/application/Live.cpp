@@ -5,9 +5,7 @@
 #include "desktop/qt/DataFolder.h"
 #include "desktop/qt/OpenAlSounds.h"
 #include "desktop/qt/QtRunLoop.h"
-#include "headless/HeadlessMenu.h"
 #include "platform/MemoryPreferences.h"
-#include "platform/fakes/FixedScreen.h"
 #include "platform/fakes/MemoryWindow.h"
 #include "platform/fakes/NotedAlerts.h"
 #include "platform/fakes/NotedLog.h"
@@ -42,16 +40,14 @@ public:
         : m_sounds(dataFolder + QStringLiteral("/sounds"))
         , m_resources(dataFolder)
         , m_images(dataFolder + QStringLiteral("/images"), m_font)
-        , m_menu(m_preferences)
         , m_currentGame(m_preferences, m_random, m_resources)
-        , m_gameData(m_screen)
+        , m_gameData({ .width = kWidth, .height = kHeight })
         , m_game({ .runLoop = m_runLoop,
                      .preferences = m_preferences,
                      .resources = m_resources,
                      .sounds = m_sounds,
                      .pointer = m_pointer,
                      .textMetrics = m_font,
-                     .menu = m_menu,
                      .log = m_log,
                      .quit = m_quit,
                      .overlay = m_overlay,
@@ -151,16 +147,14 @@ private:
     desktop::qt::OpenAlSounds m_sounds;
     platform::SeededRandom m_random { 1 };
     desktop::qt::FileResources m_resources;
-    platform::FixedScreen m_screen { { .width = kWidth, .height = kHeight } };
     platform::NotedLog m_log;
     platform::NotedAlerts m_alerts;
     platform::NotedQuit m_quit;
     platform::NotedOverlay m_overlay;
     platform::MemoryWindow m_window;
-    platform::TrackedPointer m_pointer;
+    platform::Pointer m_pointer;
     desktop::qt::GameFont m_font;
     desktop::qt::ImageStore m_images;
-    headless::HeadlessMenu m_menu;
     progress::CurrentGame m_currentGame;
     board::GameData m_gameData;
     mutable controller::Game m_game;
