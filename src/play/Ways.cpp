@@ -156,12 +156,13 @@ std::optional<unsigned> WaySearch::search(
         const std::size_t end = m_lines.size();
         m_firsts.push_back(end);
         for (std::size_t i = first; i < end; ++i) {
-            const bool isMet = anyChild(m_lines[i], now, [&](PackedLine child) {
+            const PackedLine line = m_lines[i]; // the list grows meanwhile
+            const bool isMet = anyChild(line, now, [&](PackedLine child) {
                 if (child != goal && moves < most && child != PackedLine()
                     && m_seen.insert(child)) {
                     m_lines.push_back(child);
                 }
-                return child == goal;
+                return child == goal && child != line; // what changes nothing is no move
             });
             if (isMet) {
                 return moves;

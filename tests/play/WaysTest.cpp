@@ -133,6 +133,55 @@ TEST(TheShortestWays, LeaveTheGoalAndReturnToItWhereItStandsAlready)
     EXPECT_EQ(ways->lines().front().line, ways->lines().back().line);
 }
 
+// Doubling what stands to the right of a yellow that is last makes the same line, which is no move.
+TEST(TheShortestWays, AreNoneWhereNothingMakesTheGoalAgain)
+{
+    EXPECT_FALSE(waysOf("Y", "Y"));
+    EXPECT_FALSE(waysOf("GY", "GY"));
+}
+
+TEST(TheShortestWays, BackToALineAreMadeOfMoves)
+{
+    std::vector<std::string> all { "" };
+    constexpr std::size_t kLongest = 4;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        for (const char chip : { 'Y', 'R', 'G', 'B' }) {
+            const bool isOneTooMany = chip == 'Y' && all[i].find('Y') != std::string::npos;
+            if (all[i].size() < kLongest && !isOneTooMany) {
+                all.push_back(all[i] + chip);
+            }
+        }
+    }
+    for (const std::string& line : all) {
+        const auto ways = line.empty() ? std::nullopt : waysOf(line.c_str(), line.c_str());
+        if (!ways) {
+            continue;
+        }
+        const auto way = ways->way(ways->count() - 1);
+        ASSERT_EQ(way.size(), ways->moves() + 1) << line;
+        EXPECT_EQ(way.front().text(), line);
+        for (std::size_t at = 1; at < way.size(); ++at) {
+            EXPECT_NE(way[at - 1], way[at]) << line;
+            EXPECT_TRUE(moveBetween(way[at - 1], way[at], play::kAllMoves)) << line;
+        }
+    }
+}
+
+// So a line that a gesture leaves as it is needs no place among the ways.
+TEST(TheShortestWays, MissNoGestureThatLeavesALineAsItIs)
+{
+    for (const char* text : { "Y", "RY", "YG", "YGG", "YRRR", "YBB", "YBGB", "YRGR", "YGRG", "GYG",
+             "RGYGR", "YBRB", "YGRG", "BYB" }) {
+        const std::vector<engine::Theorem> lines { engine::Theorem(text) };
+        const engine::Theorem goal("YRRRRRRRRRRR");
+        const Position position { .lines = lines, .goal = goal, .open = progress::kMoveCount };
+        for (const Gesture& gesture : actions(position)) {
+            const auto move = std::get<Move>(std::get<Action>(decide(position, gesture)));
+            EXPECT_NE(lineAfter(lines.back(), move), lines.back()) << text;
+        }
+    }
+}
+
 TEST(TheShortestWays, AreNoneWhereAColourIsMissing)
 {
     EXPECT_FALSE(waysOf("YB", "YR"));
