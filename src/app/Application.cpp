@@ -137,7 +137,8 @@ public:
         tellWhatStaysEnglish();
         m_preferences.setReporter(
             [this](const QString& message) { showTrouble(m_window, message); });
-        m_game.controller().kept().setRecordTest([this] { return m_preferences.isSaved(); });
+        m_game.controller().kept().setRecordTest(
+            [this] { return m_preferences.saveWhatFailed().isEmpty(); });
         m_game.controller().kept().setReporter([this](const std::string& message) {
             showTrouble(m_window, QString::fromStdString(message));
         });

@@ -180,10 +180,13 @@ void KeptGames::begin()
     const play::Puzzle& puzzle = *inPlay()->puzzle();
     const Mode mode = puzzle.mode;
     const File& file = fileOf(mode);
-    // A record on the disk that still stands at the puzzle before needs the way from there to here.
-    if (m_isOn && file.mayAppend && file.lastPurse == puzzle.saved && m_recordIsSaved
-        && !m_recordIsSaved()) {
-        return append(mode, puzzle);
+    if (m_isOn && isNeeded(mode)) {
+        if (file.mayAppend && file.lastPurse == puzzle.saved) {
+            return append(mode, puzzle);
+        }
+        if (!file.mayAppend) {
+            return; // which the player has been told
+        }
     }
     fileOf(mode) = File();
     if (m_isOn) {
@@ -198,11 +201,14 @@ void KeptGames::add(const play::Action& action)
     }
     const Replay& replay = *inPlay();
     const Mode mode = replay.puzzle()->mode;
-    File& file = fileOf(mode);
-    if (!m_isOn || !file.mayAppend) {
-        return; // what came before is missing, and nothing can be found again without it
+    const File& file = fileOf(mode);
+    if (!m_isOn) {
+        return;
     }
-    if (file.lines >= kMostLines && !replay.isOver()) {
+    if (!file.mayAppend) { // what came before is missing
+        return writeAnew(mode, replay, m_faults.at(indexOf(mode)));
+    }
+    if (file.lines >= kMostLines && !replay.isOver() && !isNeeded(mode)) {
         return write(mode, replay);
     }
     append(mode, action);
@@ -214,8 +220,26 @@ void KeptGames::append(Mode mode, const play::Action& action)
     File& file = fileOf(mode);
     ++file.lines;
     file.lastPurse = replay.isOver() ? std::optional(replay.purse()) : std::nullopt;
-    failed(mode,
-        m_game.journal->append(nameOf(mode), file.writer.line({ action, replay.lastLine() })));
+    const std::string fault
+        = m_game.journal->append(nameOf(mode), file.writer.line({ action, replay.lastLine() }));
+    if (!fault.empty()) {
+        m_game.log.write("The journal " + nameOf(mode) + " is written anew: " + fault);
+        writeAnew(mode, replay, fault);
+    }
+}
+
+void KeptGames::writeAnew(Mode mode, const Replay& replay, std::string fault)
+{
+    if (isNeeded(mode)) {
+        ended(mode, std::move(fault));
+    } else {
+        write(mode, replay);
+    }
+}
+
+bool KeptGames::isNeeded(Mode mode) const
+{
+    return m_files.at(indexOf(mode)).lines > 0 && m_recordIsSaved && !m_recordIsSaved();
 }
 
 void KeptGames::write(Mode mode, const Replay& replay)
@@ -225,19 +249,20 @@ void KeptGames::write(Mode mode, const Replay& replay)
         = play::journalOf(replay, progress::currentPlayer(m_game.preferences), file.writer);
     file.lines = lines.size();
     file.mayAppend = true;
-    failed(mode, m_game.journal->begin(nameOf(mode), lines));
+    file.lastPurse = replay.isOver() ? std::optional(replay.purse()) : std::nullopt;
+    ended(mode, m_game.journal->begin(nameOf(mode), lines));
 }
 
-// Told once, until a write succeeds.
-void KeptGames::failed(Mode mode, const std::string& fault)
+// The first failure is told, and the first success after it.
+void KeptGames::ended(Mode mode, std::string newFault)
 {
-    if (!fault.empty()) {
-        fileOf(mode).mayAppend = false;
-        if (m_fault.empty()) {
-            report(m_game.texts.text("saving.puzzleNotKept", { { "why", fault } }));
-        }
+    std::string& fault = m_faults.at(indexOf(mode));
+    const std::string before = std::exchange(fault, std::move(newFault));
+    fileOf(mode).mayAppend = fault.empty();
+    if (before.empty() != fault.empty()) {
+        report(fault.empty() ? m_game.texts.text("saving.puzzleKeptAgain", {})
+                             : m_game.texts.text("saving.puzzleNotKept", { { "why", fault } }));
     }
-    m_fault = fault;
 }
 
 void KeptGames::close()
@@ -251,6 +276,7 @@ void KeptGames::close()
 void KeptGames::forget(Mode mode)
 {
     fileOf(mode) = File();
+    m_faults.at(indexOf(mode)).clear();
     m_solvedAtLaunch = m_solvedAtLaunch && mode != Mode::Classic;
     if (m_game.journal != nullptr) {
         m_game.journal->remove(nameOf(mode));
@@ -326,9 +352,27 @@ std::string KeptGames::lastWords()
         return {};
     }
     const std::string late = m_game.journal->drain();
-    const std::string& fault = late.empty() ? m_fault : late;
+    for (const Mode mode : { Mode::Classic, Mode::Endless }) {
+        const std::string& fault = m_faults.at(indexOf(mode));
+        const Replay* const replay = toBeKept(mode);
+        if (replay != nullptr && (!fault.empty() || !late.empty())) {
+            writeAnew(mode, *replay, fault.empty() ? late : fault);
+        }
+    }
+    std::string fault = late.empty() ? std::string() : m_game.journal->drain();
+    for (const Mode mode : { Mode::Classic, Mode::Endless }) {
+        if (toBeKept(mode) != nullptr && fault.empty()) {
+            fault = m_faults.at(indexOf(mode));
+        }
+    }
     return fault.empty() ? std::string()
                          : m_game.texts.text("saving.puzzleWasNotKept", { { "why", fault } });
+}
+
+const Replay* KeptGames::toBeKept(Mode mode) const
+{
+    const Replay* const replay = inPlay();
+    return replay != nullptr && replay->puzzle()->mode == mode ? replay : keptOf(mode);
 }
 
 } // namespace veyrand::controller

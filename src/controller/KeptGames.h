@@ -15,7 +15,8 @@ class GameController;
 // Keeps the puzzle in play of each mode: writes down every action before it is shown, so that the
 // puzzle is found again as it was left: after a visit to the title page, and after the end of the
 // game, whatever ended it. Without a journal, or where the player has switched it off, nothing
-// outlasts the board.
+// outlasts the board. What could not be written down is written with the next action, or at the
+// end.
 class KeptGames {
 public:
     using Mode = progress::Mode;
@@ -49,8 +50,8 @@ public:
     [[nodiscard]] bool takeSolvedAtLaunch();
 
     void settingsChanged();
-    // Asked before a puzzle's journal begins: whether the record that leads to it has been saved.
-    // By itself it has.
+    // Asked before a journal takes another's place: whether the record that leads to it has been
+    // saved, if only now. By itself it has.
     void setRecordTest(std::function<bool()> isSaved) { m_recordIsSaved = std::move(isSaved); }
 
     // Tells the player, and the log, what went wrong.
@@ -85,14 +86,20 @@ private:
 
     void write(Mode mode, const play::Replay& replay);
     void append(Mode mode, const play::Action& action);
-    void failed(Mode mode, const std::string& fault);
+    // After a failure: all of the journal in the place of what stands there.
+    void writeAnew(Mode mode, const play::Replay& replay, std::string fault);
+    void ended(Mode mode, std::string newFault);
+    // What is to be found again of the mode; null when there is nothing.
+    [[nodiscard]] const play::Replay* toBeKept(Mode mode) const;
+    // The journal there is leads from a record on the disk to here, which no newer one would.
+    [[nodiscard]] bool isNeeded(Mode mode) const;
 
     GameController& m_controller;
     GameContext& m_game;
     std::array<File, 2> m_files;
     bool m_isOn = false;
     bool m_solvedAtLaunch = false;
-    std::string m_fault; // of the last write, until one succeeds
+    std::array<std::string, 2> m_faults; // of each mode's last write, until one succeeds
     std::function<bool()> m_recordIsSaved;
     std::function<void(const std::string&)> m_report;
     std::vector<std::string> m_unreported;

@@ -64,6 +64,13 @@ std::int64_t Replay::purse() const
     return m_puzzle ? m_puzzle->saved - m_puzzle->spent + m_balance : 0;
 }
 
+std::int64_t Replay::earned() const
+{
+    return m_solved ? pointsForSolving(m_puzzle->mode == progress::Mode::Endless, m_puzzle->par,
+               static_cast<unsigned>(m_lines.size()))
+                    : 0;
+}
+
 std::string Replay::fault(const Action& action) const
 {
     if (std::holds_alternative<Puzzle>(action)) {
@@ -218,8 +225,7 @@ void Replay::makeLine(const Action& action, const Move& move)
     m_lines.push_back(line);
     if (line.chips == m_puzzle->goal) {
         m_solved = true;
-        m_balance += pointsForSolving(m_puzzle->mode == progress::Mode::Endless, m_puzzle->par,
-            static_cast<unsigned>(m_lines.size()));
+        m_balance += earned();
     }
 }
 
@@ -291,7 +297,11 @@ std::vector<Action> Replay::listOf(std::size_t undos, std::size_t redos, const C
     for (const Hint::Kind kind : clicks) {
         actions.emplace_back(Hint { kind, 0, {} });
     }
-    std::get<Puzzle>(actions.front()).spent = m_puzzle->saved - purse() - priceOf(actions);
+    if (m_leftFor) {
+        actions.emplace_back(Leave { *m_leftFor });
+    }
+    std::get<Puzzle>(actions.front()).spent
+        = m_puzzle->saved - purse() + earned() - priceOf(actions);
     return actions;
 }
 

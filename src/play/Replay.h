@@ -47,6 +47,8 @@ public:
     // Points since the puzzle's first action: those that solving brought less those that hints
     // cost.
     [[nodiscard]] std::int64_t balance() const { return m_balance; }
+    // Of those, what solving has brought.
+    [[nodiscard]] std::int64_t earned() const;
     // What there is to pay with.
     [[nodiscard]] std::int64_t purse() const;
     [[nodiscard]] bool isSolved() const { return m_solved; }
@@ -62,7 +64,7 @@ public:
     [[nodiscard]] std::optional<StepKind> undoes() const;
     [[nodiscard]] std::optional<StepKind> redoes() const;
 
-    // A shorter list that comes to the same, for as long as the puzzle is not over.
+    // A shorter list that comes to the same.
     [[nodiscard]] std::vector<Action> compact() const;
 
     // The same for two replays that differ in nothing that can be seen, earned, undone or done

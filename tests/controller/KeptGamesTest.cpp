@@ -60,7 +60,7 @@ protected:
     }
 
     // The next move of a shortest way.
-    void playBestMove()
+    void playBestMove(double wait = 8.0)
     {
         const auto proof = m_game->controller().proof();
         m_game->controller().messages().dismiss();
@@ -74,7 +74,7 @@ protected:
             const auto& click = std::get<play::Click>(*gesture);
             m_game->controller().moves().mouseClick(click.row, click.column);
         }
-        m_game->wait(8.0);
+        m_game->wait(wait);
     }
     // To the next puzzle's start.
     void solve()
@@ -233,13 +233,108 @@ TEST_F(KeptGamesTest, AFailedWriteIsToldOnceAndAgainAtTheEnd)
         m_told, ElementsAre("The unfinished puzzle cannot be kept: No space left on device."));
     EXPECT_EQ(
         kept().lastWords(), "The unfinished puzzle could not be kept: No space left on device.");
+    m_told.clear();
     m_journal.failWith("");
     playOneMove();
-    EXPECT_THAT(text(), ::testing::Not(HasSubstr("move"))) << "a line is missing before it";
+    EXPECT_THAT(m_told, ElementsAre("The unfinished puzzle is kept again."));
+    EXPECT_EQ(kept().lastWords(), "");
+    const auto before = lines();
+    ASSERT_EQ(before.size(), 4U);
+    const std::uint64_t hash = m_game->controller().flow().session()->hash();
     launch();
     goOn();
-    EXPECT_THAT(lines(), ElementsAre("YRRRR"));
+    EXPECT_EQ(lines(), before);
+    EXPECT_EQ(m_game->controller().flow().session()->hash(), hash);
+    EXPECT_THAT(m_told, IsEmpty());
+}
+
+// Somebody tidies up, or a sync fails: nothing is lost that need be told.
+TEST_F(KeptGamesTest, AJournalThatCannotGrowIsWrittenAnew)
+{
+    goOn();
     mergeReds();
+    m_journal.remove(kFile);
+    playOneMove();
+    EXPECT_THAT(m_told, IsEmpty());
+    EXPECT_THAT(m_game->log().lines(), ::testing::Contains(HasSubstr("is written anew")));
+    playOneMove();
+    const auto before = lines();
+    launch();
+    goOn();
+    EXPECT_EQ(lines(), before);
+    EXPECT_EQ(kept().lastWords(), "");
+}
+
+TEST_F(KeptGamesTest, WhatCouldNotBeWrittenIsTriedAgainAtTheEnd)
+{
+    goOn();
+    m_journal.failWith("No space left on device");
+    mergeReds();
+    m_journal.failWith("");
+    m_game->controller().flow().returnToMenu();
+    EXPECT_EQ(kept().lastWords(), "");
+    launch();
+    goOn();
+    EXPECT_THAT(lines(), ElementsAre("YRRRR", "YGR"));
+}
+
+// No success in the other game makes up for what failed in this one.
+TEST_F(KeptGamesTest, EachGameIsToldOfByItself)
+{
+    goOn();
+    m_journal.failWith("No space left on device");
+    mergeReds();
+    m_game->controller().flow().returnToMenu();
+    m_told.clear();
+    m_journal.failWith("");
+    m_game->currentGame().newPlayer(std::string(progress::kDefaultPlayerName), Mode::Endless);
+    m_game->controller().flow().startEndlessGame();
+    m_game->wait(1.0);
+    playBestMove();
+    EXPECT_THAT(m_told, IsEmpty());
+    m_journal.failWith("No space left on device");
+    EXPECT_EQ(
+        kept().lastWords(), "The unfinished puzzle could not be kept: No space left on device.");
+}
+
+TEST_F(KeptGamesTest, ASolutionCountsThoughTheMovesBeforeItCouldNotBeWritten)
+{
+    goOn();
+    m_journal.failWith("No space left on device");
+    mergeReds();
+    m_game->controller().deleteClick(1);
+    m_game->wait(3.0);
+    playBestMove();
+    playBestMove();
+    m_journal.failWith("");
+    playBestMove(0.1);
+    ASSERT_TRUE(m_game->controller().flow().session()->settled().isSolved());
+    const auto score = m_game->currentGame().score();
+    ASSERT_GT(score, 310);
+    launch(); // while it is celebrated
+    goOn();
+    EXPECT_EQ(m_game->currentGame().score(), score);
+    EXPECT_EQ(m_game->currentGame().stage(), 5);
+}
+
+// The journal there is leads from the record on the disk; one that began here would not.
+TEST_F(KeptGamesTest, AJournalThatTheRecordNeedsIsNotReplaced)
+{
+    bool isSaved = false;
+    kept().setRecordTest([&] { return isSaved; });
+    goOn();
+    solve();
+    ASSERT_EQ(m_game->currentGame().stage(), 5);
+    const std::string before = text();
+    m_journal.failWith("No space left on device");
+    playBestMove();
+    m_journal.failWith("");
+    playBestMove();
+    EXPECT_EQ(text(), before);
+    EXPECT_NE(kept().lastWords(), "");
+    isSaved = true;
+    playBestMove();
+    EXPECT_NE(text(), before);
     EXPECT_EQ(kept().lastWords(), "");
 }
 

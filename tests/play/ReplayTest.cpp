@@ -198,7 +198,25 @@ TEST(Replay, TheHashSeesEachThingAlone)
     EXPECT_EQ(replay.hash(), after({}).hash());
 }
 
-// At random, for journals are begun anew with it: the short list must come to the very same.
+namespace {
+
+// The shortened list, which must come to the very same.
+std::vector<Action> shortened(const Replay& replay)
+{
+    std::vector<Action> shorter = replay.compact();
+    Replay again;
+    for (const Action& action : shorter) {
+        EXPECT_EQ(again.apply(action), "") << print(action);
+    }
+    EXPECT_EQ(again.hash(), replay.hash());
+    EXPECT_EQ(linesOf(again), linesOf(replay));
+    EXPECT_EQ(again.purse(), replay.purse());
+    return shorter;
+}
+
+} // namespace
+
+// At random, for journals are begun anew with it.
 TEST(Replay, AShortenedListComesToTheSame)
 {
     std::mt19937 random(11);
@@ -219,19 +237,33 @@ TEST(Replay, AShortenedListComesToTheSame)
                 continue;
             }
             ++compared;
-            const std::vector<Action> shorter = replay.compact();
-            longest = std::max(longest, shorter.size());
-            Replay again;
-            for (const Action& action : shorter) {
-                ASSERT_EQ(again.apply(action), "") << print(action);
-            }
-            ASSERT_EQ(again.hash(), replay.hash());
-            ASSERT_EQ(linesOf(again), linesOf(replay));
-            ASSERT_EQ(again.purse(), replay.purse());
+            longest = std::max(longest, shortened(replay).size());
+            Replay left = replay;
+            ASSERT_EQ(left.apply(Leave { 7 }), "");
+            shortened(left);
+            ASSERT_FALSE(HasFailure());
         }
         EXPECT_LE(longest, 2 * kMostSteps + 4);
     }
     EXPECT_GT(compared, 25U);
+}
+
+// By a move, and by a hint's line, with hints and a removal before them.
+TEST(Replay, AShortenedListSolvesWhatWasSolved)
+{
+    for (const bool isHinted : { false, true }) {
+        Replay replay;
+        ASSERT_EQ(replay.apply(Puzzle { Mode::Classic, { 2, 4 }, "YRRRR", "YGR", 4, 310, 50 }), "");
+        for (const Action& action : { Action(Move { 1, 0 }), Action(Hint { Hint::Kind::Back, 1 }),
+                 Action(Hint { Hint::Kind::Pieces }),
+                 isHinted ? Action(Hint { Hint::Kind::Line, 0, { 2, 0 } })
+                          : Action(Move { 2, 0 }) }) {
+            ASSERT_EQ(replay.apply(action), "");
+        }
+        ASSERT_TRUE(replay.isSolved());
+        EXPECT_GT(replay.earned(), 0);
+        EXPECT_LE(shortened(replay).size(), 5U);
+    }
 }
 
 TEST(Replay, FoldsItsOldestStepsAndNothingElse)
