@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace veyrand::play {
@@ -43,13 +42,12 @@ inline constexpr std::size_t kReasonCount = 27;
 // greyed button, or needs no answer.
 enum class Heard { Silent, No };
 
-// What there is to know of a reason. The words are those of tips and whispers, empty where there is
-// nothing to say; "%@" stands for the label of the move.
+// What there is to know of a reason. The words of tips and whispers stand under its name among the
+// languages' texts.
 struct ReasonEntry {
     Reason reason;
     std::string_view name;
     Heard heard;
-    std::string_view words;
 };
 
 // Every reason, in their order.
@@ -64,9 +62,6 @@ struct Refusal {
     Heard heard = entryOf(reason).heard;
     friend bool operator==(const Refusal&, const Refusal&) = default;
 };
-
-// The words with the move's label in place.
-[[nodiscard]] std::string wordsFor(const Refusal& refusal);
 
 // The number on a move's label: the first two are crossed, for the player learns doubling first.
 [[nodiscard]] unsigned labelOf(unsigned rule);

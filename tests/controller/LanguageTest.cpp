@@ -140,15 +140,20 @@ TEST_F(GermanGame, ReachesTheLinesOfTheSettingsByDifferentLetters)
 TEST_F(GermanGame, SaysWhyNotInGermanForWhateverEnglishHasWords)
 {
     const language::Texts& texts = game().game().texts();
+    std::map<std::string_view, std::string> german;
     for (const play::ReasonEntry& entry : play::reasonTable()) {
-        const std::string words = wordsFor(texts, { entry.reason, 4 });
-        EXPECT_EQ(words.empty(), entry.words.empty()) << entry.name;
-        EXPECT_TRUE(words.empty() || words != play::wordsFor({ entry.reason, 4 })) << entry.name;
+        german[entry.name] = wordsFor(texts, { entry.reason, 4 });
     }
     choose("en");
     for (const play::ReasonEntry& entry : play::reasonTable()) {
-        EXPECT_EQ(wordsFor(texts, { entry.reason, 4 }), play::wordsFor({ entry.reason, 4 }));
+        const std::string words = wordsFor(texts, { entry.reason, 4 });
+        EXPECT_EQ(words.empty(), german.at(entry.name).empty()) << entry.name;
+        EXPECT_TRUE(words.empty() || words != german.at(entry.name)) << entry.name;
+        EXPECT_FALSE(entry.heard == play::Heard::No && words.empty()) << entry.name;
     }
+    EXPECT_EQ(wordsFor(texts, { play::Reason::NotOpen, play::labelOf(0) }), "Move #2 comes later.");
+    EXPECT_EQ(wordsFor(texts, { play::Reason::TooLong }), "A line holds 12 chips at most.");
+    EXPECT_EQ(wordsFor(texts, { play::Reason::TooFewPoints }), "");
 }
 
 } // namespace veyrand::controller

@@ -15,13 +15,6 @@ TEST(ReasonTable, HoldsEachReasonInItsPlace)
     EXPECT_EQ(entryOf(Reason::NothingToRedo).name, "NothingToRedo");
 }
 
-TEST(ReasonTable, HasWordsForEachRefusalThatIsHeard)
-{
-    for (const ReasonEntry& entry : reasonTable()) {
-        EXPECT_FALSE(entry.heard == Heard::No && entry.words.empty()) << entry.name;
-    }
-}
-
 TEST(Refusal, IsHeardAsItsReasonSaysUnlessToldOtherwise)
 {
     EXPECT_EQ(Refusal { Reason::BoardFull }.heard, Heard::No);
@@ -29,16 +22,11 @@ TEST(Refusal, IsHeardAsItsReasonSaysUnlessToldOtherwise)
     EXPECT_EQ((Refusal { Reason::NotLastLine, 0, Heard::Silent }).heard, Heard::Silent);
 }
 
-TEST(Refusal, NamesTheMoveThatComesLaterByItsLabel)
+TEST(Refusal, CountsMovesAsTheirLabelsDo)
 {
-    EXPECT_EQ(wordsFor({ Reason::NotOpen, labelOf(0) }), "Move #2 comes later.");
-    EXPECT_EQ(wordsFor({ Reason::NotOpen, labelOf(3) }), "Move #4 comes later.");
-    EXPECT_EQ(wordsFor({ Reason::TooLong }), "A line holds 12 chips at most.");
-}
-
-TEST(Refusal, TellsNothingWhereAPageTellsIt)
-{
-    EXPECT_EQ(wordsFor({ Reason::TooFewPoints }), "");
+    EXPECT_EQ(labelOf(0), 2U);
+    EXPECT_EQ(labelOf(1), 1U);
+    EXPECT_EQ(labelOf(3), 4U);
 }
 
 } // namespace veyrand::play
