@@ -6,7 +6,7 @@
 #include "platform/Random.h"
 #include "platform/Resources.h"
 #include "platform/TextMetrics.h"
-#include "progress/PlayerKeys.h"
+#include "progress/Settings.h"
 
 namespace veyrand::controller {
 
@@ -44,7 +44,7 @@ public:
         , m_desktopLanguages(ports.desktopLanguages)
         , m_effects(ports.sounds,
               [&preferences = ports.preferences] {
-                  return preferences.boolForKey(progress::kPlayEffectsKey);
+                  return progress::readSettings(preferences).effects;
               })
         , m_pacedLoop(ports.runLoop, m_tempo)
         , m_scene(ports.runLoop, m_tempo)

@@ -4,7 +4,7 @@
 #include "controller/Legality.h"
 #include "controller/OverlayFrame.h"
 #include "play/Decide.h"
-#include "progress/PlayerKeys.h"
+#include "progress/Settings.h"
 
 #include <utility>
 
@@ -81,7 +81,7 @@ void GameController::settingsChanged()
 
 double GameController::musicVolume() const
 {
-    return m_context.preferences.boolForKey(progress::kPlayMusicKey) ? 1.0 : 0.0;
+    return progress::readSettings(m_context.preferences).music ? 1.0 : 0.0;
 }
 
 void GameController::musicMenuClick()

@@ -1,8 +1,8 @@
 #include "controller/Transfer.h"
 
 #include "controller/GameController.h"
-#include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
+#include "progress/Settings.h"
 
 #include <utility>
 
@@ -36,13 +36,13 @@ Transfer::Transfer(GameController& controller)
 Bundle Transfer::here() const
 {
     const platform::Preferences& preferences = m_game.preferences;
+    progress::StoredSettings settings = progress::storedSettings(preferences);
     Bundle bundle { .player = m_controller.flow().playerName(),
         .record = progress::readPlayerRecord(preferences, m_controller.flow().playerName()),
         .endlessOpen = progress::isEndlessGameUnlocked(preferences),
-        .music = preferences.boolForKey(progress::kPlayMusicKey),
-        .effects = preferences.boolForKey(progress::kPlayEffectsKey),
-        .settings
-        = preferences.record(progress::kSettingsKey).value_or(platform::PreferenceRecord()),
+        .music = settings.music,
+        .effects = settings.effects,
+        .settings = std::move(settings.group),
         .results = m_controller.book().results(),
         .puzzles = m_controller.shelf().puzzles() };
     for (const Mode mode : kBothModes) {
@@ -233,14 +233,8 @@ void Transfer::takeIn(Bundle bundle, How how)
     for (const Mode mode : kBothModes) {
         m_controller.kept().forget(mode);
     }
-    const progress::PlayerRecord& record = bundle.record;
-    progress::updatePlayerRecord(m_game.preferences, bundle.player,
-        { .level = record.level,
-            .stage = record.stage,
-            .score = record.score,
-            .firstHintClick = record.firstHintClick,
-            .endlessScore = record.endlessScore,
-            .endlessPar = record.endlessPar });
+    progress::updatePlayerRecord(
+        m_game.preferences, bundle.player, progress::changeTo(bundle.record));
     progress::setEndlessGameUnlocked(m_game.preferences, bundle.endlessOpen);
     if (how == How::Replace) {
         putSettings(bundle);
@@ -270,9 +264,7 @@ void Transfer::keepAsPrevious(const Bundle& before, const Bundle& after)
 
 void Transfer::putSettings(const Bundle& bundle)
 {
-    m_game.preferences.setValue(progress::kPlayMusicKey, bundle.music);
-    m_game.preferences.setValue(progress::kPlayEffectsKey, bundle.effects);
-    m_game.preferences.setRecord(progress::kSettingsKey, bundle.settings);
+    progress::storeSettings(m_game.preferences, { bundle.music, bundle.effects, bundle.settings });
     m_controller.musicMenuClick();
     if (m_settingsChanged) {
         m_settingsChanged();

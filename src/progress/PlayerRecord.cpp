@@ -42,7 +42,7 @@ void set(PreferenceRecord& record, std::string_view key, const std::optional<boo
     }
 }
 
-void apply(PreferenceRecord& record, const PlayerRecordChange& change)
+void makeChange(PreferenceRecord& record, const PlayerRecordChange& change)
 {
     set(record, kLevelKey, change.level);
     set(record, kStageKey, change.stage);
@@ -71,20 +71,24 @@ void updatePlayerRecord(
     platform::Preferences& preferences, std::string_view player, const PlayerRecordChange& change)
 {
     PreferenceRecord record = recordOf(preferences, player);
-    apply(record, change);
+    makeChange(record, change);
     preferences.setRecord(playerRecordKey(player), std::move(record));
+}
+
+PlayerRecordChange changeTo(const PlayerRecord& record)
+{
+    return { .level = record.level,
+        .stage = record.stage,
+        .score = record.score,
+        .firstHintClick = record.firstHintClick,
+        .endlessScore = record.endlessScore,
+        .endlessPar = record.endlessPar };
 }
 
 PreferenceRecord storedRecord(const PlayerRecord& record)
 {
     PreferenceRecord result;
-    apply(result,
-        { .level = record.level,
-            .stage = record.stage,
-            .score = record.score,
-            .firstHintClick = record.firstHintClick,
-            .endlessScore = record.endlessScore,
-            .endlessPar = record.endlessPar });
+    makeChange(result, changeTo(record));
     return result;
 }
 

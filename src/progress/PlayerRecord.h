@@ -36,6 +36,9 @@ struct PlayerRecordChange {
     std::optional<int> endlessPar {};
 };
 
+// Everything that the record says.
+[[nodiscard]] PlayerRecordChange changeTo(const PlayerRecord& record);
+
 [[nodiscard]] PlayerRecord readPlayerRecord(
     const platform::Preferences& preferences, std::string_view player);
 void updatePlayerRecord(

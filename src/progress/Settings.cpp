@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace veyrand::progress {
 
@@ -228,6 +229,19 @@ void writeSettings(platform::Preferences& preferences, const Settings& settings)
     if (changed) {
         preferences.setRecord(kSettingsKey, std::move(record));
     }
+}
+
+StoredSettings storedSettings(const platform::Preferences& preferences)
+{
+    return { preferences.boolForKey(kPlayMusicKey), preferences.boolForKey(kPlayEffectsKey),
+        group(preferences) };
+}
+
+void storeSettings(platform::Preferences& preferences, StoredSettings settings)
+{
+    preferences.setValue(kPlayMusicKey, settings.music);
+    preferences.setValue(kPlayEffectsKey, settings.effects);
+    preferences.setRecord(kSettingsKey, std::move(settings.group));
 }
 
 std::string_view wordFor(Settings::Language language)

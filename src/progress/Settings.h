@@ -49,6 +49,16 @@ inline constexpr std::string_view kSettingsKey = "Settings";
 // version stays until the player chooses another.
 void writeSettings(platform::Preferences& preferences, const Settings& settings);
 
+// All of them as a store keeps them, with what a later version has put there: to be taken
+// elsewhere.
+struct StoredSettings {
+    bool music = false;
+    bool effects = false;
+    platform::PreferenceRecord group {};
+};
+[[nodiscard]] StoredSettings storedSettings(const platform::Preferences& preferences);
+void storeSettings(platform::Preferences& preferences, StoredSettings settings);
+
 // How the preferences and the language folders spell it.
 [[nodiscard]] std::string_view wordFor(Settings::Language language);
 
