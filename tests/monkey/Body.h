@@ -40,6 +40,32 @@ public:
     [[nodiscard]] virtual std::string faultOfPicture() = 0;
 };
 
+// The hands on a game that is launched at once, whether it has a window or none.
+template <class Game> class BodyOf : public Body {
+public:
+    void move(platform::Point place) override { m_game.move(place); }
+    void press(platform::Point place) override { m_game.press(place); }
+    void release(platform::Point place) override { m_game.release(place); }
+    void rightClick(platform::Point place) override { m_game.rightClick(place); }
+    void touch(platform::Point place) override { m_game.touch(place); }
+    void touchDrag(platform::Point from, platform::Point to) override
+    {
+        m_game.touchDrag(from, to);
+    }
+    void longPress(platform::Point place) override { m_game.longPress(place); }
+
+protected:
+    explicit BodyOf(const typename Game::Options& options)
+        : m_game(options)
+    {
+        m_game.launch();
+    }
+    [[nodiscard]] Game& played() { return m_game; }
+
+private:
+    Game m_game;
+};
+
 // Launches a game.
 using MakeBody = std::function<std::unique_ptr<Body>(const Body::Launch& launch)>;
 

@@ -18,47 +18,37 @@ namespace {
 constexpr unsigned long kComparing = 25;
 
 // The window's own content, which gets real events and paints after each what has changed.
-class PaintedBody final : public Body {
+class PaintedBody final : public BodyOf<app::VirtualGame> {
 public:
     PaintedBody(const Launch& launch, const std::string& data)
-        : m_game({ .screen = { .width = 640, .height = 400 },
+        : BodyOf({ .screen = { .width = 640, .height = 400 },
             .window = { 480, 300 },
             .seed = launch.seed,
             .store = launch.store,
             .journal = launch.journal,
             .dataFolder = QString::fromStdString(data) })
     {
-        m_game.launch();
     }
 
-    [[nodiscard]] headless::HeadlessGame& game() override { return m_game.headless(); }
+    [[nodiscard]] headless::HeadlessGame& game() override { return played().headless(); }
 
-    void move(platform::Point place) override { m_game.move(place); }
-    void press(platform::Point place) override { m_game.press(place); }
-    void release(platform::Point place) override { m_game.release(place); }
-    void rightClick(platform::Point place) override { m_game.rightClick(place); }
-    void touch(platform::Point place) override { m_game.touch(place); }
-    void touchDrag(platform::Point from, platform::Point to) override
-    {
-        m_game.touchDrag(from, to);
-    }
-    void longPress(platform::Point place) override { m_game.longPress(place); }
-    void key(const std::string& keys) override { m_game.key(QString::fromStdString(keys)); }
+    void key(const std::string& keys) override { played().key(QString::fromStdString(keys)); }
     void menu(const std::string& item) override
     {
-        m_game.menu().trigger(QString::fromStdString(item));
+        played().menu().trigger(QString::fromStdString(item));
     }
     void resize(platform::Size size) override
     {
         // A third of what monkeys think of: painting takes its time.
-        m_game.resize({ static_cast<int>(size.width / 3.0), static_cast<int>(size.height / 3.0) });
+        played().resize(
+            { static_cast<int>(size.width / 3.0), static_cast<int>(size.height / 3.0) });
     }
 
     [[nodiscard]] std::string faultOfPicture() override
     {
-        auto& widget = m_game.widget();
+        auto& widget = played().widget();
         if (m_kept.size() != widget.size()) {
-            m_kept = m_game.picture();
+            m_kept = played().picture();
             return {};
         }
         if (const QRegion damage = widget.nextFrame(); !damage.isEmpty()) {
@@ -73,7 +63,6 @@ public:
     }
 
 private:
-    app::VirtualGame m_game;
     QImage m_kept;
     unsigned long m_frames = 0;
 };
