@@ -43,7 +43,10 @@ void showAboutBox(QWidget& parent)
                "<p>It runs on Qt %1 (LGPL 3), ICU %2 (Unicode licence), OpenAL Soft (LGPL 2) and "
                "libsndfile (LGPL 2.1), and is lettered in Linux Biolinum (GPL 2 with font "
                "exception, or OFL).</p>")
-                .arg(QString::fromLatin1(qVersion()), icuVersion()));
+                .arg(QString::fromLatin1(qVersion()), icuVersion())
+            + tr("<p>Its developers also use libcrypto (Apache 2): a plain search keys the lines "
+                 "that it has seen by its digests, and the game's own search is tested against "
+                 "it.</p>"));
     }
     box->show();
     box->raise();
