@@ -15,9 +15,10 @@ function(veyrand_room name)
   add_library(veyrand_${name} STATIC ${sources})
   target_include_directories(veyrand_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(veyrand_${name} PUBLIC ${ROOM_LINK} PRIVATE veyrand_warnings)
-  # The sanitized build is made for one run of the tests. Read together, a room's sources take half
-  # the time; the other builds read each alone, so that none leans on what another includes.
-  if(VEYRAND_SANITIZED)
+  # The sanitized build is made for one run of the tests, and so is the one that counts what they
+  # reach. Read together, a room's sources take half the time; the other builds read each alone, so
+  # that none leans on what another includes.
+  if(VEYRAND_SANITIZED OR CMAKE_CXX_FLAGS MATCHES "--coverage")
     set_target_properties(veyrand_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
   endif()
 endfunction()

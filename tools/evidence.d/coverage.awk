@@ -5,7 +5,7 @@ BEGIN {
   split(wanted_rooms, list, " ")
   for (i in list) is_wanted[list[i]]
   while ((getline entry < explained) > 0) {
-    # file: a piece of the line: why the branch is never taken
+    # file, or * for any | a piece of the line | why the branch is never taken
     if (entry !~ /^#/ && split(entry, part, " \\| ") == 3) {
       reason[part[1], part[2]] = part[3]
     }
@@ -53,7 +53,7 @@ BEGIN {
 function explanation(file, source,   k, part) {
   for (k in reason) {
     split(k, part, SUBSEP)
-    if (part[1] == file && index(source, part[2]) > 0) return reason[k]
+    if ((part[1] == file || part[1] == "*") && index(source, part[2]) > 0) return reason[k]
   }
   return ""
 }
