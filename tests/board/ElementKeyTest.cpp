@@ -62,6 +62,15 @@ TEST(ElementKey, WhatWasWrittenIsReadBack)
     }
 }
 
+TEST(ElementKey, OnlyADeleteButtonsRowNeedsNoDash)
+{
+    EXPECT_EQ(parsedKey("delete12").row, 12U);
+    EXPECT_EQ(parsedKey("delete-123").row, 23U);
+    EXPECT_EQ(parsedKey("chip12").row, std::nullopt);
+    EXPECT_EQ(parsedKey("chip-1-123").row, std::nullopt);
+    EXPECT_EQ(parsedKey("label12").row, std::nullopt);
+}
+
 namespace {
 
 // What the keys have always been read by.

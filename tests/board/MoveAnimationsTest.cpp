@@ -202,4 +202,33 @@ TEST_F(MoveAnimationsTest, PhasesOfALineThatHasGoneStillRunAndPassOverMissingChi
     EXPECT_THAT(table().keys(), ElementsAre("chip-1-2", "chip-2-1"));
 }
 
+TEST_F(MoveAnimationsTest, WhatIsAbandonedGoesNoFurtherAndLeavesNoChipBetween)
+{
+    moves().threeRedsToOneGreen("YRRRG", 2, 1);
+    std::vector<std::string> added;
+    table().setNewObjectListener([&](const std::string& key) { added.push_back(key); });
+    wait(1.5 - kInstant);
+    moves().abandonAll();
+    wait(2.0);
+    EXPECT_THAT(added, ElementsAre("delete-2")); // the row's button belongs to the row
+    EXPECT_EQ(row(2), "YRRRG");
+
+    moves().threeRedsToOneGreen("YRRRG", 3, 1);
+    wait(0.75); // the chip between stands for no time at all: put one there
+    table().addGameObject(
+        std::make_shared<GameObject>("GreenChip", 0.5, 0.5, 0.1, 0.1, 1.0, true), "temporaryGreen");
+    moves().abandonAll();
+    EXPECT_FALSE(table().contains("temporaryGreen"));
+}
+
+TEST_F(MoveAnimationsTest, WhatBeginsAfterAnAbandonedOneIsPlayedOut)
+{
+    moves().addGreenToEnd("YR", 1);
+    moves().abandonAll();
+    moves().addGreenToEnd("YR", 2);
+    wait(2.0);
+    EXPECT_EQ(row(1), "YR");
+    EXPECT_EQ(row(2), "YRG");
+}
+
 } // namespace veyrand::board

@@ -170,4 +170,25 @@ TEST(ObjectTable, AnObserverThatWasReplacedCannotEndTheOthersWatch)
     EXPECT_EQ(late.heard().size(), 1U);
 }
 
+TEST(ObjectTable, AnObserverThatHasASuccessorLeavesItInItsPlace)
+{
+    ObjectTable table;
+    table.addGameObject(record("RedChip"), "chip-0-0");
+    auto first = std::make_unique<RecordingObserver>(table, "chip-0-0");
+    const RecordingObserver second(table, "chip-0-0");
+    first.reset();
+    table.removeEntry("chip-0-0");
+    EXPECT_EQ(second.heard().size(), 1U);
+}
+
+TEST(ObjectTable, AnObserverThatIsNotThereCanStopObserving)
+{
+    ObjectTable table;
+    const RecordingObserver other(table, "chip-0-0");
+    table.unobserve("chip-1-0", other);
+    table.addGameObject(record("RedChip"), "chip-0-0");
+    table.removeEntry("chip-0-0");
+    EXPECT_EQ(other.heard().size(), 1U);
+}
+
 } // namespace veyrand::board

@@ -166,4 +166,27 @@ TEST(JournalText, KnowsThatItWillOneDayBeWrittenOtherwise)
     EXPECT_EQ(readJournal("", "New").state, State::Whole);
 }
 
+// Nothing that the game writes, though each line's check is right.
+TEST(JournalText, ALineOfSomethingElseIsDamaged)
+{
+    for (const char* line : { "dance", "", "move 1", "move 1 0 0", "puzzle", "remove", "hint",
+             "hint line 1", "hint back", "hint nothing at all", "undo 1", "leave", "leave x",
+             "puzzle 54 YR YB 2 0 0", "puzzle 5-4 YR YB 2 0", "puzzle 5-4 YR YB x 0 0",
+             "puzzle 5-4 YR YB 2 x 0", "puzzle 5-4 YR YB 2 0 x" }) {
+        JournalWriter writer;
+        std::string text = writer.head("New") + '\n';
+        text += writer.checked(line) + '\n';
+        text += writer.line({ Undo {}, "YR" }) + '\n';
+        const JournalText read = readJournal(text, "New");
+        EXPECT_EQ(read.state, State::Damaged) << line;
+        EXPECT_EQ(read.damagedLine, 2U) << line;
+        EXPECT_TRUE(read.entries.empty()) << line;
+    }
+    JournalWriter writer;
+    const std::string head = writer.head("New") + '\n';
+    for (const char* line : { "x\n", "\n", " #\n", "#4b9b3b0f\n" }) {
+        EXPECT_EQ(readJournal(head + line, "New").damagedLine, 2U) << line;
+    }
+}
+
 } // namespace veyrand::play

@@ -165,6 +165,49 @@ TEST(APuzzleCode, SaysWhatElseIsWrong)
     EXPECT_EQ(words.size(), 4U);
 }
 
+// Of all texts whose checks hold, however long they are, a puzzle's own code alone is read.
+TEST(APuzzleCode, IsTheOnlyOneOfItsPuzzle)
+{
+    std::uint64_t state = 7;
+    const auto next = [&state](std::uint64_t end) {
+        state = state * 6364136223846793005U + 1442695040888963407U;
+        return (state >> 33U) % end;
+    };
+    unsigned read = 0;
+    unsigned newer = 0;
+    for (std::size_t letters = 1; letters < 24; ++letters) {
+        std::string text(letters, '3');
+        for (std::size_t i = 1; i < letters; ++i) {
+            text[i] = kAll[next(kAll.size())];
+        }
+        const bool isNewer = letters % 5 == 4;
+        text[0] = isNewer ? kAll.back() : text[0];
+        for (const char first : kAll) {
+            for (const char second : kAll) {
+                const std::string code = text + first + second;
+                const auto found = readCode(code);
+                if (const auto* const puzzle = std::get_if<CodedPuzzle>(&found)) {
+                    EXPECT_EQ(codeOf(puzzle->root, puzzle->goal), code);
+                    ++read;
+                } else if (std::get<CodeFault>(found).kind == CodeFault::Kind::Newer) {
+                    EXPECT_TRUE(isNewer) << code;
+                    ++newer;
+                }
+            }
+        }
+    }
+    EXPECT_LT(read, 24U);
+    EXPECT_GT(newer, 0U); // one of each length that begins so
+}
+
+TEST(APuzzleCode, TakesNoNoticeOfHalfALetter)
+{
+    EXPECT_EQ(readCode("37T8649F\x80"
+                       "2MEJ"),
+        readCode("37T8649F2MEJ"));
+    EXPECT_EQ(faultOf("37T8\xC3").letter, "\xC3");
+}
+
 TEST(APuzzleCode, IsMadeOfLinesOfTheBoardOnly)
 {
     EXPECT_FALSE(codeOf("", "Y"));

@@ -56,4 +56,15 @@ TEST(ThePuzzleMaker, MakesTheSameOfTheSameSeed)
     EXPECT_NE(madeBy(other, wish), made);
 }
 
+TEST(ThePuzzleMaker, LooksNoFurtherOnceItIsContentOrTired)
+{
+    PuzzleMaker maker(1);
+    const auto content = madeBy(maker, { 4, 8 });
+    EXPECT_FALSE(maker.look());
+    EXPECT_EQ(maker.best(), content);
+    const auto tired = madeBy(maker, { 2, 30 });
+    EXPECT_FALSE(maker.look());
+    EXPECT_EQ(maker.best(), tired);
+}
+
 } // namespace veyrand::play

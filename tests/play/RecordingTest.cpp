@@ -56,4 +56,11 @@ TEST(Recording, TellsWhatIsWrongAndWhere)
         "line 2, \"puzzle 2-1 YRRR YGG 3 320 0\": it led to YRRR");
 }
 
+TEST(Recording, IsNoRecordingWithoutAHeadOfOurs)
+{
+    JournalWriter writer;
+    EXPECT_EQ(readRecording(writer.checked("veyrand-results 1") + '\n').fault,
+        "it is no journal of the game");
+}
+
 } // namespace veyrand::play

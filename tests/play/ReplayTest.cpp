@@ -283,4 +283,55 @@ TEST(Replay, FoldsItsOldestStepsAndNothingElse)
     EXPECT_EQ(linesOf(replay), (Lines { "YYRGB" }));
 }
 
+// What stood after each action is found again on the way back, until the oldest half begins, of
+// which the lines standing then are left.
+TEST(Replay, GoesBackThroughEveryStepThatWasNotFolded)
+{
+    Replay replay;
+    ASSERT_EQ(replay.apply(Puzzle { Mode::Classic, { 5, 1 }, "YYRGB", "B", 2, 0, 0 }), "");
+    const std::vector<Action> round { Move { 4, 1 }, Move { 4, 0 }, Move { 4, 0 }, Remove { 2 },
+        Move { 4, 0 }, Remove { 1 } };
+    std::vector<Lines> stood { linesOf(replay) };
+    while (stood.size() <= kMostSteps + 1) {
+        for (const Action& action : round) {
+            if (stood.size() <= kMostSteps + 1) {
+                ASSERT_EQ(replay.apply(action), "") << print(action) << " after " << stood.size();
+                stood.push_back(linesOf(replay));
+            }
+        }
+    }
+    const std::size_t kept = kMostSteps + 1 - kMostSteps / 2;
+    for (std::size_t undone = 0; undone <= kept; ++undone) {
+        ASSERT_EQ(linesOf(replay), stood[stood.size() - 1 - undone]) << undone;
+        ASSERT_EQ(replay.apply(Undo {}), "") << undone;
+    }
+    Lines left = linesOf(replay);
+    while (replay.canUndo()) {
+        left = linesOf(replay);
+        ASSERT_EQ(replay.undoes(), Replay::StepKind::Move);
+        ASSERT_EQ(replay.apply(Undo {}), "");
+        left.pop_back();
+        EXPECT_EQ(linesOf(replay), left);
+    }
+    EXPECT_EQ(linesOf(replay), stood.front());
+}
+
+TEST(Replay, AStepDoneAgainIsTheHintThatItWas)
+{
+    Replay replay = after({});
+    const auto again = [&replay](const Action& action) {
+        EXPECT_EQ(replay.apply(action), "") << print(action);
+        EXPECT_EQ(replay.apply(Undo {}), "");
+        EXPECT_EQ(replay.hintStage(), 0);
+        EXPECT_FALSE(replay.isMarked());
+        EXPECT_EQ(replay.apply(Redo {}), "");
+        return std::pair(replay.hintStage(), replay.isMarked());
+    };
+    EXPECT_EQ(again(Move { 1, 0 }), std::pair(0, false));
+    EXPECT_EQ(again(Hint { Hint::Kind::Line, 0, { 2, 0 } }), std::pair(1, false));
+    EXPECT_EQ(again(Hint { Hint::Kind::Back, 1, {} }), std::pair(1, true));
+    EXPECT_EQ(again(Move { 2, 0 }), std::pair(0, false));
+    EXPECT_EQ(again(Remove { 1 }), std::pair(0, false));
+}
+
 } // namespace veyrand::play

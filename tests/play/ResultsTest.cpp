@@ -1,5 +1,7 @@
 #include "play/Results.h"
 
+#include "play/JournalText.h"
+
 #include <gtest/gtest.h>
 
 namespace veyrand::play {
@@ -69,6 +71,53 @@ TEST(TheResults, AreNotThoseOfADamagedLine)
         EXPECT_EQ(read.damaged, 1U) << damaged;
         EXPECT_EQ(read.results.all().size(), 1U) << damaged;
     }
+}
+
+// Lines whose check is good, and which say nothing all the same.
+TEST(TheResults, AreNoneOfALineThatTheGameDoesNotWrite)
+{
+    Results results;
+    results.add("1-4", resultOf(2));
+    const std::string good = results.lines().at(1);
+    const std::string own = good.substr(4, good.rfind(" #") - 4); // without its name and its check
+    const auto readOne = [](const std::string& words) {
+        return Results::read("veyrand-results 1\n" + JournalWriter().checked(words) + '\n');
+    };
+    EXPECT_EQ(readOne("1-5 " + own).results.all().size(), 1U);
+    std::vector<std::string> texts { "", "1-5", "1-5 " };
+    for (std::size_t i = 0; i < own.size(); ++i) {
+        texts.push_back("1-5 " + own.substr(0, i)); // cut off anywhere
+    }
+    for (const char* moves :
+        { "1.0,0.1", "1,0.0", "1.0,0", "7.0", "1.x,0.0", "x.0,0.0", "1.0;0.0" }) {
+        std::string other = own;
+        other.replace(other.find("1.0,0.0"), 7, moves);
+        texts.push_back("1-5 " + other);
+    }
+    for (const std::string& text : texts) {
+        const auto read = readOne(text);
+        EXPECT_EQ(read.damaged, 1U) << text;
+        EXPECT_TRUE(read.results.all().empty()) << text;
+    }
+    EXPECT_EQ(readOne("day 2026-02-30").results, Results());
+    EXPECT_EQ(readOne("day 2026-02-28").results.daysInTime().size(), 1U);
+}
+
+// Whoever joins whom.
+TEST(TheResults, OfTwoThatAreAsGoodTheOlderStays)
+{
+    Results older;
+    older.add("1-4", resultOf(2, { 2026, 11, 20 }));
+    Results younger;
+    younger.add("1-4", resultOf(2, { 2026, 11, 21 }));
+    younger.setKnowsAllMoves();
+    Results one = older;
+    one.join(younger);
+    Results other = younger;
+    other.join(older);
+    EXPECT_EQ(one, other);
+    EXPECT_EQ(one.of("1-4")->solvedOn, (progress::CalendarDate { 2026, 11, 20 }));
+    EXPECT_TRUE(one.knowsAllMoves());
 }
 
 TEST(TheResults, OfTwoAreJoined)

@@ -211,6 +211,39 @@ TEST_F(SessionTest, IsPickedUpWhereAListOfActionsHasLeftIt)
     EXPECT_EQ(std::get<Outcome>(picked.apply(Redo {})).points, 0);
 }
 
+TEST_F(SessionTest, WhatCannotHaveHappenedIsRefusedAndChangesNothing)
+{
+    begin("YR", "YB", 0);
+    EXPECT_EQ(refused(Hint { Hint::Kind::Good }), "NothingToHint"); // there is nothing to pay with
+    EXPECT_EQ(refused(Leave { 4 }), "Busy"); // Classic puzzles are not left for another par
+    EXPECT_EQ(refused(Remove { 1 }), "NoSuchRow");
+    EXPECT_THAT(lines(), ElementsAre("YR"));
+}
+
+TEST_F(SessionTest, AnotherPuzzleBeginsAnew)
+{
+    begin("YR", "YB");
+    done(kDouble);
+    done(puzzle("YRRR", "YG"));
+    EXPECT_THAT(lines(), ElementsAre("YRRR"));
+    EXPECT_FALSE(session().canUndo());
+    EXPECT_TRUE(done(Move { progress::kThreeReds, 0 }).solved);
+}
+
+TEST_F(SessionTest, SettledItStandsWhereEverythingThatHasBegunComesToRest)
+{
+    begin("YR", "YRRG");
+    done(Hint { Hint::Kind::Line, 0, kDouble });
+    session().settle();
+    EXPECT_THAT(lines(), ElementsAre("YR", "YRR"));
+    done(kDouble);
+    done(kDouble);
+    done(Hint { Hint::Kind::Back, 1, {} });
+    session().settle();
+    EXPECT_THAT(lines(), ElementsAre("YR"));
+    EXPECT_EQ(session().phase(), Phase::Playing);
+}
+
 class HintDecision : public SessionTest {
 protected:
     Hint asked(std::int64_t purse = 50)

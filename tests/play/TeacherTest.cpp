@@ -1,6 +1,8 @@
 #include "play/Teacher.h"
 
 #include <gtest/gtest.h>
+#include <random>
+#include <set>
 
 namespace veyrand::play {
 
@@ -76,6 +78,52 @@ TEST(TheTeacher, LeadsOnByAShortestWay)
         proof.push_back(teacher.next(proof).value());
     }
     EXPECT_EQ(proof.back(), engine::Theorem("YRRG"));
+}
+
+// From random lines of random walks: what is said to be gone is gone, comes from nothing that is
+// there, stood on the good line, and no way leads to the goal without it.
+TEST(TheTeacher, SaysOfAColourThatItIsGoneWhereItIs)
+{
+    std::mt19937 random(3);
+    WaySearch search;
+    const auto packed = [](const engine::Theorem& line) {
+        return engine::PackedLine::pack(line.theorem()).value();
+    };
+    const auto walkOn = [&](std::vector<engine::Theorem>& lines) {
+        const auto steps = stepsFrom(packed(lines.back()), kAllMoves);
+        if (!steps.empty()) {
+            lines.emplace_back(steps[random() % steps.size()].line.text());
+        }
+    };
+    std::set<char> gone;
+    for (int walk = 0; walk < 400; ++walk) {
+        std::string root;
+        while (root.size() < 3 + random() % 5) {
+            root += "YRGBRG"[random() % 6];
+        }
+        std::vector<engine::Theorem> lines { engine::Theorem(root) };
+        std::vector<engine::Theorem> way = lines;
+        for (auto steps = 1 + random() % 3; steps > 0; --steps) {
+            walkOn(way);
+            walkOn(lines);
+        }
+        const engine::Theorem goal = way.back();
+        if (!search.find(packed(lines.front()), packed(goal))) {
+            continue;
+        }
+        Teacher teacher(goal, kAllMoves);
+        const Advice advice = teacher.about(lines);
+        if (advice.moves || advice.why != DeadEnd::ColourGone) {
+            continue;
+        }
+        gone.insert(advice.colour);
+        const std::string& good = lines[advice.goodRow].theorem();
+        EXPECT_EQ(lines.back().theorem().find(advice.colour), std::string::npos) << root;
+        EXPECT_NE(good.find(advice.colour), std::string::npos) << root;
+        EXPECT_TRUE(search.find(packed(lines[advice.goodRow]), packed(goal), advice.goodRow + 1));
+        EXPECT_FALSE(search.find(packed(lines.back()), packed(goal))) << root;
+    }
+    EXPECT_EQ(std::string(gone.begin(), gone.end()), "GRY"); // blues come of all but the yellow
 }
 
 } // namespace veyrand::play

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <random>
+#include <set>
 
 namespace veyrand::play {
 
@@ -60,6 +62,58 @@ TEST(ASolution, IsMarkedWhereItLeavesTheShortestWays)
     markWhereItLeaves(trail, search, kAllMoves);
     EXPECT_THAT(costsOfTrail(trail), ElementsAre(0, 2, 0, 0)); // two moves are needed from YRR
     EXPECT_EQ(trail[1].instead, only(progress::kGreenToEnd));
+}
+
+TEST(ASolution, IsLookedAtAsFarAsItsMovesAreThere)
+{
+    const auto trail = trailOf(kDoubledThenGreen,
+        { { progress::kDoubling, 0 }, { progress::kThreeReds, 0 }, { progress::kGreenToEnd, 0 } });
+    EXPECT_THAT(textsOfTrail(trail), ElementsAre("YR", "YRR"));
+}
+
+// Of random solutions: what each line costs is how many moves more are needed after it than should
+// be.
+TEST(ASolution, IsMarkedLineByLineWithWhatEachCosts)
+{
+    std::mt19937 random(17);
+    WaySearch search;
+    const auto left = [&search](const std::string& line, const std::string& goal, std::size_t row) {
+        const auto ways = search.find(engine::PackedLine::pack(line).value(),
+            engine::PackedLine::pack(goal).value(), static_cast<unsigned>(row) + 1);
+        return ways ? ways->moves() : 0;
+    };
+    unsigned late = 0; // lines that leave a shortest way after the first
+    for (int solution = 0; solution < 300; ++solution) {
+        CodedPuzzle puzzle { "YR" + std::string(random() % 3, "RGB"[random() % 3]), "" };
+        engine::PackedLine line = engine::PackedLine::pack(puzzle.root).value();
+        std::vector<Move> moves;
+        std::set<std::string> seen { puzzle.root };
+        for (const auto count = 2 + random() % 4; moves.size() < count;) {
+            const auto steps = stepsFrom(line, kAllMoves);
+            if (steps.empty()) {
+                break;
+            }
+            const auto next = steps[random() % steps.size()].line;
+            moves.push_back(moveBetween(line, next, kAllMoves).value());
+            line = next;
+            puzzle.goal = line.text();
+            seen.insert(puzzle.goal);
+        }
+        auto trail = trailOf(puzzle, moves);
+        if (seen.size() < trail.size() || trail.size() < 3) {
+            continue; // it comes by one line twice
+        }
+        markWhereItLeaves(trail, search, kAllMoves);
+        for (std::size_t row = 1; row + 1 < trail.size(); ++row) {
+            const unsigned before = left(trail[row - 1].line, puzzle.goal, row - 1);
+            const unsigned after = left(trail[row].line, puzzle.goal, row);
+            EXPECT_EQ(trail[row].more, after + 1 - before) << puzzle.root << ' ' << row;
+            EXPECT_EQ(trail[row].instead == 0, after + 1 == before) << puzzle.root << ' ' << row;
+            late += row > 1 && trail[row].more > 0 && trail[row - 1].more == 0 ? 1 : 0;
+        }
+        EXPECT_EQ(trail.back().more, 0U);
+    }
+    EXPECT_GT(late, 5U);
 }
 
 TEST(AShortestWay, IsLookedAtLikeASolution)

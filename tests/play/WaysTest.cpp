@@ -205,4 +205,13 @@ TEST(TheShortestWays, AreEachAnother)
     }
 }
 
+TEST(AMoveBetweenLines, IsNoneWhereNoOpenMoveLeads)
+{
+    const auto three = only(progress::kThreeReds);
+    EXPECT_EQ(
+        moveBetween(lineOf("YRRRR"), lineOf("YRG"), three), (Move { progress::kThreeReds, 1 }));
+    EXPECT_EQ(moveBetween(lineOf("YRRRR"), lineOf("YRG"), kAllMoves & ~three), std::nullopt);
+    EXPECT_EQ(moveBetween(lineOf("YRRRR"), lineOf("B"), kAllMoves), std::nullopt);
+}
+
 } // namespace veyrand::play
