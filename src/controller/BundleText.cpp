@@ -1,5 +1,6 @@
 #include "controller/BundleText.h"
 
+#include "language/Json.h"
 #include "platform/MemoryPreferences.h"
 #include "play/Fnv.h"
 #include "play/JournalText.h"
@@ -8,7 +9,6 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
 
@@ -16,7 +16,7 @@ namespace veyrand::controller {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using language::Json;
 using platform::PreferenceRecord;
 using platform::PreferenceValue;
 using play::Bundle;
@@ -199,7 +199,7 @@ std::variant<Bundle, BundleFault> readBundle(std::string_view text)
     if (text.size() > kMostBundleBytes) {
         return BundleFault { Kind::TooLarge };
     }
-    const Json document = Json::parse(text, nullptr, false);
+    const Json document = language::jsonOrNothingIn(text);
     if (document.is_discarded()) {
         const bool begins = text.substr(0, text.find(':')).find(kMagic) != std::string_view::npos;
         return BundleFault { begins ? Kind::Damaged : Kind::Foreign, "JSON" };

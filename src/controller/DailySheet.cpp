@@ -1,11 +1,11 @@
 #include "controller/DailySheet.h"
 
 #include "controller/GameController.h"
+#include "language/Words.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <sstream>
 
 namespace veyrand::controller {
 
@@ -28,12 +28,9 @@ constexpr std::string_view kDayKey = "day-";
 
 std::string wordOf(const std::string& words, int index)
 {
-    std::istringstream stream(words);
-    std::string word;
-    for (int i = 0; i <= index; ++i) {
-        stream >> word;
-    }
-    return word;
+    const std::vector<std::string> all = language::wordsIn(words);
+    return all.empty() ? std::string()
+                       : all[std::min(all.size() - 1, static_cast<std::size_t>(index))];
 }
 
 } // namespace

@@ -2,10 +2,10 @@
 
 #include "board/BoardGeometry.h"
 #include "controller/FlowedLines.h"
+#include "language/Words.h"
 
 #include <algorithm>
 #include <cmath>
-#include <sstream>
 #include <stdexcept>
 
 namespace veyrand::controller {
@@ -79,16 +79,6 @@ bool isBlank(const std::string& text)
     return text.find_first_not_of(' ') == std::string::npos;
 }
 
-std::vector<std::string> wordsOf(const std::string& text)
-{
-    std::istringstream stream(text);
-    std::vector<std::string> words;
-    for (std::string word; stream >> word;) {
-        words.push_back(word);
-    }
-    return words;
-}
-
 // The words of a paragraph without its chips.
 std::vector<std::string> wordsOfMarked(const std::string& text)
 {
@@ -98,7 +88,7 @@ std::vector<std::string> wordsOfMarked(const std::string& text)
             : piece.kind == Piece::Kind::Value    ? '{' + piece.text + '}'
                                                   : std::string(" ");
     }
-    return wordsOf(plain);
+    return language::wordsIn(plain);
 }
 
 // A text and the English lines whose place it takes.
@@ -189,7 +179,7 @@ private:
         const std::vector<std::string> wanted = wordsOfMarked(m_englishWords[m_next++]);
         std::vector<std::string> found;
         while (line != end && found.size() < wanted.size()) {
-            for (std::string& word : wordsOf(line->text)) {
+            for (std::string& word : language::wordsIn(line->text)) {
                 found.push_back(std::move(word));
             }
             if (!isBlank(line->text)) {

@@ -1,7 +1,8 @@
 #include "controller/TutorialScriptReader.h"
 
+#include "language/Json.h"
+
 #include <array>
-#include <nlohmann/json.hpp>
 #include <set>
 #include <stdexcept>
 #include <utility>
@@ -10,7 +11,7 @@ namespace veyrand::controller {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using language::Json;
 
 constexpr std::array kPageFiles { "introductions", "notes", "moves", "messages" };
 
@@ -356,7 +357,7 @@ private:
             if (!bytes) {
                 fail("cannot be read");
             }
-            read(Json::parse(*bytes));
+            read(language::jsonIn(*bytes));
         } catch (const std::exception& error) {
             m_script.errors += file + ".json: " + error.what() + '\n';
         }

@@ -1,20 +1,18 @@
 #include "language/Texts.h"
 
 #include "language/Choice.h"
+#include "language/Json.h"
 #include "language/Marks.h"
 #include "language/Pseudo.h"
 
 #include <algorithm>
 #include <array>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
 
 namespace veyrand::language {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr std::string_view kOther = "other";
 constexpr std::array<std::string_view, 6> kFormNames { "zero", "one", "two", "few", "many",
@@ -142,7 +140,7 @@ void forEachEntry(const platform::Resources& resources, const std::string& file,
         if (!bytes) {
             throw std::invalid_argument("cannot be read");
         }
-        const Json json = Json::parse(*bytes);
+        const Json json = jsonIn(*bytes);
         if (!json.is_object()) {
             throw std::invalid_argument("is no object");
         }

@@ -1,11 +1,11 @@
 #include "present/ExtraWords.h"
 
+#include "language/Words.h"
 #include "present/ExtraPictures.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <sstream>
 
 namespace veyrand::present {
 
@@ -211,9 +211,7 @@ std::vector<std::string> broken(
     // A little longer than an equal share, so that the last line is not the longest.
     const double share = count > 1.0 ? std::min(width, whole / count * 1.12) : width;
     std::vector<std::string> lines;
-    std::istringstream words(text);
-    std::string word;
-    while (words >> word) {
+    for (const std::string& word : language::wordsIn(text)) {
         if (!lines.empty() && lengthOf(lines.back() + ' ' + word) <= share) {
             lines.back() += ' ' + word;
         } else {

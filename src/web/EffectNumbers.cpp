@@ -1,22 +1,22 @@
 #include "web/EffectNumbers.h"
 
+#include "language/Json.h"
 #include "present/DisplayList.h"
 #include "present/EffectTable.h"
 
 #include <array>
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 namespace veyrand::web {
 
 namespace {
 
-using nlohmann::json;
+using language::Json;
 namespace effects = present::effects;
 
 constexpr double kDensest = 255.0;
 
-json asJson(const effects::SetOff& style)
+Json asJson(const effects::SetOff& style)
 {
     constexpr std::size_t kDigits = 8; // a sign, six of them, and the end
     std::array<char, kDigits> color {};
@@ -29,11 +29,11 @@ json asJson(const effects::SetOff& style)
 
 std::string effectNumbers()
 {
-    json light = json::array();
+    Json light = Json::array();
     for (const effects::Stop& stop : effects::kLight) {
-        light.push_back(json::array({ stop.place, stop.density / kDensest }));
+        light.push_back(Json::array({ stop.place, stop.density / kDensest }));
     }
-    return json {
+    return Json {
         { "gatheredX", effects::kGatheredX }, { "gatheredY", effects::kGatheredY },
         { "gatheredReach", effects::kGatheredReach }, { "light", light },
         { "haloOutside", effects::kHaloOutside },

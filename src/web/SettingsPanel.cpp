@@ -2,8 +2,7 @@
 
 #include "controller/MenuTable.h"
 #include "controller/SettingsTable.h"
-
-#include <nlohmann/json.hpp>
+#include "language/Json.h"
 
 namespace veyrand::web {
 
@@ -11,7 +10,7 @@ namespace {
 
 using controller::SettingItem;
 using controller::SettingsSection;
-using nlohmann::json;
+using language::Json;
 
 // What speaks of the desktop in a window speaks of the browser on a page.
 std::string said(const language::Texts& texts, const char* text)
@@ -34,10 +33,10 @@ const char* kindOf(const SettingItem& item)
     return "volume";
 }
 
-json described(
+Json described(
     const SettingItem& item, const progress::Settings& settings, const language::Texts& texts)
 {
-    json choices = json::array();
+    Json choices = Json::array();
     for (const char* const choice : item.choices) {
         if (choice != nullptr) {
             choices.push_back(said(texts, choice));
@@ -54,10 +53,10 @@ std::string panelOfSettings(const platform::Preferences& preferences, const lang
 {
     const progress::Settings settings = progress::readSettings(preferences);
     const auto items = controller::settingItems();
-    json sections = json::array();
+    Json sections = Json::array();
     for (const auto section :
         { SettingsSection::Sound, SettingsSection::Look, SettingsSection::Play }) {
-        json entries = json::array();
+        Json entries = Json::array();
         for (std::size_t i = 0; i < items.size(); ++i) {
             if (items[i].section == section) {
                 entries.push_back(described(items[i], settings, texts));
@@ -67,7 +66,7 @@ std::string panelOfSettings(const platform::Preferences& preferences, const lang
         sections.push_back(
             { { "title", said(texts, controller::textOf(section)) }, { "items", entries } });
     }
-    return json {
+    return Json {
         { "title", said(texts, controller::kSettingsTitle) },
         { "reset", said(texts, controller::kResetSettings) },
         { "close", said(texts, controller::kCloseSettings) },

@@ -1,12 +1,12 @@
 #include "web/WebGame.h"
 
 #include "controller/SettingsTable.h"
+#include "language/Json.h"
 #include "progress/PlayerKeys.h"
 #include "web/Host.h"
 #include "web/SettingsPanel.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 namespace veyrand::web {
 
@@ -14,7 +14,7 @@ namespace {
 
 using controller::MenuItem;
 using controller::MenuItemId;
-using nlohmann::json;
+using language::Json;
 
 // What the page does by itself.
 void leaveToPage(MenuItemId id)
@@ -119,14 +119,14 @@ controller::GameController* WebGame::controller()
 
 std::string WebGame::menu()
 {
-    json menus = json::array();
+    Json menus = Json::array();
     const auto said = [this](const char* text) {
         return controller::plainMenuText(
             m_parts ? m_parts->game.texts().localized("GameMenu", text) : std::string(text));
     };
     const auto items = controller::menuItems();
     for (const controller::MenuTitle& title : controller::menuTitles()) {
-        json entries = json::array();
+        Json entries = Json::array();
         for (std::size_t i = 0; i < items.size(); ++i) {
             const MenuItem& item = items[i];
             if (item.menu != title.id || item.kind == MenuItem::Kind::Hidden) {
@@ -212,7 +212,7 @@ std::string WebGame::placeOf(const std::string& key)
     }
     const platform::RectF board = m_parts->game.layers().backgroundLayer().rectInRoot();
     const auto scale = static_cast<double>(board.height);
-    return json {
+    return Json {
         { "x", static_cast<double>(board.x) + record->x() * scale },
         { "y", m_parts->view.size().height - static_cast<double>(board.y) - record->y() * scale }
     }.dump();
@@ -223,14 +223,14 @@ std::string WebGame::state()
     if (!m_parts) {
         return "null";
     }
-    json lines = json::array();
+    Json lines = Json::array();
     if (const auto& proof = controller()->proof()) {
         for (const engine::Theorem& line : proof->lines()) {
             lines.push_back(line.theorem());
         }
     }
     const progress::CurrentGame& current = m_parts->currentGame;
-    return json {
+    return Json {
         { "keys", m_parts->gameData.gameObjects().keys() }, { "lines", lines },
         { "level", current.level() }, { "stage", current.stage() }, { "score", current.score() },
         { "page", controller()->messages().page() }, { "dialogue", controller()->dialogueState() },

@@ -1,8 +1,8 @@
 #include "web/WebPorts.h"
 
+#include "language/Json.h"
 #include "web/Host.h"
 
-#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace veyrand::web {
@@ -143,7 +143,7 @@ void WebAlerts::answer(const platform::AlertAnswer& given)
 void WebAlerts::showFirst() const
 {
     const platform::Alert& alert = m_waiting.front().alert;
-    const nlohmann::json shown { { "message", alert.message }, { "text", alert.informativeText },
+    const language::Json shown { { "message", alert.message }, { "text", alert.informativeText },
         { "default", alert.defaultButton }, { "alternate", alert.alternateButton },
         { "other", alert.otherButton },
         { "box", alert.suppressionBox == platform::Alert::SuppressionBox::Shown } };

@@ -8,16 +8,16 @@ namespace veyrand::web {
 
 namespace {
 
-using nlohmann::json;
+using language::Json;
 using platform::PreferenceRecord;
 using platform::PreferenceValue;
 
-json toJson(const PreferenceValue& value)
+Json toJson(const PreferenceValue& value)
 {
-    return std::visit([](const auto& plain) { return json(plain); }, value);
+    return std::visit([](const auto& plain) { return Json(plain); }, value);
 }
 
-std::optional<PreferenceValue> toValue(const json& value)
+std::optional<PreferenceValue> toValue(const Json& value)
 {
     if (value.is_boolean()) {
         return value.get<bool>();
@@ -38,7 +38,7 @@ std::optional<PreferenceValue> toValue(const json& value)
     return std::nullopt;
 }
 
-PreferenceRecord toRecord(const json& object)
+PreferenceRecord toRecord(const Json& object)
 {
     PreferenceRecord record;
     for (const auto& [key, field] : object.items()) {
@@ -57,7 +57,7 @@ std::string WebPreferences::load()
     if (!text.contents && text.fault.empty()) {
         return {};
     }
-    json document = json::parse(text.contents.value_or(""), nullptr, false);
+    Json document = language::jsonOrNothingIn(text.contents.value_or(""));
     if (!document.is_object()) {
         return m_store.keepAside(kName, "damaged").value_or(std::string(kName));
     }
@@ -83,8 +83,8 @@ void WebPreferences::setValue(std::string_view key, PreferenceValue value)
 
 void WebPreferences::setRecord(std::string_view key, PreferenceRecord record)
 {
-    json group = json::object();
-    json& old = m_document[std::string(key)];
+    Json group = Json::object();
+    Json& old = m_document[std::string(key)];
     if (old.is_object()) {
         for (const auto& [name, field] : old.items()) {
             if (!toValue(field)) {
@@ -103,7 +103,7 @@ void WebPreferences::setRecord(std::string_view key, PreferenceRecord record)
 void WebPreferences::save()
 {
     constexpr int kIndent = 4;
-    m_store.put(kName, m_document.dump(kIndent, ' ', false, json::error_handler_t::replace));
+    m_store.put(kName, m_document.dump(kIndent, ' ', false, Json::error_handler_t::replace));
 }
 
 } // namespace veyrand::web

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "language/Json.h"
 #include "platform/MemoryPreferences.h"
 #include "web/WebStore.h"
-
-#include <nlohmann/json.hpp>
 
 namespace veyrand::web {
 
@@ -30,7 +29,7 @@ private:
     void save();
 
     WebStore& m_store;
-    nlohmann::json m_document = nlohmann::json::object(); // with whatever else is in it
+    language::Json m_document = language::Json::object(); // with whatever else is in it
 };
 
 } // namespace veyrand::web

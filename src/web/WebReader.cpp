@@ -2,31 +2,30 @@
 
 #include "controller/AccessibleTree.h"
 #include "controller/MenuTable.h"
+#include "language/Json.h"
 #include "web/Host.h"
-
-#include <nlohmann/json.hpp>
 
 namespace veyrand::web {
 
 namespace {
 
 using controller::AccessibleNode;
-using nlohmann::json;
+using language::Json;
 
 constexpr double kSoon = 0.04; // seconds
 
-json described(const AccessibleNode& node, const platform::RectF& board, double viewHeight)
+Json described(const AccessibleNode& node, const platform::RectF& board, double viewHeight)
 {
-    json children = json::array();
+    Json children = Json::array();
     for (const AccessibleNode& child : node.children) {
         children.push_back(described(child, board, viewHeight));
     }
-    json made = json::object();
+    Json made = Json::object();
     made["id"] = node.id;
     made["role"] = controller::nameOf(node.role);
     made["name"] = node.name;
     made["value"] = node.value;
-    made["actions"] = json::array();
+    made["actions"] = Json::array();
     for (const controller::AccessibleAction& action : node.actions) {
         made["actions"].push_back({ { "name", action.name }, { "text", action.text } });
     }
@@ -38,7 +37,7 @@ json described(const AccessibleNode& node, const platform::RectF& board, double 
         const double top = viewHeight - static_cast<double>(board.y)
             - (node.place.y + node.place.height / 2.0) * scale;
         made["place"]
-            = json::array({ left, top, node.place.width * scale, node.place.height * scale });
+            = Json::array({ left, top, node.place.width * scale, node.place.height * scale });
     }
     return made;
 }
@@ -86,7 +85,7 @@ void WebReader::tell()
 {
     const auto focus = m_game.controller().focus().shown();
     using controller::MenuItemId;
-    json shown = json::object();
+    Json shown = Json::object();
     shown["focus"] = focus ? focus->key : std::string();
     shown["undo"] = choiceOf(m_game, MenuItemId::Undo);
     shown["redo"] = choiceOf(m_game, MenuItemId::Redo);
@@ -96,7 +95,7 @@ void WebReader::tell()
     if (m_game.view().block().blockClick()) {
         look();
     }
-    std::string text = shown.dump(-1, ' ', false, json::error_handler_t::replace);
+    std::string text = shown.dump(-1, ' ', false, Json::error_handler_t::replace);
     if (text != m_told) {
         m_told = std::move(text);
         veyrand_host_tree(m_told.c_str());

@@ -17,11 +17,13 @@ constexpr std::array<std::string_view, 9> kRooms { "language", "engine", "progre
 constexpr std::string_view kInstall = "install";
 constexpr std::string_view kFakes = "platform/fakes";
 
-// Standard headers that the portable rooms do without: threads, files, and what came too late. A
-// mutex stays allowed, for it also guards what is created on first use.
-constexpr std::array<std::string_view, 15> kBarredHeaders { "barrier", "condition_variable",
-    "filesystem", "format", "fstream", "future", "latch", "ranges", "semaphore", "shared_mutex",
-    "source_location", "stop_token", "syncstream", "thread", "coroutine" };
+// Standard headers that the portable rooms do without: threads, files, what came too late, and
+// streams and patterns, which bring all that the library knows of languages into the page. A mutex
+// stays allowed, for it also guards what is created on first use.
+constexpr std::array<std::string_view, 22> kBarredHeaders { "barrier", "condition_variable",
+    "filesystem", "format", "fstream", "future", "iomanip", "iostream", "istream", "latch",
+    "locale", "ostream", "ranges", "regex", "semaphore", "shared_mutex", "source_location",
+    "sstream", "stop_token", "syncstream", "thread", "coroutine" };
 
 template <std::size_t N>
 bool contains(const std::array<std::string_view, N>& list, std::string_view item)

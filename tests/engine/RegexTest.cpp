@@ -103,6 +103,77 @@ TEST(Regex, ATextTooLongToSearchHasNoMatchAndComesBackUnchanged)
     EXPECT_EQ(stringByReplacingOccurrencesOfRegex(text, "(R|Y)*G", "B"), text);
 }
 
+// Which of all bytes the pattern matches, as ranges of hexadecimal numbers.
+std::string bytesMatching(const std::string& pattern)
+{
+    std::string ranges;
+    const auto matches = [&pattern](int byte) {
+        return byte <= 0xFF && isMatchedByRegex(std::string(1, static_cast<char>(byte)), pattern);
+    };
+    const auto add = [&ranges](int byte) {
+        constexpr std::string_view kDigits = "0123456789ABCDEF";
+        ranges += kDigits.at(static_cast<unsigned>(byte) / 16);
+        ranges += kDigits.at(static_cast<unsigned>(byte) % 16);
+    };
+    for (int first = 0; first <= 0xFF; ++first) {
+        if (!matches(first)) {
+            continue;
+        }
+        int last = first;
+        while (matches(last + 1)) {
+            ++last;
+        }
+        ranges += ranges.empty() ? "" : " ";
+        add(first);
+        if (last > first) {
+            ranges += '-';
+            add(last);
+        }
+        first = last;
+    }
+    return ranges;
+}
+
+struct Class {
+    const char* pattern;
+    const char* bytes;
+};
+
+class RegexClass : public testing::TestWithParam<Class> { };
+
+// The browser's build has tables of its own for these.
+TEST_P(RegexClass, HasTheseBytes)
+{
+    EXPECT_EQ(bytesMatching(GetParam().pattern), GetParam().bytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(Classes, RegexClass,
+    testing::Values(Class { "\\w", "30-39 41-5A 5F 61-7A AA B5 BA C0-D6 D8-F6 F8-FF" }, //
+        Class { "\\d", "30-39" }, //
+        Class { "\\s", "09-0D 20 85 A0" }, //
+        Class { "\\h", "09 20 A0" }, //
+        Class { "[^\\w\\s\\x00-\\x9F]", "A1-A9 AB-B4 B6-B9 BB-BF D7 F7" }, //
+        Class { ".", "00-09 0E-84 86-FF" }, //
+        Class { "(?i)k", "4B 6B" }, //
+        Class { "(?i)\xE9", "C9 E9" }, //
+        Class { "(?i)[\xD5-\xD9]", "D5-D9 F5-F6 F8-F9" }, // not the signs between the letters
+        Class { "(?i)\xF7", "F7" }, //
+        Class { "(?i)\xFF", "FF" }, // its capital is no byte
+        Class { "(?i)[\xDF]", "DF" }, //
+        Class { "(?i)\xB5", "B5" }));
+
+TEST(Regex, ComparesLettersOfEitherCase)
+{
+    EXPECT_EQ(rangeOfRegex("GRASS", "(?i)\xDF"), (Range { 3, 2 }));
+    EXPECT_EQ(rangeOfRegex("gra\xDF", "(?i)SS"), (Range { 3, 1 }));
+    EXPECT_EQ(rangeOfRegex("xY\xC9z", "(?i)y\xE9Z"), (Range { 1, 3 }));
+}
+
+TEST(Regex, SeesWhereWordsEnd)
+{
+    EXPECT_EQ(stringByReplacingOccurrencesOfRegex("ab\xAD cd_1!", "\\b", "|"), "|ab\xAD| |cd_1|!");
+}
+
 TEST(Regex, IsMatchedAnywhere)
 {
     EXPECT_TRUE(isMatchedByRegex("10001", "000"));

@@ -11,7 +11,7 @@ import time
 import webserver
 from chromium import Chromium
 
-MOST_PROGRAM = 440_000  # bytes, in brotli
+MOST_PROGRAM = 300_000
 MOST_TO_FIRST_FRAME = 1_200_000
 PHONE = {'width': 844, 'height': 390, 'touch': True}
 
