@@ -200,6 +200,19 @@ TEST(APuzzleCode, IsTheOnlyOneOfItsPuzzle)
     EXPECT_GT(newer, 0U); // one of each length that begins so
 }
 
+// A digit that says nothing would make a second code of the same puzzle.
+TEST(APuzzleCode, HasNoNoughtTooMany)
+{
+    const std::string code = codeOf("YBRGRRR", "RBYGGGBBG").value();
+    std::string longer = code.substr(0, code.size() - 2);
+    longer.insert(1, 1, kAll.front());
+    for (const char first : kAll) {
+        for (const char second : kAll) {
+            EXPECT_TRUE(isSlip(longer + first + second));
+        }
+    }
+}
+
 TEST(APuzzleCode, TakesNoNoticeOfHalfALetter)
 {
     EXPECT_EQ(readCode("37T8649F\x80"
