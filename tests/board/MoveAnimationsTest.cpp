@@ -231,4 +231,11 @@ TEST_F(MoveAnimationsTest, WhatBeginsAfterAnAbandonedOneIsPlayedOut)
     EXPECT_EQ(row(2), "YRG");
 }
 
+TEST_F(MoveAnimationsTest, NoGreenComesOutFromUnderNoChip)
+{
+    moves().addGreenToEnd("", 1);
+    wait(2.0);
+    EXPECT_THAT(chips(), ElementsAre());
+}
+
 } // namespace veyrand::board

@@ -159,4 +159,20 @@ TEST_F(PanelDrawingTest, ACounterThatKeepsItsTextKeepsItsRecord)
     EXPECT_NE(object("counter-score"), score);
 }
 
+TEST_F(PanelDrawingTest, PracticeHasItsCaptionAndNoPoints)
+{
+    currentGame().placePuzzle({ .root = "YR",
+        .goal = "YRG",
+        .par = 4,
+        .level = 2,
+        .stage = 3,
+        .practice
+        = progress::CurrentGame::Practice { .open = 7, .caption = "daily", .purse = 50 } });
+    board().panel.drawLabels();
+    board().panel.drawCounters();
+    EXPECT_EQ(text("counter-score"), "\u2013");
+    EXPECT_EQ(text("counter-stage"), "daily");
+    EXPECT_EQ(text("counter-par"), "3");
+}
+
 } // namespace veyrand::board
