@@ -6,13 +6,14 @@ import json
 import os
 import shutil
 import signal
+import socket
 import subprocess
 import tempfile
 import time
 import urllib.error
 import urllib.request
 
-PATIENCE = 240  # seconds; the machine may be busy
+PATIENCE = 120  # seconds without a word from the page; the machine may be busy
 
 
 class MissingBrowser(Exception):
@@ -44,8 +45,8 @@ def firefox(address):
                    'user_pref("app.update.enabled", false);\n')
     try:
         with started([program, '--headless', '--no-remote', '--profile', profile, address],
-                     env=dict(os.environ, HOME=profile)):
-            yield
+                     env=dict(os.environ, HOME=profile)) as process:
+            yield process
     finally:
         shutil.rmtree(profile, ignore_errors=True)
 
@@ -57,8 +58,23 @@ def asked(address, body=None):
         return json.load(answer)['value']
 
 
-def free_display():
-    return next(number for number in range(70, 170) if not os.path.exists('/tmp/.X11-unix/X%d' % number))
+@contextlib.contextmanager
+def display():
+    """An X server of our own; it looks for a free number itself, as others may be looking too."""
+    told, tell = os.pipe()
+    with started(['Xvfb', '-displayfd', str(tell), '-screen', '0', '1440x900x24', '-nolisten', 'tcp'], pass_fds=(tell,)):
+        os.close(tell)
+        with os.fdopen(told) as answer:
+            number = answer.readline().strip()
+        if not number:
+            raise OSError('Xvfb does not start')
+        yield ':' + number
+
+
+def free_port():
+    with socket.socket() as probe:
+        probe.bind(('127.0.0.1', 0))
+        return probe.getsockname()[1]
 
 
 @contextlib.contextmanager
@@ -67,12 +83,11 @@ def webkit(address):
     browsers = glob.glob('/usr/lib/*/webkit2gtk-4.*/MiniBrowser')
     if driver is None or not browsers:
         raise MissingBrowser('there is no WebKitGTK (tools/packages web-browsers installs webkit2gtk-driver)')
-    display = ':%d' % free_display()
-    port = 20000 + os.getpid() % 20000
-    with started(['Xvfb', display, '-screen', '0', '1440x900x24', '-nolisten', 'tcp']), \
-            started([driver, '--port=%d' % port], env=dict(os.environ, DISPLAY=display, GDK_BACKEND='x11',
+    port = free_port()
+    with display() as screen, \
+            started([driver, '--port=%d' % port], env=dict(os.environ, DISPLAY=screen, GDK_BACKEND='x11',
                                                            LIBGL_ALWAYS_SOFTWARE='1',
-                                                           WEBKIT_DISABLE_COMPOSITING_MODE='1')):
+                                                           WEBKIT_DISABLE_COMPOSITING_MODE='1')) as process:
         service = 'http://127.0.0.1:%d' % port
         wish = {'capabilities': {'alwaysMatch': {'webkitgtk:browserOptions': {
             'binary': sorted(browsers)[-1], 'args': ['--automation']}}}}
@@ -82,22 +97,40 @@ def webkit(address):
                 session = asked(service + '/session', wish)['sessionId']
                 break
             except (urllib.error.URLError, ConnectionError):
-                if time.monotonic() > end:
+                if time.monotonic() > end or process.poll() is not None:
                     raise
                 time.sleep(0.5)
         asked('%s/session/%s/url' % (service, session), {'url': address})
-        yield
+        yield process
 
 
 BROWSERS = {'Firefox': firefox, 'WebKitGTK': webkit}
 
 
+class Posted:
+    """What a page has to say: where it is, from time to time, and in the end what came of it all."""
+
+    def __init__(self):
+        self.last = 'nothing'
+        self.when = time.monotonic()
+        self.results = None
+
+    def take(self, path, body):
+        self.when = time.monotonic()
+        if path.endswith('/results'):
+            self.results = json.loads(body)
+        else:
+            self.last = body.decode(errors='replace')
+
+
 def results(open_browser, address, posted):
-    """What the page posts: posted is the list that the server adds to."""
-    with open_browser(address):
-        end = time.monotonic() + PATIENCE
-        while not posted:
-            if time.monotonic() > end:
-                raise TimeoutError('the page has posted nothing')
+    """What the page posts to posted in the end, which may take as long as it goes on posting."""
+    with open_browser(address) as browser:
+        posted.when = time.monotonic()
+        while posted.results is None:
+            if time.monotonic() - posted.when > PATIENCE:
+                raise TimeoutError('the page has posted nothing for %d s; the last was: %s' % (PATIENCE, posted.last))
+            if browser.poll() is not None:
+                raise OSError('the browser has ended; the last that its page posted was: %s' % posted.last)
             time.sleep(0.2)
-    return json.loads(posted[0])
+    return posted.results

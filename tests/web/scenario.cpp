@@ -1,6 +1,7 @@
 #include "Scenario.h"
 
 #include "web/EffectNumbers.h"
+#include "web/Host.h"
 #include "web/WebPorts.h"
 #include "web/WebView.h"
 
@@ -66,6 +67,7 @@ public:
         platform::Pointer nobody;
         web::WebView view(m_game.game(), nobody);
         view.resize(m_game.viewSize());
+        veyrand_host_language(m_game.game().texts().code().c_str());
         view.showFrame();
         scenario_picture(name.c_str());
         return {};

@@ -1,12 +1,16 @@
 import { Painter } from './page/painter.mjs';
 import { Pictures } from './page/pictures.mjs';
 
-// Paints what the scripts take pictures of, and compares it with what the desktop has painted.
+// Paints what the scripts take pictures of, and compares it at once with what the desktop has painted. Given are the
+// pictures' addresses, those with words on them for each language, and the names of what the desktop has painted.
 export class Show {
-  constructor(letters, urls) {
-    Object.assign(this, { letters, urls, taken: new Map() });
+  constructor(letters, { urls, translated, desktop }) {
+    Object.assign(this, { letters, urls, translated, desktop, missing: [], compared: [] });
     this.canvas = document.createElement('canvas');
     this.host = {
+      language: (code) => {
+        this.painter.pictures = this.picturesOf.get(code) ?? this.picturesOf.get('');
+      },
       paint: (list, items, itemCount, damage, damageCount) => {
         const [width, height] = [list[damage + 2], list[damage + 3]];
         this.painter.resize(width, height, 1);
@@ -16,53 +20,63 @@ export class Show {
         this.painter.names[number] = text;
       },
       picture: (name) => {
-        const { width, height } = this.canvas;
-        const pixels = this.painter.pen.getImageData(0, 0, width, height);
-        this.taken.set(name, { pixels, isWhole: this.painter.isWhole });
+        const theirs = this.theirs.get(name);
+        this.compared.push({ name, isWhole: this.painter.isWhole && this.missing.length === 0,
+          ...theirs ? this.difference(theirs) : { mean: 1, far: 1 } });
       },
     };
   }
 
   async begin(numbers) {
-    this.missing = [];
-    this.pictures = new Pictures({ urlOf: (name) => this.urls[name], letters: this.letters, numbers,
+    const settled = async (pictures) => {
+      while (pictures.waiting > 0) {
+        await new Promise((go) => setTimeout(go, 20));
+      }
+      return pictures;
+    };
+    const make = (urls) => new Pictures({ urlOf: (name) => urls[name], letters: this.letters, numbers,
       missing: (name) => this.missing.push(name), arrived: () => {} });
-    this.painter = new Painter(this.canvas, this.pictures);
-    Object.keys(this.urls).forEach((name) => this.pictures.source(name));
-    while (this.pictures.waiting > 0) {
-      await new Promise((go) => setTimeout(go, 20));
+    const base = make(this.urls);
+    Object.keys(this.urls).forEach((name) => base.source(name));
+    this.picturesOf = new Map([['', await settled(base)]]);
+    for (const [code, urls] of Object.entries(this.translated)) {
+      const others = make(urls);
+      Object.keys(urls).forEach((name) => others.source(name));
+      await settled(others);
+      base.sources.forEach((source, name) => others.sources.has(name) || others.sources.set(name, source));
+      this.picturesOf.set(code, others);
+    }
+    this.painter = new Painter(this.canvas, base);
+    this.theirs = new Map();
+    for (const name of this.desktop) {
+      const picture = new Image();
+      picture.src = `desktop/${name}`;
+      await picture.decode().then(() => this.theirs.set(name, picture), () => {});
     }
   }
 
-  async compared() {
-    const all = [];
-    for (const [name, { pixels, isWhole }] of this.taken) {
-      const theirs = new Image();
-      theirs.src = `desktop/${name}`;
-      const found = await theirs.decode().then(() => true, () => false);
-      all.push({ name, isWhole: isWhole && this.missing.length === 0, ...found ? difference(pixels, theirs) : { mean: 1, far: 1 } });
+  // The mean difference of all channels, and the share of pixels of which one is off by more than a
+  // quarter; both of 1.
+  difference(picture) {
+    const { width, height } = this.canvas;
+    if (picture.naturalWidth !== width || picture.naturalHeight !== height) {
+      return { mean: 1, far: 1 };
     }
-    return all;
+    const mine = this.painter.pen.getImageData(0, 0, width, height).data;
+    const canvas = document.createElement('canvas');
+    Object.assign(canvas, { width, height });
+    const pen = canvas.getContext('2d', { willReadFrequently: true });
+    pen.drawImage(picture, 0, 0);
+    const theirs = pen.getImageData(0, 0, width, height).data;
+    let sum = 0;
+    let far = 0;
+    for (let at = 0; at < theirs.length; at += 4) {
+      const red = Math.abs(theirs[at] - mine[at]);
+      const green = Math.abs(theirs[at + 1] - mine[at + 1]);
+      const blue = Math.abs(theirs[at + 2] - mine[at + 2]);
+      sum += red + green + blue;
+      far += red > 64 || green > 64 || blue > 64 ? 1 : 0;
+    }
+    return { mean: sum / (theirs.length / 4 * 3 * 255), far: far / (theirs.length / 4) };
   }
-}
-
-// The mean difference of all channels, and the share of pixels of which one is off by more than a
-// quarter; both of 1.
-function difference(mine, picture) {
-  const canvas = document.createElement('canvas');
-  Object.assign(canvas, { width: mine.width, height: mine.height });
-  if (picture.naturalWidth !== mine.width || picture.naturalHeight !== mine.height) {
-    return { mean: 1, far: 1 };
-  }
-  const pen = canvas.getContext('2d');
-  pen.drawImage(picture, 0, 0);
-  const theirs = pen.getImageData(0, 0, mine.width, mine.height).data;
-  let sum = 0;
-  let far = 0;
-  for (let at = 0; at < theirs.length; at += 4) {
-    const off = [0, 1, 2].map((channel) => Math.abs(theirs[at + channel] - mine.data[at + channel]));
-    sum += off[0] + off[1] + off[2];
-    far += Math.max(...off) > 64 ? 1 : 0;
-  }
-  return { mean: sum / (theirs.length / 4 * 3 * 255), far: far / (theirs.length / 4) };
 }
