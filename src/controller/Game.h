@@ -39,7 +39,7 @@ struct GamePorts {
 class Game {
 public:
     Game(const GamePorts& ports, progress::CurrentGame& currentGame, board::GameData& gameData)
-        : m_script(readTutorialScript(ports.resources))
+        : m_script(ports.resources.once([&ports] { return readTutorialScript(ports.resources); }))
         , m_texts(ports.resources)
         , m_desktopLanguages(ports.desktopLanguages)
         , m_effects(ports.sounds,
@@ -65,7 +65,7 @@ public:
             .preferences = ports.preferences,
             .sounds = ports.sounds,
             .effects = m_effects,
-            .script = m_script,
+            .script = *m_script,
             .texts = m_texts,
             .log = ports.log,
             .quit = ports.quit,
@@ -103,7 +103,7 @@ public:
     [[nodiscard]] input::GameView& view() { return m_view; }
     [[nodiscard]] GameController& controller() { return m_controller; }
     // The pages and lessons, with what was wrong with their files.
-    [[nodiscard]] const TutorialScript& script() const { return m_script; }
+    [[nodiscard]] const TutorialScript& script() const { return *m_script; }
     [[nodiscard]] const language::Texts& texts() const { return m_texts; }
 
 private:
@@ -127,7 +127,7 @@ private:
         }
     }
 
-    TutorialScript m_script;
+    std::shared_ptr<const TutorialScript> m_script;
     language::Texts m_texts;
     std::vector<std::string> m_desktopLanguages;
     std::function<void(const language::Texts& texts)> m_languageListener;

@@ -25,7 +25,10 @@ bool isPlace(const progress::Place& place)
 Practice::Practice(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
-    , m_daily(m_game.resources.dataNamed("DailyPuzzles", "txt").value_or(std::string()))
+    , m_daily(m_game.resources.once([this] {
+        return play::DailyPuzzles(
+            m_game.resources.dataNamed("DailyPuzzles", "txt").value_or(std::string()));
+    }))
 {
 }
 
@@ -46,14 +49,23 @@ const progress::CatalogueEntry* Practice::entryAt(const progress::Place& place) 
 
 bool Practice::isReached(const progress::Place& place) const
 {
-    return isPlace(place)
-        && progress::catalogueIndex(place) <= progress::catalogueIndex(standing());
+    return isReached(place, standing());
 }
 
 bool Practice::isSolved(const progress::Place& place) const
 {
+    return isSolved(place, standing());
+}
+
+bool Practice::isReached(const progress::Place& place, const progress::Place& standing)
+{
+    return isPlace(place) && progress::catalogueIndex(place) <= progress::catalogueIndex(standing);
+}
+
+bool Practice::isSolved(const progress::Place& place, const progress::Place& standing) const
+{
     return isPlace(place)
-        && (progress::catalogueIndex(place) < progress::catalogueIndex(standing())
+        && (progress::catalogueIndex(place) < progress::catalogueIndex(standing)
             || m_controller.book().results().of(play::nameOf(place)) != nullptr);
 }
 
@@ -135,9 +147,9 @@ std::string Practice::open(std::string_view code)
 
 std::string Practice::openDaily(const progress::CalendarDate& date)
 {
-    const play::CodedPuzzle* const puzzle = m_daily.on(date);
+    const play::CodedPuzzle* const puzzle = m_daily->on(date);
     if (puzzle == nullptr) {
-        return "DailyPuzzles.txt: " + m_daily.fault();
+        return "DailyPuzzles.txt: " + m_daily->fault();
     }
     if (date > m_controller.book().today()) {
         return m_game.texts.text("practice.toCome");

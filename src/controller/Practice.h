@@ -50,6 +50,11 @@ public:
     [[nodiscard]] progress::Place standing() const;
     [[nodiscard]] bool isReached(const progress::Place& place) const;
     [[nodiscard]] bool isSolved(const progress::Place& place) const;
+    // The same for whoever asks of many places, and of the record once.
+    [[nodiscard]] static bool isReached(
+        const progress::Place& place, const progress::Place& standing);
+    [[nodiscard]] bool isSolved(
+        const progress::Place& place, const progress::Place& standing) const;
 
     // Null for what is no place of the game.
     [[nodiscard]] const progress::CatalogueEntry* entryAt(const progress::Place& place) const;
@@ -68,7 +73,7 @@ public:
     // The puzzle has been solved, and nothing follows it.
     void finished();
 
-    [[nodiscard]] const play::DailyPuzzles& daily() const { return m_daily; }
+    [[nodiscard]] const play::DailyPuzzles& daily() const { return *m_daily; }
 
 private:
     struct Wanted {
@@ -90,7 +95,7 @@ private:
 
     GameController& m_controller;
     GameContext& m_game;
-    play::DailyPuzzles m_daily;
+    std::shared_ptr<const play::DailyPuzzles> m_daily;
     play::WaySearch m_search;
     std::string m_name;
     std::optional<progress::Place> m_place;

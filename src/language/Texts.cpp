@@ -100,7 +100,7 @@ Texts::Texts(const platform::Resources& resources)
     , m_code(kEnglish)
     , m_grammar(std::make_unique<Grammar>(m_code))
 {
-    m_english = read(kEnglish, m_englishFaults);
+    m_english = resources.once([this] { return read(kEnglish); });
 }
 
 Texts::~Texts() = default;
@@ -110,21 +110,20 @@ void Texts::choose(std::string_view code)
     m_code = std::string(code);
     m_grammar = std::make_unique<Grammar>(m_code == kPseudo ? std::string(kEnglish) : m_code);
     m_chosen = {};
-    m_faults.clear();
     if (code == kPseudo) {
         makePseudo();
     } else if (code != kEnglish) {
-        m_chosen = read(code, m_faults);
+        m_chosen = read(code);
     }
 }
 
-Texts::Table Texts::read(std::string_view code, std::string& faults) const
+Texts::Table Texts::read(std::string_view code) const
 {
     Table table;
     for (const std::string_view file : kSectionFiles) {
-        readSections(code, file, table, faults);
+        readSections(code, file, table);
     }
-    readPages(code, table, faults);
+    readPages(code, table);
     return table;
 }
 
@@ -158,30 +157,30 @@ void forEachEntry(const platform::Resources& resources, const std::string& file,
 
 } // namespace
 
-void Texts::readSections(
-    std::string_view code, std::string_view name, Table& table, std::string& faults) const
+void Texts::readSections(std::string_view code, std::string_view name, Table& table) const
 {
     const std::string file = fileOf(code, name);
-    forEachEntry(m_resources, file, faults, [&](const std::string& section, const Json& texts) {
-        if (!texts.is_object()) {
-            throw std::invalid_argument("is no section of texts");
-        }
-        for (const auto& [key, value] : texts.items()) {
-            const std::string id = section + '.' + key;
-            try {
-                Forms forms = formsFrom(value);
-                checkForms(code, id, forms);
-                table.texts.insert_or_assign(id, std::move(forms));
-            } catch (const std::exception& error) {
-                faults += file + ".json: " + id + ": " + error.what() + '\n';
+    forEachEntry(
+        m_resources, file, table.faults, [&](const std::string& section, const Json& texts) {
+            if (!texts.is_object()) {
+                throw std::invalid_argument("is no section of texts");
             }
-        }
-    });
+            for (const auto& [key, value] : texts.items()) {
+                const std::string id = section + '.' + key;
+                try {
+                    Forms forms = formsFrom(value);
+                    checkForms(code, id, forms);
+                    table.texts.insert_or_assign(id, std::move(forms));
+                } catch (const std::exception& error) {
+                    table.faults += file + ".json: " + id + ": " + error.what() + '\n';
+                }
+            }
+        });
 }
 
-void Texts::readPages(std::string_view code, Table& table, std::string& faults) const
+void Texts::readPages(std::string_view code, Table& table) const
 {
-    forEachEntry(m_resources, fileOf(code, kPagesFile), faults,
+    forEachEntry(m_resources, fileOf(code, kPagesFile), table.faults,
         [&](const std::string& name, const Json& value) {
             PageWords words = wordsFrom(value);
             checkPage(code, name, words);
@@ -196,8 +195,8 @@ void Texts::checkForms(std::string_view code, const std::string& id, const Forms
     if (code == kEnglish) {
         return;
     }
-    const auto english = m_english.texts.find(id);
-    if (english == m_english.texts.end()) {
+    const auto english = m_english->texts.find(id);
+    if (english == m_english->texts.end()) {
         throw std::invalid_argument("English has no such text");
     }
     checkValues(values, valuesIn(english->second));
@@ -209,8 +208,8 @@ void Texts::checkPage(std::string_view code, const std::string& name, const Page
     if (code == kEnglish) {
         return;
     }
-    const auto english = m_english.pages.find(name);
-    if (english == m_english.pages.end()) {
+    const auto english = m_english->pages.find(name);
+    if (english == m_english->pages.end()) {
         throw std::invalid_argument("there is no such page");
     }
     if (words.size() != english->second.size()) {
@@ -222,12 +221,12 @@ void Texts::checkPage(std::string_view code, const std::string& name, const Page
 
 void Texts::makePseudo()
 {
-    for (const auto& [id, forms] : m_english.texts) {
+    for (const auto& [id, forms] : m_english->texts) {
         for (const auto& [name, text] : forms) {
             m_chosen.texts[id][name] = pseudo(text);
         }
     }
-    for (const auto& [name, words] : m_english.pages) {
+    for (const auto& [name, words] : m_english->pages) {
         for (const std::string& text : words) {
             m_chosen.pages[name].push_back(pseudo(text));
         }
@@ -236,7 +235,7 @@ void Texts::makePseudo()
 
 const Forms* Texts::formsOf(std::string_view id) const
 {
-    for (const Table* table : { &m_chosen, &m_english }) {
+    for (const Table* table : { &m_chosen, m_english.get() }) {
         if (const auto found = table->texts.find(id); found != table->texts.end()) {
             return &found->second;
         }
@@ -299,26 +298,26 @@ const PageWords* Texts::page(std::string_view name) const
 
 const PageWords* Texts::englishPage(std::string_view name) const
 {
-    const auto found = m_english.pages.find(name);
-    return found != m_english.pages.end() ? &found->second : nullptr;
+    const auto found = m_english->pages.find(name);
+    return found != m_english->pages.end() ? &found->second : nullptr;
 }
 
 void Texts::rejectPage(const std::string& name, const std::string& reason)
 {
     m_chosen.pages.erase(name);
-    m_faults += fileOf(m_code, kPagesFile) + ".json: " + name + ": " + reason + '\n';
+    m_chosen.faults += fileOf(m_code, kPagesFile) + ".json: " + name + ": " + reason + '\n';
 }
 
 void Texts::forEachId(const std::function<void(const std::string& id)>& function) const
 {
-    for (const auto& [id, forms] : m_english.texts) {
+    for (const auto& [id, forms] : m_english->texts) {
         function(id);
     }
 }
 
 void Texts::forEachPage(const std::function<void(const std::string& name)>& function) const
 {
-    for (const auto& [name, words] : m_english.pages) {
+    for (const auto& [name, words] : m_english->pages) {
         function(name);
     }
 }

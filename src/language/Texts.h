@@ -44,9 +44,9 @@ public:
     [[nodiscard]] const std::string& code() const { return m_code; }
 
     // What was wrong with the chosen language's files, a line each with file and reason.
-    [[nodiscard]] const std::string& faults() const { return m_faults; }
+    [[nodiscard]] const std::string& faults() const { return m_chosen.faults; }
     // The same for English, which nothing stands in for.
-    [[nodiscard]] const std::string& englishFaults() const { return m_englishFaults; }
+    [[nodiscard]] const std::string& englishFaults() const { return m_english->faults; }
 
     // The text with its marks filled in; the first number chooses between forms. Where nobody knows
     // the id, the id.
@@ -72,12 +72,12 @@ private:
     struct Table {
         std::map<std::string, Forms, std::less<>> texts;
         std::map<std::string, PageWords, std::less<>> pages;
+        std::string faults;
     };
 
-    [[nodiscard]] Table read(std::string_view code, std::string& faults) const;
-    void readSections(
-        std::string_view code, std::string_view file, Table& table, std::string& faults) const;
-    void readPages(std::string_view code, Table& table, std::string& faults) const;
+    [[nodiscard]] Table read(std::string_view code) const;
+    void readSections(std::string_view code, std::string_view file, Table& table) const;
+    void readPages(std::string_view code, Table& table) const;
     void checkForms(std::string_view code, const std::string& id, const Forms& forms) const;
     void checkPage(std::string_view code, const std::string& name, const PageWords& words) const;
     void makePseudo();
@@ -86,10 +86,8 @@ private:
 
     const platform::Resources& m_resources;
     std::string m_code;
-    Table m_english;
+    std::shared_ptr<const Table> m_english; // null only while it is read
     Table m_chosen;
-    std::string m_englishFaults;
-    std::string m_faults;
     std::unique_ptr<Grammar> m_grammar; // how the chosen language counts
 };
 

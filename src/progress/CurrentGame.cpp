@@ -26,13 +26,18 @@ CurrentGame::CurrentGame(const platform::Preferences& preferences, platform::Ran
     const platform::Resources& resources)
     : m_preferences(preferences)
     , m_random(random)
-    , m_proofs(loadCatalogue(resources, "Theorems", CatalogueKind::Classic))
-    , m_endlessProofs(loadCatalogue(resources, "EndlessTheorems", CatalogueKind::Endless))
+    , m_catalogues(resources.once([&resources] { return Catalogues(resources); }))
     , m_rules(std::make_shared<const engine::Rules>(advancedRules()))
 {
 }
 
-Catalogue CurrentGame::loadCatalogue(
+CurrentGame::Catalogues::Catalogues(const platform::Resources& resources)
+    : classic(read(resources, "Theorems", CatalogueKind::Classic))
+    , endless(read(resources, "EndlessTheorems", CatalogueKind::Endless))
+{
+}
+
+Catalogue CurrentGame::Catalogues::read(
     const platform::Resources& resources, const std::string& name, CatalogueKind kind)
 {
     const std::optional<std::string> bytes = resources.dataNamed(name, "txt");
@@ -42,7 +47,7 @@ Catalogue CurrentGame::loadCatalogue(
         parsed.error = insufficiency(parsed.entries, kind).value_or(std::string());
     }
     if (!parsed.error.empty()) {
-        m_catalogueErrors += name + ".txt: " + parsed.error + "\n";
+        errors += name + ".txt: " + parsed.error + "\n";
         return {};
     }
     return std::move(parsed.entries);
@@ -86,7 +91,7 @@ void CurrentGame::generateProof()
 {
     // A position before 1-1 makes an index beyond every catalogue.
     const std::int64_t index = catalogueIndex({ m_level, m_stage });
-    const CatalogueEntry& puzzle = m_proofs.at(static_cast<std::size_t>(index));
+    const CatalogueEntry& puzzle = m_catalogues->classic.at(static_cast<std::size_t>(index));
     setProof(puzzle.root, puzzle.goal, puzzle.par);
 }
 
@@ -95,7 +100,7 @@ void CurrentGame::generateEndlessProofForPar(int wantedPar)
     const int target = endlessParFor(wantedPar);
     m_proof = nullptr;
     while (m_proof == nullptr) {
-        const CatalogueEntry& puzzle = m_endlessProofs.at(m_random.next() % kEndlessEntries);
+        const CatalogueEntry& puzzle = m_catalogues->endless.at(m_random.next() % kEndlessEntries);
         m_par = puzzle.par;
         if (puzzle.par == target) {
             setProof(puzzle.root, puzzle.goal, puzzle.par);

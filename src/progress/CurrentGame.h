@@ -110,26 +110,34 @@ public:
     // The puzzles that a mode can bring.
     [[nodiscard]] const Catalogue& catalogueOf(Mode mode) const
     {
-        return mode == Mode::Endless ? m_endlessProofs : m_proofs;
+        return mode == Mode::Endless ? m_catalogues->endless : m_catalogues->classic;
     }
 
     // What was wrong with the catalogues, one line each with the file's name; empty when both were
     // read.
-    [[nodiscard]] const std::string& catalogueErrors() const { return m_catalogueErrors; }
+    [[nodiscard]] const std::string& catalogueErrors() const { return m_catalogues->errors; }
 
     // The sample puzzle, the same for every place. Nobody plays it.
     [[nodiscard]] static CatalogueEntry proofForStage(int stage, int level);
 
 private:
-    [[nodiscard]] Catalogue loadCatalogue(
-        const platform::Resources& resources, const std::string& name, CatalogueKind kind);
+    struct Catalogues {
+        explicit Catalogues(const platform::Resources& resources);
+
+        std::string errors; // before what fills it
+        Catalogue classic;
+        Catalogue endless;
+
+    private:
+        [[nodiscard]] Catalogue read(
+            const platform::Resources& resources, const std::string& name, CatalogueKind kind);
+    };
+
     void setProof(const std::string& root, const std::string& goal, int par);
 
     const platform::Preferences& m_preferences;
     platform::Random& m_random;
-    std::string m_catalogueErrors;
-    Catalogue m_proofs;
-    Catalogue m_endlessProofs;
+    std::shared_ptr<const Catalogues> m_catalogues;
     engine::SharedRules m_rules;
     std::string m_playerName;
     std::shared_ptr<engine::Proof> m_proof;

@@ -14,6 +14,7 @@ public:
     void add(const std::string& name, const std::string& type, std::string bytes)
     {
         m_files[name + '.' + type] = std::move(bytes);
+        forgetWhatWasMade();
     }
 
     [[nodiscard]] std::optional<std::string> dataNamed(
