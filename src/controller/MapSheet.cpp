@@ -46,6 +46,11 @@ std::optional<Place> placeOf(const std::string& key)
 
 } // namespace
 
+struct MapSheet::Known {
+    Place standing;
+    play::Statistics statistics;
+};
+
 MapSheet::MapSheet(GameController& controller)
     : m_controller(controller)
     , m_chosen(controller.practice().lastPlace().value_or(controller.practice().standing()))
@@ -126,11 +131,11 @@ std::string MapSheet::told() const
 }
 
 // As a screen reader says it.
-std::string MapSheet::nameForPeople(const Place& place) const
+std::string MapSheet::nameForPeople(const Place& place, const Place& standing) const
 {
     const Practice& practice = m_controller.practice();
     const std::string name = play::nameOf(place);
-    if (!practice.isReached(place)) {
+    if (!Practice::isReached(place, standing)) {
         return text("saidClosed", { { "name", name } });
     }
     if (const play::Result* const result = m_controller.book().results().of(name)) {
@@ -138,56 +143,59 @@ std::string MapSheet::nameForPeople(const Place& place) const
             { { "name", name }, { "moves", std::to_string(result->moves.size()) },
                 { "par", std::to_string(result->par) } });
     }
-    return text(practice.isSolved(place) ? "saidSolved" : "saidReached", { { "name", name } });
+    return text(
+        practice.isSolved(place, standing) ? "saidSolved" : "saidReached", { { "name", name } });
 }
 
 void MapSheet::draw(SheetDrawing& drawing) const
 {
+    const Known known { m_controller.practice().standing(), m_controller.book().statistics() };
     for (int stage = 1; stage <= progress::kLastStage; ++stage) {
         drawing.words(std::to_string(stage), stoneX(stage), 52, 36, Ink::Gold);
     }
     for (int level = 1; level <= progress::kLastLevel; ++level) {
-        drawLevel(drawing, level);
+        drawLevel(drawing, known, level);
     }
     drawLegend(drawing);
-    drawPanel(drawing);
+    drawPanel(drawing, known);
 }
 
-void MapSheet::drawLevel(SheetDrawing& drawing, int level) const
+void MapSheet::drawLevel(SheetDrawing& drawing, const Known& known, int level) const
 {
     const double y = rowY(level);
-    const auto statistics
-        = m_controller.book().statistics().levels.at(static_cast<std::size_t>(level - 1));
+    const auto& statistics = known.statistics.levels.at(static_cast<std::size_t>(level - 1));
     drawing.words(std::to_string(level), 612, y, 34, Ink::Gold);
     const bool isDone = statistics.solved == progress::kLastStage;
     drawing.picture("Medal-" + std::to_string(level), 662, y + 3, 88.6, 60, isDone ? 1.0 : 0.22);
     for (int stage = 1; stage <= progress::kLastStage; ++stage) {
-        drawStone(drawing, { level, stage });
+        drawStone(drawing, known, level, stage);
     }
     if (statistics.solved > 0) {
         drawing.words(
             std::to_string(statistics.solved) + "/10", 1522, y, 27, Ink::Ivory, Align::Right);
         drawing.picture("PuzzleStar", 1546, y, 24, 24);
         drawing.words(std::to_string(statistics.atPar), 1562, y, 27, Ink::Ivory, Align::Left);
-    } else if (!m_controller.practice().isReached({ level, 1 })) {
+    } else if (!Practice::isReached({ level, 1 }, known.standing)) {
         drawing.words(text("closed"), 1510, y, 25, Ink::Pale, Align::Middle, 130);
     }
 }
 
-void MapSheet::drawStone(SheetDrawing& drawing, const Place& place) const
+void MapSheet::drawStone(SheetDrawing& drawing, const Known& known, int level, int stage) const
 {
+    const Place place { level, stage };
+    const std::string name = play::nameOf(place);
     const double x = stoneX(place.stage);
     const double y = rowY(place.level);
     const Practice& practice = m_controller.practice();
     const auto* const entry = practice.entryAt(place);
-    const play::Result* const result = m_controller.book().results().of(play::nameOf(place));
+    const play::Result* const result = m_controller.book().results().of(name);
     const std::string par = entry != nullptr ? std::to_string(entry->par - 1) : std::string();
-    if (!practice.isReached(place)) {
+    if (!Practice::isReached(place, known.standing)) {
         drawing.picture("PuzzleClosed", x, y, kStone, kStone);
     } else if (result != nullptr && result->over() == 0) {
         drawing.picture("PuzzleAtPar", x, y, kStone, kStone);
         drawing.words(par, x, y + 11, 27, Ink::Dark);
-    } else if (practice.isSolved(place)) {
+    } else if (practice.isSolved(place, known.standing)) {
         drawing.picture("PuzzleSolved", x, y, kStone, kStone);
         if (result != nullptr) {
             drawing.words(std::to_string(result->moves.size()) + '/' + par, x, y, 27, Ink::Ivory,
@@ -198,10 +206,11 @@ void MapSheet::drawStone(SheetDrawing& drawing, const Place& place) const
     } else {
         drawing.picture("PuzzleReached", x, y, kStone, kStone);
     }
-    if (drawing.isFocused(keyOf(place))) {
+    const std::string key = keyOf(place);
+    if (drawing.isFocused(key)) {
         drawing.picture("PuzzleChosen", x, y, kRing, kRing);
     }
-    drawing.place(keyOf(place), nameForPeople(place), x, y, kApart, kApart);
+    drawing.place(key, nameForPeople(place, known.standing), x, y, kApart, kApart);
 }
 
 void MapSheet::drawLegend(SheetDrawing& drawing) const
@@ -218,9 +227,9 @@ void MapSheet::drawLegend(SheetDrawing& drawing) const
     entry("PuzzleAtPar", 1290, "par", 236);
 }
 
-void MapSheet::drawPanel(SheetDrawing& drawing) const
+void MapSheet::drawPanel(SheetDrawing& drawing, const Known& known) const
 {
-    const play::Statistics statistics = m_controller.book().statistics();
+    const play::Statistics& statistics = known.statistics;
     drawing.title(text("puzzles"));
     drawing.words(text("solvedOf", { { "solved", std::to_string(statistics.solved) } }), 295, 152,
         38, Ink::Ivory, Align::Middle, 480);

@@ -26,13 +26,17 @@ public:
     [[nodiscard]] std::string firstFocus() const override;
 
 private:
-    void drawPanel(present::SheetDrawing& drawing) const;
+    // What is asked of the game once for a whole map.
+    struct Known;
+
+    void drawPanel(present::SheetDrawing& drawing, const Known& known) const;
     void drawCard(present::SheetDrawing& drawing) const;
-    void drawLevel(present::SheetDrawing& drawing, int level) const;
-    void drawStone(present::SheetDrawing& drawing, const progress::Place& place) const;
+    void drawLevel(present::SheetDrawing& drawing, const Known& known, int level) const;
+    void drawStone(present::SheetDrawing& drawing, const Known& known, int level, int stage) const;
     void drawLegend(present::SheetDrawing& drawing) const;
     [[nodiscard]] std::string text(const char* id, language::Arguments arguments = {}) const;
-    [[nodiscard]] std::string nameForPeople(const progress::Place& place) const;
+    [[nodiscard]] std::string nameForPeople(
+        const progress::Place& place, const progress::Place& standing) const;
     [[nodiscard]] std::string codeOfChosen() const;
     void pasteCode();
 

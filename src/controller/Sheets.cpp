@@ -145,6 +145,14 @@ std::vector<SheetPlace> Sheets::places() const
     return m_sheet ? drawing().places() : std::vector<SheetPlace>();
 }
 
+const std::vector<SheetPlace>& Sheets::drawnPlaces() const
+{
+    if (!m_places) {
+        m_places = places();
+    }
+    return *m_places;
+}
+
 void Sheets::choose(const std::string& key)
 {
     focusOn(key);
@@ -159,6 +167,7 @@ std::string Sheets::name() const
 void Sheets::changed()
 {
     ++m_revision;
+    m_places.reset();
     m_controller.answers().handsChanged();
     m_game.layers.scene().setNeedsDisplay();
 }
@@ -207,6 +216,7 @@ void Sheets::addTo(std::vector<present::Extra>& wanted) const
         return;
     }
     const present::SheetDrawing drawn = drawing();
+    m_places = drawn.places();
     wanted.push_back({ .kind = present::ExtraKind::Sheet,
         .key = std::string(m_sheet->name()),
         .text = {},
@@ -243,7 +253,7 @@ std::vector<SheetPlace> Sheets::buttons() const
 
 std::string Sheets::placeAt(platform::Point place) const
 {
-    const std::vector<SheetPlace> all = m_sheet ? places() : buttons();
+    const std::vector<SheetPlace> all = m_sheet ? drawnPlaces() : buttons();
     const auto found = std::find_if(all.begin(), all.end(),
         [place](const SheetPlace& each) { return holds(each.rect, place); });
     return found != all.end() ? found->key : std::string();

@@ -6,6 +6,7 @@
 #include "present/Extra.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,7 +37,7 @@ public:
     // For whoever does not see it: what the sheet says, what can be pressed on it, and a press.
     [[nodiscard]] std::string title() const;
     [[nodiscard]] std::string told() const;
-    [[nodiscard]] std::vector<present::SheetPlace> places() const;
+    [[nodiscard]] std::vector<present::SheetPlace> places() const; // anew
     void choose(const std::string& key);
 
     // Whether one may be opened over what is on the screen now.
@@ -77,6 +78,7 @@ public:
 
 private:
     [[nodiscard]] present::SheetDrawing drawing() const;
+    [[nodiscard]] const std::vector<present::SheetPlace>& drawnPlaces() const;
     [[nodiscard]] std::string placeAt(platform::Point place) const;
     [[nodiscard]] bool showsButton() const;
     void walk(int x, int y);
@@ -95,6 +97,8 @@ private:
     std::string m_hovered;
     std::string m_held;
     unsigned m_revision = 1;
+    // As drawn last: the pointer asks for them at every step. Nothing until they are drawn anew.
+    mutable std::optional<std::vector<present::SheetPlace>> m_places;
 };
 
 } // namespace veyrand::controller

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -86,20 +87,22 @@ void Extras::direct()
 void Extras::want(std::vector<Extra> wanted)
 {
     std::vector<bool> met(wanted.size(), false);
+    std::unordered_map<std::string, std::size_t> places; // the first of each slot
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        places.emplace(slotOf(wanted[i]), i);
+    }
     for (Entry& entry : m_entries) {
         if (entry.leaving || entry.extra.duration > 0.0) {
             continue;
         }
-        const std::string slot = slotOf(entry.extra);
-        const auto found = std::find_if(wanted.begin(), wanted.end(),
-            [&slot](const Extra& extra) { return slotOf(extra) == slot; });
-        if (found == wanted.end()) {
+        const auto found = places.find(slotOf(entry.extra));
+        if (found == places.end()) {
             leave(entry);
             continue;
         }
-        met[static_cast<std::size_t>(found - wanted.begin())] = true;
-        if (!(entry.extra == *found)) {
-            replace(entry, *found);
+        met[found->second] = true;
+        if (!(entry.extra == wanted[found->second])) {
+            replace(entry, wanted[found->second]);
         }
     }
     for (std::size_t i = 0; i < wanted.size(); ++i) {
