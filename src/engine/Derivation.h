@@ -76,7 +76,7 @@ void derive(const Moves& moves, const typename Moves::Line& root, const TreeLimi
     typename Moves::Children children;
     unsigned examined = 0;
     for (std::size_t i = 0; i < kept.count && examined < limits.children; ++i) {
-        moves.childrenOf(Line(kept.lines[i]), limits.theoremLength, children);
+        moves.childrenOf(Line(kept.lines.data()[i]), limits.theoremLength, children);
         seen.makeRoomFor(kept.count + children.size());
         kept.makeRoomFor(children.size());
         const std::size_t looked

@@ -16,6 +16,7 @@ PackedLineSet::PackedLineSet()
     : m_table(std::size_t { 1 } << kFewestBits, 0)
     , m_shift(kWordBits - kFewestBits)
 {
+    checkPlaces();
 }
 
 void PackedLineSet::clear()
@@ -29,6 +30,7 @@ void PackedLineSet::grow()
     std::vector<std::uint64_t> table(2 * m_table.size(), 0);
     m_table.swap(table);
     --m_shift;
+    checkPlaces();
     for (const std::uint64_t word : table) {
         if (word != 0) {
             insert(PackedLine(word));
