@@ -1,9 +1,13 @@
+#include "desktop/qt/DataFolder.h"
 #include "desktop/qt/PreferencesText.h"
 #include "faults/Home.h"
+#include "faults/Share.h"
 #include "faults/Visit.h"
+#include "platform/fakes/SeededRandom.h"
 #include "play/JournalText.h"
 #include "play/Recovery.h"
 #include "progress/Catalogue.h"
+#include "progress/CurrentGame.h"
 #include "progress/PlayerKeys.h"
 #include "support/ScratchFolder.h"
 
@@ -123,13 +127,32 @@ TEST_F(BadFiles, ACatalogueIsReadWholeOrRefusedWithAReason)
     EXPECT_GE(cases, 150);
 }
 
+// The folder of the data may be anybody's, too.
+TEST_F(BadFiles, WhatBearsACataloguesNameAndIsNoFileIsNeitherWaitedForNorRead)
+{
+    for (const NoFile& thing : noFiles()) {
+        SCOPED_TRACE(thing.name);
+        const std::string folder = m_scratch.at("data");
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+        thing.put(folder + "/Theorems.txt");
+        platform::MemoryPreferences preferences;
+        platform::SeededRandom random(1);
+        const desktop::qt::FileResources resources(QString::fromStdString(folder), {});
+        const progress::CurrentGame game(preferences, random, resources);
+        EXPECT_TRUE(game.catalogueOf(progress::Mode::Classic).empty());
+        EXPECT_NE(game.catalogueErrors().find("Theorems.txt: cannot be read"), std::string::npos);
+    }
+}
+
 // A whole file, cut after each byte: what was in it is still there, and the game goes on with the
 // copy before, or anew.
 TEST_F(BadFiles, PreferencesAreKeptAndTold)
 {
     const std::string whole = ScratchFolder::read(preferences());
     std::vector<Damage> damages = damagesTo(whole);
-    for (std::size_t size = 0; size + 2 < whole.size(); size += 2) {
+    const std::size_t apart = isAskedForAll() ? 1 : 2;
+    for (std::size_t size = 0; size + 2 < whole.size(); size += apart) {
         damages.push_back({ "cut after " + std::to_string(size), whole.substr(0, size) });
     }
     for (const char* text : { "[]", "3", "null", "\"text\"", "{", "{\"a\":}", "{\"a\":1,}",
@@ -197,7 +220,8 @@ TEST_F(BadFiles, AJournalIsGoneOnWithAsFarAsItIsWhole)
     for (std::size_t size = 0; size < whole.size(); ++size) {
         SCOPED_TRACE("cut after " + std::to_string(size));
         lines += size > 0 && whole[size - 1] == '\n' ? 1U : 0U;
-        if (size % 3 != 0 && whole[size] != '\n' && (size == 0 || whole[size - 1] != '\n')) {
+        if (!isAskedForAll() && size % 3 != 0 && whole[size] != '\n'
+            && (size == 0 || whole[size - 1] != '\n')) {
             continue; // the middle of a line is like its neighbours
         }
         Home::prepare(home());

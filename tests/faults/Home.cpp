@@ -85,8 +85,9 @@ void socketAt(const std::string& path)
     ::close(descriptor);
 }
 
-// What can stand where a file should.
-std::vector<std::pair<std::string, std::function<void(const std::string&)>>> things()
+} // namespace
+
+std::vector<NoFile> noFiles()
 {
     return { { "a pipe", [](const std::string& path) { ::mkfifo(path.c_str(), 0600); } },
         { "a folder", [](const std::string& path) { fs::create_directories(path); } },
@@ -97,8 +98,6 @@ std::vector<std::pair<std::string, std::function<void(const std::string&)>>> thi
         { "a link to itself", [](const std::string& path) { fs::create_symlink(path, path); } },
         { "a socket", socketAt } };
 }
-
-} // namespace
 
 void Home::prepare(const std::string& folder)
 {
@@ -146,7 +145,7 @@ std::vector<HomeFault> homeFaults()
     std::vector<HomeFault> faults;
     const std::string preferences = "config/preferences.json";
     const std::string journal = "state/New-classic.txt";
-    for (const auto& [name, put] : things()) {
+    for (const auto& [name, put] : noFiles()) {
         for (const std::string& file : { preferences, journal }) {
             faults.push_back({ .name = name + " for " + file, .make = at(file, put) });
             faults.push_back(

@@ -40,4 +40,11 @@ struct HomeFault {
 };
 [[nodiscard]] std::vector<HomeFault> homeFaults();
 
+// What can stand where a file should: a pipe, a folder, a device and so on.
+struct NoFile {
+    std::string name;
+    std::function<void(const std::string& path)> put;
+};
+[[nodiscard]] std::vector<NoFile> noFiles();
+
 } // namespace veyrand::test

@@ -19,6 +19,7 @@ constexpr int kLevel = 2;
 constexpr int kStage = 4;
 constexpr int kPoints = 310;
 constexpr double kRest = 10.0; // seconds
+constexpr double kMiddle = 0.25; // of an animation
 
 QString preferencesIn(const std::string& folder)
 {
@@ -59,7 +60,7 @@ const char* Visit::nameOf(int step)
     return kNames.at(static_cast<std::size_t>(step));
 }
 
-void Visit::step(int number)
+void Visit::step(int number, double asleep)
 {
     auto& controller = m_game->controller();
     controller.messages().dismiss();
@@ -90,6 +91,10 @@ void Visit::step(int number)
         break;
     default:
         solve();
+    }
+    if (asleep > 0.0) {
+        m_game->wait(kMiddle);
+        m_game->wait(asleep);
     }
     m_game->wait(kRest);
 }

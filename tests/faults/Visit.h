@@ -23,7 +23,8 @@ public:
 
     // What the visit consists of. Each may be done when those before it have been.
     static constexpr int kSteps = 10;
-    void step(int number);
+    // In the middle of what the step shows, so many seconds pass at once.
+    void step(int number, double asleep = 0.0);
     [[nodiscard]] static const char* nameOf(int step);
     // As the application does at its end.
     void end();

@@ -5,8 +5,15 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace veyrand::desktop::qt {
+
+namespace {
+
+constexpr qint64 kMostBytes = qint64 { 1 } << 26; // far beyond any text of ours
+
+} // namespace
 
 QString findDataFolder()
 {
@@ -47,8 +54,14 @@ std::optional<std::string> FileResources::dataNamed(
     QFile file(!m_languages.isEmpty() && wanted.startsWith(languages)
             ? QDir(m_languages).filePath(wanted.mid(languages.size()))
             : QDir(m_folder).filePath(wanted));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qCWarning(lcGame).noquote() << file.fileName() << "cannot be read:" << file.errorString();
+    // A pipe would be waited for, and a device may have no end.
+    const QFileInfo found(file);
+    const bool isReadable = !found.exists() || (found.isFile() && found.size() <= kMostBytes);
+    if (!isReadable || !file.open(QIODevice::ReadOnly)) {
+        qCWarning(lcGame).noquote() << file.fileName() << "cannot be read:"
+                                    << (isReadable              ? file.errorString()
+                                               : found.isFile() ? QStringLiteral("it is too large")
+                                                                : QStringLiteral("it is no file"));
         return std::nullopt;
     }
     return file.readAll().toStdString();
