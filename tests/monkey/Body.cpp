@@ -6,29 +6,25 @@ namespace veyrand::test {
 
 namespace {
 
-class WindowlessBody final : public BodyOf<headless::HeadlessGame> {
+class WindowlessBody final : public BodyOn<headless::HeadlessGame> {
 public:
-    explicit WindowlessBody(const Launch& launch)
-        : BodyOf({ .seed = launch.seed,
-            .store = launch.store,
-            .resources = &cachedResources(),
-            .journal = launch.journal })
+    WindowlessBody(std::uint32_t seed, SimulatedDisk& disk)
+        : BodyOn(seed, disk, { .resources = &cachedResources() })
     {
     }
 
-    [[nodiscard]] headless::HeadlessGame& game() override { return played(); }
-
-    void key(const std::string& keys) override { played().key(keys); }
-    void menu(const std::string& item) override { played().menu().trigger(item); }
-    void resize(platform::Size size) override { played().resize(size); }
+    [[nodiscard]] headless::HeadlessGame& game() override { return touched(); }
+    void key(const std::string& keys) override { touched().key(keys); }
+    void menu(const std::string& item) override { touched().menu().trigger(item); }
+    void resize(platform::Size size) override { touched().resize(size); }
     [[nodiscard]] std::string faultOfPicture() override { return {}; }
 };
 
 } // namespace
 
-std::unique_ptr<Body> bodyWithoutWindow(const Body::Launch& launch)
+std::unique_ptr<Body> bodyWithoutWindow(std::uint32_t seed, SimulatedDisk& disk)
 {
-    return std::make_unique<WindowlessBody>(launch);
+    return std::make_unique<WindowlessBody>(seed, disk);
 }
 
 } // namespace veyrand::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "headless/HeadlessGame.h"
+#include "support/Simulator.h"
 
 #include <functional>
 #include <memory>
@@ -11,18 +12,13 @@ namespace veyrand::test {
 // game heights, origin at the board's lower left.
 class Body {
 public:
-    // What outlasts the game, and its seed.
-    struct Launch {
-        std::uint32_t seed = 1;
-        platform::Preferences* store = nullptr;
-        platform::Journal* journal = nullptr;
-    };
-
     Body() = default;
     Body(const Body&) = delete;
     Body& operator=(const Body&) = delete;
     virtual ~Body() = default;
 
+    // Anew, as after a kill.
+    virtual void launch() = 0;
     [[nodiscard]] virtual headless::HeadlessGame& game() = 0;
 
     virtual void move(platform::Point place) = 0;
@@ -40,36 +36,37 @@ public:
     [[nodiscard]] virtual std::string faultOfPicture() = 0;
 };
 
-// The hands on a game that is launched at once, whether it has a window or none.
-template <class Game> class BodyOf : public Body {
-public:
-    void move(platform::Point place) override { m_game.move(place); }
-    void press(platform::Point place) override { m_game.press(place); }
-    void release(platform::Point place) override { m_game.release(place); }
-    void rightClick(platform::Point place) override { m_game.rightClick(place); }
-    void touch(platform::Point place) override { m_game.touch(place); }
-    void touchDrag(platform::Point from, platform::Point to) override
-    {
-        m_game.touchDrag(from, to);
-    }
-    void longPress(platform::Point place) override { m_game.longPress(place); }
-
-protected:
-    explicit BodyOf(const typename Game::Options& options)
-        : m_game(options)
-    {
-        m_game.launch();
-    }
-    [[nodiscard]] Game& played() { return m_game; }
-
-private:
-    Game m_game;
-};
-
-// Launches a game.
-using MakeBody = std::function<std::unique_ptr<Body>(const Body::Launch& launch)>;
+// Of a game that is not yet launched.
+using MakeBody = std::function<std::unique_ptr<Body>(std::uint32_t seed, SimulatedDisk& disk)>;
 
 // One that has no window, and so is never seen.
-[[nodiscard]] std::unique_ptr<Body> bodyWithoutWindow(const Body::Launch& launch);
+[[nodiscard]] std::unique_ptr<Body> bodyWithoutWindow(std::uint32_t seed, SimulatedDisk& disk);
+
+// What every simulated game is touched by in the same way.
+template <class Game> class BodyOn : public Body {
+public:
+    BodyOn(std::uint32_t seed, SimulatedDisk& disk, typename Game::Options options)
+        : m_simulator(seed, disk, std::move(options))
+    {
+    }
+
+    void launch() override { m_simulator.launch(); }
+    void move(platform::Point place) override { touched().move(place); }
+    void press(platform::Point place) override { touched().press(place); }
+    void release(platform::Point place) override { touched().release(place); }
+    void rightClick(platform::Point place) override { touched().rightClick(place); }
+    void touch(platform::Point place) override { touched().touch(place); }
+    void touchDrag(platform::Point from, platform::Point to) override
+    {
+        touched().touchDrag(from, to);
+    }
+    void longPress(platform::Point place) override { touched().longPress(place); }
+
+protected:
+    [[nodiscard]] Game& touched() { return m_simulator.game(); }
+
+private:
+    Simulator<Game> m_simulator;
+};
 
 } // namespace veyrand::test

@@ -29,12 +29,12 @@ platform::Preferences::Contents contentsOf(const Cage& cage)
 
 } // namespace
 
-CagedGame::CagedGame(const Cage& cage, MakeBody makeBody)
-    : m_makeBody(std::move(makeBody))
-    , m_seed(cage.seed)
+CagedGame::CagedGame(const Cage& cage, const MakeBody& makeBody, Looking looking)
+    : m_looking(looking)
+    , m_body(makeBody(cage.seed, m_disk))
 {
-    headless::prepared(m_preferences, contentsOf(cage));
-    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+    headless::prepared(m_disk.preferences(), contentsOf(cage));
+    progress::updatePlayerRecord(m_disk.preferences(), progress::kDefaultPlayerName,
         { .level = cage.level,
             .stage = cage.stage,
             .score = cage.score,
@@ -46,9 +46,14 @@ CagedGame::CagedGame(const Cage& cage, MakeBody makeBody)
 
 void CagedGame::launch()
 {
-    m_body.reset();
     m_isHeld = false;
-    m_body = m_makeBody({ .seed = m_seed, .store = &m_preferences, .journal = &m_journal });
+    m_hasDiskFailed = m_isDiskFull;
+    m_body->launch();
+}
+
+bool CagedGame::looksClosely(unsigned long shift) const
+{
+    return m_looking == Looking::Always || m_events % kNow == shift;
 }
 
 std::string CagedGame::perform(const Event& event)
@@ -69,11 +74,11 @@ std::string CagedGame::perform(const Event& event)
         if (fault.empty()) {
             fault = faultAtAnyMoment(game());
         }
-        if (fault.empty() && m_events % kNow == 0) {
+        if (fault.empty() && looksClosely(0)) {
             fault = faultOfLayers(game());
         }
-        if (fault.empty() && m_events % kNow == kNow / 2) {
-            fault = faultOfJournals(m_journal);
+        if (fault.empty() && looksClosely(kNow / 2)) {
+            fault = faultOfJournals(m_disk.journal(), m_setAside);
         }
         if (fault.empty()) {
             fault = m_body->faultOfPicture();
@@ -148,6 +153,12 @@ void CagedGame::act(const Event& event)
         return;
     case Kind::Resize:
         return m_body->resize({ .width = event.there.x, .height = event.there.y });
+    case Kind::Disk:
+        m_disk.journal().failWith(event.text);
+        m_isDiskFull = !event.text.empty();
+        m_hasDiskFailed = m_hasDiskFailed || m_isDiskFull;
+        m_setAside = m_hasDiskFailed ? SetAside::AfterAFault : m_setAside;
+        return;
     case Kind::Wait:
         return game().wait(event.seconds);
     default:
@@ -219,9 +230,9 @@ void CagedGame::set(const std::string& item, int value)
 {
     for (const controller::SettingItem& each : controller::settingItems()) {
         if (item == each.text) {
-            progress::Settings settings = progress::readSettings(m_preferences);
+            progress::Settings settings = progress::readSettings(m_disk.preferences());
             each.set(settings, value);
-            progress::writeSettings(m_preferences, settings);
+            progress::writeSettings(m_disk.preferences(), settings);
             game().game().settingsChanged();
         }
     }
@@ -254,20 +265,21 @@ std::vector<std::string> CagedGame::keys()
 // As after a kill: what was in play must be found again.
 std::string CagedGame::restart()
 {
-    for (const std::string& fault :
-        { faultOfJournals(m_journal), faultOfPreferences(m_preferences) }) {
+    for (const std::string& fault : { faultOfJournals(m_disk.journal(), m_setAside),
+             faultOfPreferences(m_disk.preferences()) }) {
         if (!fault.empty()) {
             return fault;
         }
     }
     const play::Session* const session = game().controller().flow().session();
-    const bool isKept = progress::readSettings(m_preferences).keepUnfinishedPuzzles;
+    const bool isKept = progress::readSettings(m_disk.preferences()).keepUnfinishedPuzzles;
     const bool isPractice = game().controller().practice().isOn(); // which nothing keeps
     const auto before = session != nullptr && isKept && !isPractice
         ? std::optional(session->settled())
         : std::nullopt;
+    const bool mayBeLost = m_hasDiskFailed; // and the player was told
     launch();
-    if (!before) {
+    if (!before || mayBeLost) {
         return {};
     }
     const Mode mode = before->puzzle()->mode;

@@ -2,7 +2,8 @@
 
 #include "monkey/Body.h"
 #include "monkey/Event.h"
-#include "platform/fakes/MemoryJournal.h"
+#include "monkey/Invariants.h"
+#include "support/SimulatedDisk.h"
 
 #include <memory>
 
@@ -12,7 +13,12 @@ namespace veyrand::test {
 // each, whatever was done.
 class CagedGame {
 public:
-    explicit CagedGame(const Cage& cage, MakeBody makeBody = bodyWithoutWindow);
+    // What takes long to look at: now and then, or, to find the very event that breaks something,
+    // after each.
+    enum class Looking { NowAndThen, Always };
+
+    explicit CagedGame(const Cage& cage, const MakeBody& makeBody = bodyWithoutWindow,
+        Looking looking = Looking::NowAndThen);
 
     // What no longer holds, in words; empty while all does. An event that finds nothing to be done
     // to, as a key that is not on the board, does nothing.
@@ -36,13 +42,15 @@ private:
     [[nodiscard]] std::optional<platform::Point> placeOf(
         const std::string& key, platform::Point place);
     [[nodiscard]] std::string restart();
+    [[nodiscard]] bool looksClosely(unsigned long shift) const;
 
-    MakeBody m_makeBody;
-    std::uint32_t m_seed;
-    platform::MemoryPreferences m_preferences;
-    platform::MemoryJournal m_journal;
+    Looking m_looking;
+    MemoryDisk m_disk;
     std::unique_ptr<Body> m_body;
     bool m_isHeld = false; // the button
+    bool m_isDiskFull = false;
+    bool m_hasDiskFailed = false; // since the launch
+    SetAside m_setAside = SetAside::Never;
     unsigned long m_events = 0;
     unsigned long m_rests = 0;
     unsigned long m_solved = 0;

@@ -76,6 +76,8 @@ std::string lineOf(const Event& event)
         return call("answer", quoted(event.text));
     case Kind::Resize:
         return call("resize", numbers({ event.there.x, event.there.y }));
+    case Kind::Disk:
+        return event.text.empty() ? "// the disk works again" : "// the disk: " + event.text;
     case Kind::Wait:
         return call("wait", numbers({ event.seconds }));
     case Kind::Quit:

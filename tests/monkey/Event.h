@@ -31,6 +31,7 @@ struct Event {
         Today, // `text`, by the calendar
         Answer, // the box's button `text`
         Resize, // to `there`, in points
+        Disk, // fails from now on, for the reason `text`; with none, no longer
         Wait, // so long
         Quit, // and the game is started again
         Kill, // likewise

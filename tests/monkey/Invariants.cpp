@@ -2,6 +2,8 @@
 
 #include "board/BoardGeometry.h"
 #include "play/JournalText.h"
+#include "play/MyPuzzles.h"
+#include "play/Results.h"
 #include "progress/Misunderstood.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
@@ -68,6 +70,26 @@ std::string faultOfChip(
     return {};
 }
 
+// A sheet is pressed where it was drawn, and drawn as what it shows stands now.
+std::string faultOfSheet(headless::HeadlessGame& game)
+{
+    const controller::Sheets& sheets = game.controller().sheets();
+    std::vector<std::string> shown;
+    for (const auto& extra : game.game().layers().extras().shown()) {
+        if (extra.kind == present::ExtraKind::Place) {
+            shown.push_back(extra.key + ": " + extra.text);
+        }
+    }
+    std::vector<std::string> now;
+    for (const auto& place : sheets.places()) {
+        now.push_back(place.key + ": " + place.text);
+    }
+    std::sort(shown.begin(), shown.end());
+    std::sort(now.begin(), now.end());
+    return !sheets.isOpen() || shown == now ? std::string()
+                                            : "the " + sheets.name() + " is not drawn as it stands";
+}
+
 } // namespace
 
 std::string faultAtAnyMoment(headless::HeadlessGame& game)
@@ -115,16 +137,26 @@ std::string faultOfLayers(headless::HeadlessGame& game)
             return key + " takes itself for another";
         }
     }
-    return {};
+    return faultOfSheet(game);
 }
 
-std::string faultOfJournals(const platform::MemoryJournal& journal)
+std::string faultOfJournals(const platform::MemoryJournal& journal, SetAside mayBe)
 {
     for (const auto& [name, text] : journal.texts()) {
-        if (name.find("previous") != std::string::npos || name.ends_with("-results.txt")) {
-            continue; // not journals, though they lie beside them
+        // Not all that lies there is a journal.
+        if (name.find("previous") != std::string::npos) {
+            continue;
         }
-        if (name.find(".txt.") != std::string::npos) {
+        if (name.ends_with("-results.txt") || name.ends_with("-puzzles.txt")) {
+            const bool isWhole = name.ends_with("-results.txt")
+                ? play::Results::read(text).damaged == 0
+                : play::MyPuzzles::read(text).damaged == 0;
+            if (!isWhole) {
+                return "there are damaged lines in " + name;
+            }
+            continue;
+        }
+        if (name.find(".txt.") != std::string::npos && mayBe == SetAside::Never) {
             return "a journal was set aside: " + name;
         }
         const play::JournalText read

@@ -19,7 +19,7 @@ namespace {
 std::optional<Finding> replayed(
     const Cage& cage, const std::vector<Event>& events, const MakeBody& makeBody)
 {
-    CagedGame game(cage, makeBody);
+    CagedGame game(cage, makeBody, CagedGame::Looking::Always);
     for (std::size_t done = 0; done < events.size(); ++done) {
         if (std::string fault = game.perform(events[done]); !fault.empty()) {
             return Finding { std::move(fault),
@@ -55,10 +55,10 @@ Cage cageFrom(const Dice& dice)
     return cage;
 }
 
-Monkey::Monkey(Dice dice, MakeBody makeBody)
+Monkey::Monkey(Dice dice, const MakeBody& makeBody)
     : m_dice(std::move(dice))
     , m_cage(cageFrom(m_dice))
-    , m_game(m_cage, std::move(makeBody))
+    , m_game(m_cage, makeBody)
 {
 }
 
@@ -127,6 +127,9 @@ Event Monkey::seldom(unsigned choice)
     }
     if (choice < 28) {
         return { .kind = Kind::Open, .text = kTexts.at(below(kTexts.size())) };
+    }
+    if (choice == 28) {
+        return { .kind = Kind::Disk, .text = below(2) == 0 ? "there is no room left" : "" };
     }
     return { .kind = Kind::Today, .text = kDays.at(below(kDays.size())) };
 }

@@ -25,7 +25,7 @@ using Dice = std::function<std::uint32_t()>;
 // it sees more than refusals. The same dice do the same.
 class Monkey {
 public:
-    Monkey(Dice dice, MakeBody makeBody = bodyWithoutWindow);
+    Monkey(Dice dice, const MakeBody& makeBody = bodyWithoutWindow);
 
     // So many events and the way out, or fewer where something is found.
     [[nodiscard]] std::optional<Finding> play(int events);

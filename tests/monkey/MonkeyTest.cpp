@@ -6,7 +6,7 @@ namespace veyrand::test {
 
 TEST(Monkeys, FindNothing)
 {
-    constexpr long kEvents = 20'000;
+    constexpr long kEvents = 200'000;
     letMonkeysPlay(kEvents, bodyWithoutWindow);
 }
 

@@ -18,37 +18,39 @@ namespace {
 constexpr unsigned long kComparing = 25;
 
 // The window's own content, which gets real events and paints after each what has changed.
-class PaintedBody final : public BodyOf<app::VirtualGame> {
+class PaintedBody final : public BodyOn<app::VirtualGame> {
 public:
-    PaintedBody(const Launch& launch, const std::string& data)
-        : BodyOf({ .screen = { .width = 640, .height = 400 },
-            .window = { 480, 300 },
-            .seed = launch.seed,
-            .store = launch.store,
-            .journal = launch.journal,
-            .dataFolder = QString::fromStdString(data) })
+    PaintedBody(std::uint32_t seed, SimulatedDisk& disk, const std::string& data)
+        : BodyOn(seed, disk,
+            { .screen = { .width = 640, .height = 400 },
+                .window = { 480, 300 },
+                .dataFolder = QString::fromStdString(data) })
     {
     }
 
-    [[nodiscard]] headless::HeadlessGame& game() override { return played().headless(); }
-
-    void key(const std::string& keys) override { played().key(QString::fromStdString(keys)); }
+    void launch() override
+    {
+        m_kept = {};
+        BodyOn::launch();
+    }
+    [[nodiscard]] headless::HeadlessGame& game() override { return touched().headless(); }
+    void key(const std::string& keys) override { touched().key(QString::fromStdString(keys)); }
     void menu(const std::string& item) override
     {
-        played().menu().trigger(QString::fromStdString(item));
+        touched().menu().trigger(QString::fromStdString(item));
     }
     void resize(platform::Size size) override
     {
         // A third of what monkeys think of: painting takes its time.
-        played().resize(
+        touched().resize(
             { static_cast<int>(size.width / 3.0), static_cast<int>(size.height / 3.0) });
     }
 
     [[nodiscard]] std::string faultOfPicture() override
     {
-        auto& widget = played().widget();
+        auto& widget = touched().widget();
         if (m_kept.size() != widget.size()) {
-            m_kept = played().picture();
+            m_kept = touched().picture();
             return {};
         }
         if (const QRegion damage = widget.nextFrame(); !damage.isEmpty()) {
@@ -69,8 +71,9 @@ private:
 
 MakeBody paintedBodies(const std::string& data)
 {
-    return
-        [data](const Body::Launch& launch) { return std::make_unique<PaintedBody>(launch, data); };
+    return [data](std::uint32_t seed, SimulatedDisk& disk) {
+        return std::make_unique<PaintedBody>(seed, disk, data);
+    };
 }
 
 } // namespace
