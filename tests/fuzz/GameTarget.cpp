@@ -9,7 +9,7 @@ namespace veyrand::fuzz {
 // The bytes are a monkey's dice.
 void fuzzGame(const std::uint8_t* data, std::size_t size)
 {
-    constexpr std::size_t kMostBytes = 400;
+    constexpr std::size_t kMostBytes = 240;
     constexpr int kBytesOfAnEvent = 6;
     const auto bytes = std::make_shared<Bytes>(data, std::min(size, kMostBytes));
     const auto dice = [bytes] { return bytes->byte() * 256U + bytes->byte(); };
