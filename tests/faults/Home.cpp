@@ -90,9 +90,9 @@ void socketAt(const std::string& path)
 std::vector<NoFile> noFiles()
 {
     return { { "a pipe", [](const std::string& path) { ::mkfifo(path.c_str(), 0600); } },
-        { "a folder", [](const std::string& path) { fs::create_directories(path); } },
-        { "a full folder",
-            [](const std::string& path) { ScratchFolder::write(path + "/a", "a"); } },
+        { "a folder", [](const std::string& path) { fs::create_directories(path); }, true },
+        { "a full folder", [](const std::string& path) { ScratchFolder::write(path + "/a", "a"); },
+            true },
         { "a device", [](const std::string& path) { fs::create_symlink("/dev/zero", path); } },
         { "a full device", [](const std::string& path) { fs::create_symlink("/dev/full", path); } },
         { "a link to itself", [](const std::string& path) { fs::create_symlink(path, path); } },
@@ -145,11 +145,13 @@ std::vector<HomeFault> homeFaults()
     std::vector<HomeFault> faults;
     const std::string preferences = "config/preferences.json";
     const std::string journal = "state/New-classic.txt";
-    for (const auto& [name, put] : noFiles()) {
+    // All of the preferences is written anew, and of a journal that can no longer grow, too.
+    for (const auto& [name, put, isFolder] : noFiles()) {
         for (const std::string& file : { preferences, journal }) {
             faults.push_back({ .name = name + " for " + file, .make = at(file, put) });
-            faults.push_back(
-                { .name = name + " for " + file + " meanwhile", .meanwhile = at(file, put) });
+            faults.push_back({ .name = name + " for " + file + " meanwhile",
+                .meanwhile = at(file, put),
+                .isSilent = file == journal && !isFolder });
         }
     }
     for (const std::string& file : { preferences, journal }) {
@@ -161,10 +163,9 @@ std::vector<HomeFault> homeFaults()
             { .name = file + " changes meanwhile", .meanwhile = [file](const std::string& home) {
                  std::ofstream(home + '/' + file, std::ios::app) << "more\n";
              } });
-        // All of the preferences is written anew; of a journal, what comes next alone.
         faults.push_back({ .name = file + " goes meanwhile",
             .meanwhile = [file](const std::string& home) { fs::remove_all(home + '/' + file); },
-            .isSilent = file == preferences });
+            .isSilent = true });
     }
     for (const std::string& folder : { std::string("/config"), std::string("/state") }) {
         const Act close = [folder](const std::string& home) {
@@ -178,7 +179,8 @@ std::vector<HomeFault> homeFaults()
             .unmake = openUp,
             .isSilent = folder == "/state" });
         faults.push_back({ .name = folder + " goes meanwhile",
-            .meanwhile = [folder](const std::string& home) { fs::remove_all(home + folder); } });
+            .meanwhile = [folder](const std::string& home) { fs::remove_all(home + folder); },
+            .isSilent = folder == "/state" });
         faults.push_back(
             { .name = folder + " is a file", .make = [folder](const std::string& home) {
                  fs::remove_all(home + folder);

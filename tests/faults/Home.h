@@ -44,6 +44,7 @@ struct HomeFault {
 struct NoFile {
     std::string name;
     std::function<void(const std::string& path)> put;
+    bool isFolder = false; // whose place no file takes
 };
 [[nodiscard]] std::vector<NoFile> noFiles();
 
