@@ -128,6 +128,21 @@ async function store() {
   check(fault !== '', 'a text that cannot be stored is told');
   const fourth = new Store(name);
   same([...(await fourth.load()).texts.keys()], ['c', 'd'], 'after the fault');
+  // What one task changes is kept whole or not at all, and has nothing to do with the next one.
+  const fifth = new Store(name);
+  await fifth.load();
+  let faults = 0;
+  fifth.failed = () => {
+    ++faults;
+  };
+  fifth.put('g', 'one');
+  fifth.put('h', 'two');
+  fifth.current.abort();
+  await null;
+  fifth.put('i', 'three');
+  await new Promise((go) => setTimeout(go, 100));
+  same([faults, fifth.pending], [2, 0], 'both are told to have failed');
+  same([...(await new Store(name).load()).texts.keys()], ['c', 'd', 'i'], 'and neither is kept');
   // Where the browser refuses, loading fails with its reason.
   const real = indexedDB.open;
   IDBFactory.prototype.open = () => {

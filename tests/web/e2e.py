@@ -19,8 +19,11 @@ PHONE = {'width': 844, 'height': 390, 'touch': True}
 class Play:
     """A page with the game on it."""
 
-    def __init__(self, browser, address, **shape):
+    def __init__(self, browser, address, room=None, **shape):
+        """Room is how many bytes the page may store."""
         self.page = browser.page(**shape)
+        if room is not None:
+            self.page.tell('Storage.overrideQuotaForOrigin', origin=address.rstrip('/'), quotaSize=room)
         self.page.go(address)
         self.arrived()
 
@@ -360,6 +363,9 @@ def a_puzzle_sent(site, out):
     server.shutdown()
 
 
+KEPT = 'veyrand.store.load().then(({ texts }) => texts.get("preferences.json"))'
+
+
 def second_tab(site, _out):
     server, address = webserver.serve(site)
     with Chromium() as browser:
@@ -370,7 +376,7 @@ def second_tab(site, _out):
         second.page.run('document.querySelector("dialog button").click()')
         second.menu('Options', 'Music')
         second.stored()
-        kept = first.page.run('veyrand.store.load().then(({ texts }) => texts.get("preferences.json"))')
+        kept = first.page.run(KEPT)
         assert json.loads(kept)['TRNPlayMusicKey'] is True, 'the second tab has saved'
     server.shutdown()
 
@@ -386,6 +392,31 @@ def offline(site, _out):
         play.reload()
         play.click('button-classicbuttonon')
         play.until('s.lines.length === 1', 'the puzzle 1-1 without a network')
+
+
+def no_room(site, out):
+    """A browser that has no room left says so; the game goes on, and what was kept before stays."""
+    server, address = webserver.serve(site)
+    profile = tempfile.mkdtemp(prefix='veyrand-full-')
+    try:
+        with Chromium(profile) as browser:
+            play = Play(browser, address)
+            play.store(at(2, 1))
+            before = play.page.run(KEPT)
+        with Chromium(profile) as browser:  # one that has not yet asked how much room there is
+            play = Play(browser, address, room=1)
+            play.go_on(play.click)
+            play.page.until('document.querySelector("dialog")?.textContent.includes("no room left")', 'the word of a full disk')
+            looked(play, out, 'no-room-left')
+            play.page.run('document.querySelector("dialog button").click()')
+            play.clear_pages()
+            play.click('chip-0-0')
+            play.until('s.lines.length === 2', 'the line that is not kept')
+            play.stored()
+            assert play.page.run(KEPT) == before, 'something was written'
+    finally:
+        shutil.rmtree(profile, ignore_errors=True)
+    server.shutdown()
 
 
 def kills(site, _out, count=20):
@@ -461,6 +492,7 @@ TESTS = {
     'a puzzle of an address': a_puzzle_sent,
     'a second tab does not save': second_tab,
     'played without a network': offline,
+    'told that there is no room': no_room,
     'killed at any moment': kills,
     'told what is missing': troubles,
 }

@@ -1,7 +1,8 @@
 import { say } from './words.mjs';
 
-// The player's texts in the browser's database: one object store, names to texts. Each change is a
-// transaction of its own that the browser is asked to bring to the disk at once.
+// The player's texts in the browser's database: one object store, names to texts. What changes in one task, a gesture
+// or a whole game that is imported, is one transaction, which the browser is asked to bring to the disk at once: all of
+// it is kept, or nothing.
 
 const format = 1; // of what is written here
 const formatName = ' format'; // no text is called so
@@ -28,6 +29,7 @@ export class Store {
     this.database = null;
     this.failed = () => {};
     this.pending = 0;
+    this.current = null; // the transaction of this task
   }
 
   // What was kept: { texts: Map, isLater }. A later version's texts are not to be written.
@@ -68,6 +70,16 @@ export class Store {
     });
   }
 
+  transaction() {
+    if (this.current === null) {
+      this.current = this.database.transaction(texts, 'readwrite', { durability: 'strict' });
+      queueMicrotask(() => {
+        this.current = null;
+      });
+    }
+    return this.current;
+  }
+
   change(steps, done = () => {}, failed = (words) => this.failed(words)) {
     ++this.pending;
     const end = (call, words) => {
@@ -75,10 +87,10 @@ export class Store {
       call(words);
     };
     try {
-      const change = this.database.transaction(texts, 'readwrite', { durability: 'strict' });
+      const change = this.transaction();
       steps(change.objectStore(texts));
-      change.oncomplete = () => end(done);
-      change.onabort = () => end(failed, wordsFor(change.error));
+      change.addEventListener('complete', () => end(done));
+      change.addEventListener('abort', () => end(failed, wordsFor(change.error)));
     } catch (error) {
       end(failed, wordsFor(error));
     }
