@@ -122,11 +122,13 @@ std::string Replay::faultOf(const Move& move) const
     if (result->size() > kMostChips && result->size() > m_lines.back().chips.size()) {
         return "the line would be too long";
     }
-    if (m_lines.size() + 1 > kMostLines
-        || (m_lines.size() + 1 == kMostLines && *result != m_puzzle->goal)) {
-        return "the board is full";
-    }
-    return {};
+    return hasRoomFor(*result) ? "" : "the board is full";
+}
+
+bool Replay::hasRoomFor(const std::string& line) const
+{
+    const std::size_t lines = m_lines.size() + 1;
+    return lines < kMostLines || (lines == kMostLines && line == m_puzzle->goal);
 }
 
 std::string Replay::faultOf(const Hint& hint) const
@@ -139,7 +141,8 @@ std::string Replay::faultOf(const Hint& hint) const
     if (hint.kind == Hint::Kind::Back) {
         isPossible = hint.left >= 1 && hint.left < m_lines.size();
     } else if (hint.kind == Hint::Kind::Line) {
-        isPossible = resultOf(hint.move).has_value();
+        const auto line = resultOf(hint.move);
+        isPossible = line && hasRoomFor(*line);
     }
     return isPossible ? "" : "this is not what a hint would come to";
 }

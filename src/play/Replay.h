@@ -88,6 +88,7 @@ private:
     [[nodiscard]] std::string faultOf(const Move& move) const;
     [[nodiscard]] std::string faultOf(const Hint& hint) const;
     [[nodiscard]] std::optional<std::string> resultOf(const Move& move) const;
+    [[nodiscard]] bool hasRoomFor(const std::string& line) const;
 
     void carryOut(const Puzzle& puzzle);
     void carryOut(const Move& move);

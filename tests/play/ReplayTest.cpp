@@ -156,12 +156,14 @@ TEST(Replay, RefusesWhatCannotHaveHappened)
 TEST(Replay, OnlyTheGoalFitsOnTheLastLine)
 {
     Replay replay;
-    ASSERT_EQ(replay.apply(Puzzle { Mode::Classic, { 5, 1 }, "YYYYRRRRRRRR", "Y", 2, 0, 0 }), "");
+    ASSERT_EQ(replay.apply(Puzzle { Mode::Classic, { 5, 1 }, "YYYYRRRRRRRR", "Y", 2, 50, 0 }), "");
     for (unsigned line = 2; line <= kMostLines - 1; ++line) {
         ASSERT_EQ(replay.apply(Move { 4, 0 }), "") << line;
     }
     EXPECT_EQ(replay.lines().size(), kMostLines - 1);
     EXPECT_EQ(replay.apply(Move { 4, 0 }), "the board is full");
+    EXPECT_EQ(replay.apply(Hint { Hint::Kind::Line, 0, { 4, 0 } }),
+        "this is not what a hint would come to");
 }
 
 // A hash that forgot something would let two different games pass for one.
