@@ -132,6 +132,19 @@ TEST_F(HoverTest, UnderAQuestionOnlyItsOwnTwoButtonsCanBeFoundUnderThePointer)
     EXPECT_EQ(opacity("fullScreen-4i"), 1.0);
 }
 
+// A change of size finds the buttons anew, but for those that a page covers.
+TEST_F(HoverTest, UnderAPageNoButtonIsFoundAgain)
+{
+    view().setOverlay(Overlay::Page);
+    view().reestablishTracking();
+    EXPECT_THAT(view().hover().trackedButtons(), ElementsAre());
+    moveTo(centre("button-menubuttonoff"));
+    EXPECT_EQ(opacity("button-menubuttonon"), 0.0);
+    view().setOverlay(Overlay::None);
+    view().reestablishTracking();
+    EXPECT_EQ(view().hover().trackedButtons().size(), 3U);
+}
+
 // Play goes on beside a note.
 TEST_F(HoverTest, BesideANoteTheBoardsButtonsLightUp)
 {
