@@ -68,6 +68,7 @@ void Answers::settingsChanged()
     m_settings = progress::readSettings(m_game.preferences);
     if (!m_settings.answers) {
         m_game.layers.extras().clear();
+        m_shown = {}; // a sheet is drawn again all the same
     }
     m_game.layers.margins().setOn(m_settings.woodToTheEdges);
     m_game.layers.scene().setNeedsDisplay();

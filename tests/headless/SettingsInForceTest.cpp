@@ -1,6 +1,8 @@
 #include "progress/Settings.h"
 #include "support/HeadlessPlay.h"
 
+#include <algorithm>
+
 namespace veyrand::controller {
 
 using platform::SoundKind;
@@ -51,6 +53,20 @@ TEST_F(SettingsInForceTest, OtherStonesLieOnTheBoardAtOnceAndInTheHand)
     }
     EXPECT_EQ(letters, 4 + 2 + 1); // the line, the goal and the lifted stone
     release("chip-3-0");
+}
+
+TEST_F(SettingsInForceTest, ASheetStaysWhileTheyAreChangedWithoutAnswers)
+{
+    choose([](progress::Settings& settings) { settings.answers = false; });
+    game().controller().sheets().openMap();
+    const auto shown = [this] {
+        const auto all = game().game().layers().extras().shown();
+        return std::count_if(all.begin(), all.end(),
+            [](const auto& extra) { return extra.kind == present::ExtraKind::Sheet; });
+    };
+    ASSERT_EQ(shown(), 1);
+    choose([](progress::Settings& settings) { settings.musicVolume = 40; });
+    EXPECT_EQ(shown(), 1);
 }
 
 TEST(SettingsInForce, HoldFromTheFirstMoment)
