@@ -55,6 +55,7 @@ std::variant<play::Outcome, play::Refusal> GameFlow::apply(const play::Action& a
     auto answer = m_session->apply(action);
     if (std::holds_alternative<play::Outcome>(answer)) {
         m_controller.kept().add(action);
+        m_controller.book().timer().acted();
     }
     return answer;
 }
@@ -190,6 +191,7 @@ void GameFlow::resume(play::Replay kept)
         .mode = puzzle.mode });
     game.addToScore(kept.purse() - puzzle.saved);
     layOutPuzzle();
+    m_controller.book().timer().resume();
     m_session.emplace(std::move(kept), game.proof());
     for (unsigned row = 1; row < m_session->lines().size(); ++row) {
         m_game.board.lines.createChipsForTheorem(m_session->lines()[row].theorem(), row);
@@ -207,7 +209,9 @@ void GameFlow::layOutPuzzle()
     m_controller.messages().dismiss();
     m_controller.dialogues().dismiss();
     m_controller.hints().resetHintMode();
-    m_session.emplace(puzzleInPlay(), m_game.currentGame.proof());
+    const play::Puzzle puzzle = puzzleInPlay();
+    m_session.emplace(puzzle, m_game.currentGame.proof());
+    m_controller.book().timer().begin(puzzle.root + '>' + puzzle.goal);
     m_game.board.newGame(proof()->root().theorem(), proof()->goal().theorem());
     m_game.board.panel.drawCounters();
     m_controller.answers().puzzleLaidOut();
@@ -268,6 +272,7 @@ void GameFlow::returnToMenu()
 {
     const bool wasPractice = m_game.currentGame.practice() && m_session;
     m_controller.kept().close();
+    m_controller.book().timer().leave();
     m_controller.messages().dismiss();
     m_controller.hints().resetHintMode();
     m_game.sounds.stopLoop();

@@ -9,6 +9,7 @@ ResultBook::ResultBook(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
     , m_file(controller, "results")
+    , m_timer(m_game)
 {
 }
 
@@ -51,6 +52,7 @@ const play::Result* ResultBook::toReplay(const std::string& name) const
 void ResultBook::solved(const std::string& name)
 {
     const play::Session* const session = m_controller.flow().session();
+    const std::uint64_t seconds = m_timer.end();
     if (name.empty() || session == nullptr) {
         return;
     }
@@ -62,7 +64,8 @@ void ResultBook::solved(const std::string& name)
         .par = static_cast<unsigned>(std::max(puzzle.par - 1, 0)),
         .moves = {},
         .hints = static_cast<unsigned>((puzzle.saved + points - replay.purse()) / play::kHintPrice),
-        .solvedOn = today() };
+        .solvedOn = today(),
+        .seconds = seconds };
     for (std::size_t row = 1; row < replay.lines().size(); ++row) {
         result.moves.push_back(replay.lines()[row].move);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/KeptText.h"
+#include "controller/PuzzleTimer.h"
 #include "play/Results.h"
 
 #include <map>
@@ -33,6 +34,8 @@ public:
     void join(const play::Results& others);
     void replace(const play::Results& others);
 
+    [[nodiscard]] PuzzleTimer& timer() { return m_timer; }
+
     // The names of the puzzles of both modes as they are kept; empty for what is not kept.
     [[nodiscard]] std::string nameOfPuzzleInPlay() const;
 
@@ -42,6 +45,7 @@ private:
     GameController& m_controller;
     GameContext& m_game;
     KeptText m_file;
+    PuzzleTimer m_timer;
     play::Results m_results;
     std::map<std::string, play::Result> m_latest; // since the launch
 };

@@ -115,6 +115,8 @@ constexpr std::array kSettingItems {
         "&Wood to the Edges", "Wood instead of black beside the board."),
     whether<&Settings::keepUnfinishedPuzzles>(
         "&Keep Unfinished Puzzles", "A puzzle that is left is found again as it was."),
+    whether<&Settings::timePuzzles>("Time P&uzzles",
+        "How long each puzzle took is kept with its result and shown in Statistics."),
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "controller/StatisticsSheet.h"
 
 #include "controller/GameController.h"
+#include "progress/Settings.h"
 
 #include <algorithm>
 #include <array>
@@ -37,6 +38,19 @@ std::string withTenths(const language::Texts& texts, double number)
         { { "whole", std::to_string(tenths / 10) }, { "tenth", std::to_string(tenths % 10) } });
 }
 
+std::string durationWords(const language::Texts& texts, std::uint64_t seconds)
+{
+    constexpr std::uint64_t kMinute = 60;
+    constexpr std::uint64_t kHour = 60 * kMinute;
+    const std::string rest = std::to_string(seconds % kMinute);
+    const std::string minutes = std::to_string(seconds % kHour / kMinute);
+    return seconds >= kHour ? texts.text("statistics.hours",
+               { { "hours", std::to_string(seconds / kHour) }, { "minutes", minutes } })
+        : seconds >= kMinute
+        ? texts.text("statistics.minutes", { { "minutes", minutes }, { "seconds", rest } })
+        : texts.text("statistics.seconds", { { "seconds", rest } });
+}
+
 std::string StatisticsSheet::text(const char* id, language::Arguments arguments) const
 {
     return m_controller.context().texts.text(std::string("statistics.") + id, arguments);
@@ -55,7 +69,8 @@ std::string StatisticsSheet::told() const
     };
     return figure("saidSolved", figures.solved) + ' ' + figure("saidAtPar", figures.atPar) + ' '
         + figure("saidOver", figures.over) + ' ' + figure("saidHints", figures.hints) + ' '
-        + figure("saidDaily", figures.daily);
+        + figure("saidDaily", figures.daily)
+        + (time(figures).empty() ? "" : ' ' + text("saidTime", { { "time", time(figures) } }));
 }
 
 void StatisticsSheet::press(const std::string& key)
@@ -91,6 +106,14 @@ std::string StatisticsSheet::average(const Statistics& figures) const
     return withTenths(m_controller.context().texts, average);
 }
 
+std::string StatisticsSheet::time(const Statistics& figures) const
+{
+    const auto& context = m_controller.context();
+    return progress::readSettings(context.preferences).timePuzzles
+        ? durationWords(context.texts, figures.seconds)
+        : std::string();
+}
+
 void StatisticsSheet::draw(SheetDrawing& drawing) const
 {
     const Statistics figures = m_controller.book().statistics();
@@ -122,13 +145,17 @@ void StatisticsSheet::drawFigures(SheetDrawing& drawing, const Statistics& figur
 void StatisticsSheet::drawLegend(SheetDrawing& drawing) const
 {
     drawing.words(text("byLevel"), kLeft, 282, 35, Ink::Gold, Align::Left, 260);
-    const auto entry = [&](const char* picture, double x, const char* id, double room) {
-        drawing.picture(picture, x, 283, 24, 24);
-        drawing.words(text(id), x + 22, 282, 28, Ink::Ivory, Align::Left, room);
+    constexpr double kEm = 28.0;
+    double end = 1519.0; // with the last bar
+    const auto entry = [&](const char* picture, const char* id) {
+        drawing.words(text(id), end, 282, kEm, Ink::Ivory, Align::Right);
+        end -= drawing.widthOf(text(id), kEm) + 24.0;
+        drawing.picture(picture, end, 283, 24, 24);
+        end -= 48.0;
     };
-    entry("BarGold", 968, "atPar", 120);
-    entry("BarPale", 1132, "moreMoves", 178);
-    entry("BarOpen", 1352, "open", 150);
+    entry("BarOpen", "open");
+    entry("BarPale", "moreMoves");
+    entry("BarGold", "atPar");
 }
 
 void StatisticsSheet::drawLevels(SheetDrawing& drawing, const Statistics& figures) const
@@ -165,6 +192,10 @@ void StatisticsSheet::drawOver(SheetDrawing& drawing, const Statistics& figures)
     drawing.words(text("overPar"), kLeft, 776, 33, Ink::Gold, Align::Left, 250);
     drawing.words(text("average", { { "number", average(figures) } }), kLeft, 832, 28, Ink::Ivory,
         Align::Left, 250);
+    if (const std::string taken = time(figures); !taken.empty()) {
+        drawing.words(
+            text("time", { { "time", taken } }), kLeft, 878, 28, Ink::Ivory, Align::Left, 250);
+    }
     const unsigned most
         = std::max(1U, *std::max_element(figures.byOver.begin(), figures.byOver.end()));
     for (std::size_t over = 0; over < figures.byOver.size(); ++over) {
@@ -185,17 +216,18 @@ void StatisticsSheet::drawPanel(SheetDrawing& drawing) const
 {
     drawing.title(title());
     const int done = levelsDone();
-    drawing.picture(
-        "Medal-" + std::to_string(std::max(done, 1)), 295, 320, 443, 300, done > 0 ? 1.0 : 0.25);
-    drawing.words(rankAfter(done), 295, 512, 50, Ink::Ivory, Align::Middle, 470);
+    drawing.picture("Medal-" + std::to_string(std::max(done, 1)), SheetDrawing::kPanelMiddle, 380,
+        443, 300, done > 0 ? 1.0 : 0.25);
+    drawing.words(
+        rankAfter(done), SheetDrawing::kPanelMiddle, 572, 50, Ink::Ivory, Align::Middle, 470);
     if (done < progress::kLastLevel) {
         const progress::Place end { done + 1, progress::kLastStage };
         drawing.words(
             text("rankNext", { { "rank", rankAfter(done + 1) }, { "place", play::nameOf(end) } }),
-            295, 566, 31, Ink::Gold, Align::Middle, 470);
+            SheetDrawing::kPanelMiddle, done > 0 ? 626 : 572, 31, Ink::Gold, Align::Middle, 470);
     }
-    drawing.button("puzzles", text("puzzles"), 180, 892, 232, 66);
-    drawing.button("menu", text("menu"), 422, 892, 232, 66);
+    drawing.button("puzzles", text("puzzles"), SheetDrawing::kFirstColumn, 892, 232, 66);
+    drawing.button("menu", text("menu"), SheetDrawing::kSecondColumn, 892, 232, 66);
 }
 
 } // namespace veyrand::controller

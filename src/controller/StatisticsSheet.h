@@ -32,6 +32,7 @@ private:
     [[nodiscard]] std::string text(const char* id, language::Arguments arguments = {}) const;
     [[nodiscard]] std::string rankAfter(int levels) const;
     [[nodiscard]] int levelsDone() const;
+    [[nodiscard]] std::string time(const play::Statistics& figures) const; // empty: not wanted
     [[nodiscard]] std::string average(const play::Statistics& figures) const;
 
     GameController& m_controller;
@@ -39,5 +40,8 @@ private:
 
 // "0.4", as the language writes it.
 [[nodiscard]] std::string withTenths(const language::Texts& texts, double number);
+
+// "9 h 40 min", "2 min 5 s" or "7 s".
+[[nodiscard]] std::string durationWords(const language::Texts& texts, std::uint64_t seconds);
 
 } // namespace veyrand::controller

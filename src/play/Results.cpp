@@ -69,7 +69,8 @@ std::string lineOf(const std::string& name, const Result& result)
 {
     return name + ' ' + codeOf(result.puzzle.root, result.puzzle.goal).value_or("-") + ' '
         + std::to_string(result.par) + ' ' + textOf(result.moves) + ' '
-        + std::to_string(result.hints) + ' ' + progress::textOf(result.solvedOn);
+        + std::to_string(result.hints) + ' ' + progress::textOf(result.solvedOn)
+        + (result.seconds > 0 ? ' ' + std::to_string(result.seconds) : "");
 }
 
 std::optional<Result> resultIn(std::string_view text)
@@ -78,12 +79,13 @@ std::optional<Result> resultIn(std::string_view text)
     const auto par = numberIn(takeWord(text, ' '));
     const auto moves = movesIn(takeWord(text, ' '));
     const auto hints = numberIn(takeWord(text, ' '));
-    const auto date = progress::dateIn(text);
+    const auto date = progress::dateIn(takeWord(text, ' '));
+    const auto seconds = text.empty() ? std::optional(0U) : numberIn(text);
     if (!std::holds_alternative<CodedPuzzle>(puzzle) || !par || !moves || !hints || !date
-        || !doSolve(*moves, std::get<CodedPuzzle>(puzzle))) {
+        || !seconds || !doSolve(*moves, std::get<CodedPuzzle>(puzzle))) {
         return std::nullopt;
     }
-    return Result { std::get<CodedPuzzle>(puzzle), *par, *moves, *hints, *date };
+    return Result { std::get<CodedPuzzle>(puzzle), *par, *moves, *hints, *date, *seconds };
 }
 
 } // namespace
@@ -214,6 +216,7 @@ Statistics statisticsOf(
         }
     }
     for (const auto& [name, result] : results.all()) {
+        statistics.seconds += result.seconds;
         if (progress::dateIn(name)) {
             ++statistics.daily;
             statistics.hints += result.hints;

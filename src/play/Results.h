@@ -6,6 +6,7 @@
 #include "progress/Place.h"
 
 #include <array>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ struct Result {
     std::vector<Move> moves;
     unsigned hints = 0; // clicks
     progress::CalendarDate solvedOn {};
+    std::uint64_t seconds = 0; // that it took; 0: nobody looked at the clock
 
     [[nodiscard]] unsigned over() const // moves more than par
     {
@@ -86,6 +88,7 @@ struct Statistics {
     unsigned atPar = 0;
     unsigned over = 0; // moves
     unsigned hints = 0;
+    std::uint64_t seconds = 0; // of all that were timed
     unsigned daily = 0;
     unsigned others = 0; // own puzzles and codes
     progress::Streak streak {};

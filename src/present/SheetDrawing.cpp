@@ -85,8 +85,8 @@ void SheetDrawing::words(
 
 void SheetDrawing::title(const std::string& text)
 {
-    words(text, 295, 74, 58, Ink::Gold);
-    picture("HorizontalLine", 295, 112, 380, 3);
+    words(text, kPanelMiddle, 74, 58, Ink::Gold);
+    picture("HorizontalLine", kPanelMiddle, 112, 380, 3);
 }
 
 void SheetDrawing::paragraph(

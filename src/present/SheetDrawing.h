@@ -25,6 +25,12 @@ public:
     enum class Align { Left, Middle, Right };
     enum class Button { Plain, Main, Chosen };
 
+    // Of the panel, whose middle is that of the board's: two plates of 232 side by side are as wide
+    // as a card.
+    static constexpr double kPanelMiddle = 301.0;
+    static constexpr double kFirstColumn = 180.0;
+    static constexpr double kSecondColumn = 422.0;
+
     SheetDrawing(const platform::TextMetrics& metrics, std::string focus)
         : m_metrics(metrics)
         , m_focus(std::move(focus))
@@ -37,6 +43,10 @@ public:
     // A text is made smaller when it is wider than its room, where that is given.
     void words(const std::string& text, double x, double y, double em, Ink ink,
         Align align = Align::Middle, double room = 0.0);
+    [[nodiscard]] double widthOf(const std::string& text, double em) const
+    {
+        return m_metrics.preferredFrameSize(text).width * em;
+    }
     // In as many lines as it takes, the middle one at the place given.
     void paragraph(const std::string& text, double x, double y, double em, Ink ink, double room);
     // A bar of one colour.

@@ -126,6 +126,7 @@ void visit(SomeSettings& settings, const Visitor& visitor)
     visitor("LiftByClick", settings.liftByClick);
     visitor("KeepUnfinishedPuzzles", settings.keepUnfinishedPuzzles);
     visitor("SpokenKeys", settings.spokenKeys);
+    visitor("TimePuzzles", settings.timePuzzles);
     visitor("Tempo", settings.tempo);
     visitor("ReducedMotion", settings.reducedMotion);
     visitor("MusicVolume", settings.musicVolume);

@@ -28,6 +28,7 @@ struct Settings {
     bool liftByClick = false;
     bool keepUnfinishedPuzzles = true;
     bool spokenKeys = true;
+    bool timePuzzles = false;
     Tempo tempo = Tempo::Normal;
     ReducedMotion reducedMotion = ReducedMotion::System;
     int musicVolume = 100; // of 100

@@ -55,6 +55,20 @@ TEST(TheResults, AreReadAsTheyWereWritten)
     EXPECT_EQ(read.results.daysInTime(), (std::set<progress::CalendarDate> { { 2026, 11, 20 } }));
 }
 
+TEST(TheResults, SayHowLongItTookWhereThatIsKnown)
+{
+    Results untimed;
+    untimed.add("1-4", resultOf(2));
+    Results timed;
+    Result result = resultOf(2);
+    result.seconds = 83;
+    timed.add("1-4", result);
+    EXPECT_NE(textOf(timed).find(" 2026-11-21 83 #"), std::string::npos);
+    EXPECT_NE(textOf(untimed).find(" 2026-11-21 #"), std::string::npos);
+    EXPECT_EQ(Results::read(textOf(timed)).results, timed);
+    EXPECT_EQ(statisticsOf(timed, {}, { 2026, 11, 21 }).seconds, 83U);
+}
+
 TEST(TheResults, AreNotThoseOfADamagedLine)
 {
     Results results;

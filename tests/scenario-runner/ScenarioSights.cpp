@@ -3,6 +3,7 @@
 #include "controller/ReplaySheet.h"
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
+#include "progress/Settings.h"
 
 #include <array>
 #include <cstdio>
@@ -42,10 +43,14 @@ Json Scenario::statistics(const Arguments& /*arguments*/)
     for (const auto& level : statistics.levels) {
         levels.push_back({ { "solved", level.solved }, { "atPar", level.atPar } });
     }
-    return { { "solved", statistics.solved }, { "atPar", statistics.atPar },
+    Json figures { { "solved", statistics.solved }, { "atPar", statistics.atPar },
         { "over", statistics.over }, { "hints", statistics.hints }, { "daily", statistics.daily },
         { "others", statistics.others }, { "streak", statistics.streak.current },
         { "bestStreak", statistics.streak.best }, { "levels", std::move(levels) } };
+    if (progress::readSettings(game().preferences()).timePuzzles) {
+        figures["seconds"] = statistics.seconds;
+    }
+    return figures;
 }
 
 Json Scenario::sheet(const Arguments& /*arguments*/)
