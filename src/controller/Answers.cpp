@@ -174,6 +174,9 @@ void Answers::direct()
 
 std::string Answers::thingUnderPointer() const
 {
+    if (m_controller.sheets().hovered() == kGuideButton) {
+        return std::string(kGuideButton);
+    }
     std::string key = m_game.view.keyUnderPointer();
     if (!key.empty()) {
         return key;

@@ -141,8 +141,16 @@ void Answers::addWords(std::vector<Extra>& wanted) const
         text = m_advice;
     }
     if (!text.empty()) {
-        wanted.push_back(present::tipFor(
-            m_shown.thing, *place, text, m_game.layers.textMetrics(), m_shown.tipSize));
+        Extra tip = present::tipFor(
+            m_shown.thing, *place, text, m_game.layers.textMetrics(), m_shown.tipSize);
+        // A lesson's note lies below the line, or above it, and is not to be hidden.
+        if (board::isChipKey(m_shown.thing) && m_game.view.overlay() == input::Overlay::Note) {
+            const unsigned row = board::rowForKey(m_shown.thing);
+            const auto length = static_cast<unsigned>(m_shown.lines.at(row).size());
+            tip = present::tipBeside(
+                std::move(tip), present::placeOfChip(length - 1, row), m_shown.tipSize);
+        }
+        wanted.push_back(std::move(tip));
     }
 }
 
@@ -167,6 +175,9 @@ std::string Answers::doomedBy(const std::string& thing) const
 
 std::optional<ExtraRect> Answers::placeOf(const std::string& key) const
 {
+    if (key == kGuideButton) {
+        return m_controller.guide().button().rect;
+    }
     const auto record = m_game.board.gameData.gameObjects().objectForKey(key);
     if (!record) {
         return std::nullopt;

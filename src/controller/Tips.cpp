@@ -61,6 +61,9 @@ std::string Tips::textFor(const std::string& key) const
     if (key == "label-endlesssavegame") {
         return forMedal(true);
     }
+    if (key == kGuideButton) {
+        return m_game.texts.text("tips.howFar");
+    }
     return key == "label-endlessgamelocked" ? m_game.texts.text("tips.locked") : std::string();
 }
 

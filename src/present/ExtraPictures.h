@@ -37,6 +37,9 @@ inline constexpr double kShadowRoom = 0.010; // round every plate
 // many times as large as usual. What would not fit is made no larger than it can be.
 [[nodiscard]] Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& text,
     const platform::TextMetrics& metrics, double size = 1.0);
+// The same to the right of the stone that ends its line, where a note lies below it; where that is
+// too near to the board's edge, as it was.
+[[nodiscard]] Extra tipBeside(Extra tip, const ExtraRect& stone, double size = 1.0);
 [[nodiscard]] Extra whisper(
     const std::string& text, const platform::TextMetrics& metrics, double size = 1.0);
 

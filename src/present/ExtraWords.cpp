@@ -252,6 +252,29 @@ Extra tipFor(const std::string& key, const ExtraRect& thing, const std::string& 
     return extra;
 }
 
+Extra tipBeside(Extra tip, const ExtraRect& stone, double size)
+{
+    const ExtraRect body = tip.rect;
+    const double left = stone.x + stone.width / 2.0 + kTipGap * size;
+    if (left + body.width + kBoardMargin > 1.6) {
+        return tip;
+    }
+    const double right = left + body.width / 2.0 - body.x;
+    const double up = std::min(stone.y, 1.0 - kBoardMargin - body.height / 2.0) - body.y;
+    tip.rect.x += right;
+    tip.rect.y += up;
+    for (ExtraPiece& piece : tip.pieces) {
+        piece.rect.x += right;
+        piece.rect.y += up;
+    }
+    tip.pieces[1] = { .content = ImageContent { "TipNoseLeft" },
+        .rect = { .x = left - (kNoseLength / 2.0 - 0.0045) * size,
+            .y = stone.y,
+            .width = kNoseLength * size,
+            .height = kNoseWidth * size } };
+    return tip;
+}
+
 Extra whisper(const std::string& text, const platform::TextMetrics& metrics, double size)
 {
     const double ems = metrics.preferredFrameSize(text).width;

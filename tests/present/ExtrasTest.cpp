@@ -183,6 +183,20 @@ TEST_F(ExtrasTest, ATipLiesBesideWhatItExplainsAndOnTheBoard)
     }
 }
 
+TEST_F(ExtrasTest, ATipLiesBehindTheEndOfItsLineWhereANoteLiesBelow)
+{
+    const test::SquareLetters metrics;
+    const Extra usual = tipFor("thing", placeOfChip(0, 0), "doubles it", metrics);
+    const ExtraRect end = placeOfChip(2, 0);
+    const Extra tip = tipBeside(usual, end);
+    EXPECT_GT(tip.rect.x - tip.rect.width / 2.0, end.x + end.width / 2.0);
+    EXPECT_LT(tip.rect.x + tip.rect.width / 2.0, 1.6);
+    EXPECT_LT(std::abs(tip.rect.y - end.y), end.height) << "on its row";
+    EXPECT_LT(tip.rect.y + tip.rect.height / 2.0, 1.0);
+    EXPECT_EQ(tip.pieces.size(), usual.pieces.size());
+    EXPECT_EQ(tipBeside(usual, placeOfChip(11, 0)).rect.x, usual.rect.x) << "no room";
+}
+
 namespace {
 
 double heightOfLetters(const Extra& extra)
