@@ -57,8 +57,13 @@ public:
             addLines(root);
             addHelp(root);
             addPanel(root);
-            if (m_controller.guide().showsButton()) {
-                root.children.push_back(placeToPress(m_controller.guide().button()));
+            // What belongs to the view alone. The one of the title page is no button of its own
+            // question, but leads elsewhere.
+            for (const present::SheetPlace& place : m_controller.sheets().buttons()) {
+                root.children.push_back(placeToPress(place));
+                if (place.key != kGuideButton) {
+                    root.children.back().role = Role::Link;
+                }
             }
         }
         root.children.push_back(status());
@@ -333,8 +338,8 @@ private:
 
 std::string_view nameOf(AccessibleRole role)
 {
-    constexpr std::array<std::string_view, 8> kNames { "pane", "dialog", "list", "list item",
-        "button", "text", "image", "status" };
+    constexpr std::array<std::string_view, 9> kNames { "pane", "dialog", "list", "list item",
+        "button", "text", "image", "status", "link" };
     return kNames.at(static_cast<std::size_t>(role));
 }
 

@@ -11,9 +11,9 @@ namespace veyrand::controller {
 
 class GameController;
 
-enum class AccessibleRole { Pane, Dialog, List, ListItem, Button, Text, Image, Status };
+enum class AccessibleRole { Pane, Dialog, List, ListItem, Button, Text, Image, Status, Link };
 
-// "pane", "dialog", "list", "list item", "button", "text", "image", "status".
+// "pane", "dialog", "list", "list item", "button", "text", "image", "status", "link".
 [[nodiscard]] std::string_view nameOf(AccessibleRole role);
 
 // Something that can be done with a thing: by its name, which is the same in every language, or by

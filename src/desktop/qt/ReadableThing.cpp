@@ -100,6 +100,8 @@ QAccessible::Role ReadableThing::role() const
         return QAccessible::Graphic;
     case AccessibleRole::Status:
         return QAccessible::Notification;
+    case AccessibleRole::Link:
+        return QAccessible::Link;
     case AccessibleRole::Pane:
         break;
     }

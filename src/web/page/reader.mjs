@@ -6,6 +6,7 @@ const roles = { pane: 'group', dialog: 'dialog', list: 'list', 'list item': 'lis
   text: 'paragraph', image: 'img' };
 
 const idOf = (id) => `read-${id}`;
+const isPressedAsAWhole = (node) => node.role === 'button' || node.role === 'link';
 
 export class Reader {
   constructor({ root, spoken, canvas, act }) {
@@ -55,7 +56,7 @@ export class Reader {
       }
       known.delete(node.id);
       before = element;
-      if (node.role !== 'button') {
+      if (!isPressedAsAWhole(node)) {
         this.children(element, children);
       }
     }
@@ -70,7 +71,7 @@ export class Reader {
   }
 
   kindOf(node) {
-    return node.role === 'button' ? 'button' : 'div';
+    return isPressedAsAWhole(node) ? 'button' : 'div';
   }
 
   describe(element, node) {
@@ -82,7 +83,8 @@ export class Reader {
       });
     }
     element.classList.toggle('placed', Boolean(node.place) && node.role !== 'list' && node.role !== 'dialog');
-    if (node.role === 'button') {
+    if (isPressedAsAWhole(node)) {
+      element.setAttribute('role', node.role);
       this.makeButton(element, node, name, node.actions[0]);
       return;
     }
