@@ -5,6 +5,7 @@
 #include "progress/Settings.h"
 #include "support/HeadlessPlay.h"
 
+#include <algorithm>
 #include <cctype>
 #include <gmock/gmock.h>
 #include <map>
@@ -90,6 +91,52 @@ TEST_F(GermanGame, HasTheWordsOfTheWholeMenuInItsFiles)
             EXPECT_TRUE(texts.isTranslated(std::string("GameMenu.") + item.text)) << item.text;
         }
     }
+}
+
+// "Game > Puzzles", "Settings > Say Why": what a page calls a menu, and an item of it, is what they
+// are called.
+TEST_F(GermanGame, NamesMenusOnItsPagesAsTheyAreCalled)
+{
+    constexpr std::string_view kTo = " > ";
+    const std::string points = "…";
+    unsigned cited = 0;
+    for (const language::Name& spoken : language::kLanguages) {
+        choose(std::string(spoken.code));
+        const language::Texts& texts = game().game().texts();
+        std::vector<std::string> paths;
+        const auto add = [&](const char* section, const char* of, const char* text) {
+            std::string path = plainMenuText(texts.localized(section, of)) + std::string(kTo)
+                + plainMenuText(texts.localized(section, text));
+            path.resize(path.size() - (path.ends_with(points) ? points.size() : 0));
+            paths.push_back(std::move(path));
+        };
+        for (const MenuItem& item : menuItems()) {
+            for (const MenuTitle& title : menuTitles()) {
+                if (item.menu == title.id && std::string_view(item.text) != "") {
+                    add("GameMenu", title.text, item.text);
+                }
+            }
+        }
+        for (const SettingItem& item : settingItems()) {
+            add("SettingsWindow", kSettingsTitle, item.text);
+        }
+        texts.forEachPage([&](const std::string& page) {
+            const auto* const own = texts.page(page);
+            for (const std::string& words : own != nullptr ? *own : *texts.englishPage(page)) {
+                for (std::size_t at = words.find(kTo); at != std::string::npos;
+                     at = words.find(kTo, at + 1)) {
+                    const std::size_t blank = words.rfind(' ', at - 1);
+                    const auto cite = std::string_view(words).substr(
+                        blank == std::string::npos ? 0 : blank + 1);
+                    EXPECT_TRUE(std::any_of(paths.begin(), paths.end(),
+                        [cite](const std::string& path) { return cite.starts_with(path); }))
+                        << spoken.code << ' ' << page << ": " << words;
+                    ++cited;
+                }
+            }
+        });
+    }
+    EXPECT_GT(cited, 20U);
 }
 
 // Alt and one letter open an item, so no two of a menu may have the same.
