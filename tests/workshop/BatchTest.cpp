@@ -153,6 +153,14 @@ TEST(BatchErrors, AreAnsweredAndTheNextLineGoesOn)
     EXPECT_EQ(documents[7]["sequence"], "0");
 }
 
+TEST(BatchErrors, AQuotationMarkKeepsBlanksTogetherAndIsClosed)
+{
+    EXPECT_EQ(ask("code --read \" 37t8 649f-2mej \""),
+        json(R"({"start": "YBRGRRR", "goal": "RBYGGGBBG"})"));
+    EXPECT_EQ(ask("code \"YR\" YRG"), json(R"("38RTWET")"));
+    EXPECT_EQ(ask("code \"YR YRG"), json(R"({"error": "a quotation mark is not closed"})"));
+}
+
 TEST(BatchHelp, IsAnAnswerLikeAnyOther)
 {
     const Json one = ask("solve --help");

@@ -3,20 +3,38 @@
 #include "Command.h"
 
 #include <algorithm>
+#include <cctype>
 #include <istream>
 #include <ostream>
-#include <sstream>
 
 namespace veyrand::workshop {
 
 namespace {
 
+// Blanks part words but for those between quotation marks, where there may be no word at all.
 std::vector<std::string> wordsOf(const std::string& line)
 {
-    std::istringstream stream(line);
     std::vector<std::string> words;
-    for (std::string word; stream >> word;) {
-        words.push_back(word == "\"\"" ? std::string() : word);
+    bool isQuoted = false;
+    bool isParted = true;
+    for (const char letter : line) {
+        const bool isMark = letter == '"';
+        if (!isQuoted && !isMark && std::isspace(static_cast<unsigned char>(letter)) != 0) {
+            isParted = true;
+            continue;
+        }
+        if (isParted) {
+            words.emplace_back();
+            isParted = false;
+        }
+        if (isMark) {
+            isQuoted = !isQuoted;
+        } else {
+            words.back() += letter;
+        }
+    }
+    if (isQuoted) {
+        throw UsageError("a quotation mark is not closed");
     }
     return words;
 }
