@@ -151,7 +151,18 @@ Json Scenario::daily(const Arguments& arguments)
 
 Json Scenario::edit(const Arguments& arguments)
 {
-    game().controller().shelf().setDraft({ arguments.text(0), arguments.text(1) });
+    const std::string start = arguments.text(0);
+    const std::string goal = arguments.text(1);
+    for (const std::string& line : { start, goal }) {
+        if (line.size() > play::kMostChips
+            || line.find_first_not_of(engine::PackedLine::kLetters) != std::string::npos) {
+            throw std::invalid_argument(line + " is no line of the board");
+        }
+    }
+    if (!start.empty() && start.rfind('Y') != 0) {
+        throw std::invalid_argument(start + " is no start line: one yellow leads");
+    }
+    game().controller().shelf().setDraft({ start, goal });
     game().controller().sheets().openEditor();
     return {};
 }
