@@ -1,6 +1,5 @@
 #include "app/Gallery.h"
 
-#include "app/GalleryResults.h"
 #include "app/SheetPictures.h"
 #include "app/VirtualGame.h"
 #include "progress/PlayerKeys.h"
@@ -142,7 +141,6 @@ public:
         paintAnswers();
         paintRewards();
         paintEdges();
-        showSheets(m_game, [this](const std::string& name) { take(name); });
         paintSheets();
         paintOtherStones();
         return m_complete;
@@ -340,31 +338,23 @@ private:
         m_game.resize(usual);
     }
 
-    // The pages that lie over the board, of somebody who has played for a while.
+    // The pages that lie over the board, at the pictures' size; and once more at four others, by
+    // whose names they go.
     void paintSheets()
     {
-        controller::Sheets& sheets = m_game.controller().sheets();
-        save({ .picture = "", .level = 6, .stage = 7, .endlessScore = 0, .unlocked = true });
         m_game.launch();
-        m_game.controller().flow().returnToMenu();
-        m_game.controller().book().join(resultsToShow(m_game.controller()));
-        const auto paint = [this](const char* picture) {
-            m_game.wait(kEverythingHasFadedIn);
-            take(picture);
-        };
-        sheets.openDaily();
-        paint("sheet-daily");
-        m_game.controller().shelf().setDraft({ "YBRGG", "RBBR" });
-        sheets.openEditor();
-        paint("sheet-editor");
-        for (const char* const code : { "37T8649F2MEJ", "38RTWET", "33745HP64M4P" }) {
-            m_game.controller().shelf().add(code);
+        const auto takes = [this](const std::string& name) { take(name); };
+        showSheets(m_game, takes);
+        showSheetsAtTheirEnds(m_game, takes);
+        const QSize usual = m_game.widget().size();
+        for (const QSize size :
+            { QSize(1024, 768), QSize(1280, 800), QSize(1920, 1080), QSize(3840, 2160) }) {
+            m_game.resize(size);
+            const std::string suffix
+                = '-' + std::to_string(size.width()) + 'x' + std::to_string(size.height());
+            showSheets(m_game, [&](const std::string& name) { take(name + suffix); });
         }
-        sheets.openMine();
-        paint("sheet-my-puzzles");
-        sheets.openStatistics();
-        paint("sheet-statistics");
-        sheets.close();
+        m_game.resize(usual);
     }
 
     void click(const std::string& key)

@@ -1,112 +1,205 @@
 #include "app/SheetPictures.h"
 
+#include "app/GalleryResults.h"
 #include "app/VirtualGame.h"
-#include "play/Trail.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
-#include "progress/RuleSets.h"
-
-#include <algorithm>
+#include "progress/Settings.h"
 
 namespace veyrand::app {
 
 namespace {
 
-using engine::PackedLine;
-using play::MoveSet;
-using progress::Place;
-
 constexpr double kEverythingHasFadedIn = 3.0;
-constexpr Place kStanding { 6, 7 };
-constexpr Place kRoundabout { 5, 8 }; // whose solution leaves the shortest ways
 
-std::vector<play::Move> movesOf(const std::vector<PackedLine>& lines, MoveSet open)
-{
-    std::vector<play::Move> moves;
-    for (std::size_t i = 1; i < lines.size(); ++i) {
-        const MoveSet now = play::movesWith(static_cast<unsigned>(i)) & open;
-        moves.push_back(play::moveBetween(lines[i - 1], lines[i], now).value_or(play::Move {}));
+// Opens the pages on a game and has their pictures taken.
+class SheetShow {
+public:
+    SheetShow(VirtualGame& game, const TakePicture& take)
+        : m_game(game)
+        , m_controller(game.controller())
+        , m_sheets(game.controller().sheets())
+        , m_take(take)
+    {
     }
-    return moves;
-}
 
-// As a player solves it who takes a way round after the second move; or at par.
-std::vector<play::Move> solutionOf(
-    const progress::CatalogueEntry& entry, MoveSet open, bool goesRound)
-{
-    play::WaySearch search;
-    const PackedLine goal = PackedLine::pack(entry.goal).value();
-    const auto ways = search.find(PackedLine::pack(entry.root).value(), goal, 1, open);
-    std::vector<PackedLine> way = ways->way(0);
-    constexpr std::size_t kKept = 2;
-    if (goesRound && way.size() > kKept + 1) {
-        for (const play::Step& step : play::stepsFrom(way[kKept - 1], open)) {
-            const auto on = search.find(step.line, goal, kKept + 1, open);
-            if (on && on->moves() + kKept + 1 > way.size()) {
-                way.resize(kKept);
-                const auto rest = on->way(0);
-                way.insert(way.end(), rest.begin(), rest.end());
-                break;
+    void asPlayer(const Career& career)
+    {
+        m_sheets.close();
+        m_controller.flow().returnToMenu();
+        m_game.preferences().setRecord(progress::playerRecordKey(progress::kDefaultPlayerName),
+            progress::storedRecord({ .level = career.standing.level,
+                .stage = career.standing.stage,
+                .score = 850,
+                .firstHintClick = true }));
+        m_controller.book().replace(resultsToShow(m_controller, career));
+        m_controller.shelf().replace({});
+    }
+
+    void map(const char* picture)
+    {
+        m_sheets.openMap();
+        show(picture);
+    }
+
+    void replay()
+    {
+        m_sheets.openMap();
+        m_sheets.openReplay(play::nameOf(kRoundabout));
+        m_sheets.key("Right");
+        m_sheets.key("Right");
+        show("sheet-replay");
+        m_sheets.key("PgDown");
+        m_sheets.key("End");
+        show("sheet-replay-shortest");
+    }
+
+    void longReplay()
+    {
+        const progress::Place place { 5, 9 };
+        const auto* const entry = m_controller.practice().entryAt(place);
+        if (entry == nullptr) {
+            return;
+        }
+        play::Results results;
+        results.add(play::nameOf(place), longSolution({ entry->root, entry->goal }));
+        m_controller.book().replace(results);
+        m_sheets.openReplay(play::nameOf(place));
+        m_sheets.key("End");
+        show("sheet-replay-long");
+    }
+
+    void daily(const char* picture)
+    {
+        m_sheets.openDaily();
+        show(picture);
+    }
+
+    // The month before, and a day that was missed.
+    void dailyOfAnotherMonth()
+    {
+        m_sheets.openDaily();
+        m_sheets.key("PgUp");
+        show("sheet-daily-another-month");
+    }
+
+    void editor(const char* picture, const play::CodedPuzzle& draft)
+    {
+        m_controller.shelf().setDraft(draft);
+        m_sheets.openEditor();
+        show(picture);
+    }
+
+    // A press that came to nothing says why.
+    void editorRefuses()
+    {
+        m_sheets.choose("start-0");
+        show("sheet-editor-refuses");
+    }
+
+    void mine(const char* picture, int count)
+    {
+        for (int number = 0; number < count; ++number) {
+            const auto date = progress::daysAfter(m_controller.book().today(), -2 * number);
+            if (const auto* const puzzle = m_controller.practice().daily().on(date)) {
+                m_controller.shelf().add(play::codeOf(puzzle->root, puzzle->goal).value());
             }
         }
+        m_sheets.openMine();
+        show(picture);
     }
-    return movesOf(way, open);
-}
 
-play::Results someResults(const controller::Practice& practice)
-{
-    play::Results results;
-    for (Place place {}; progress::catalogueIndex(place) < progress::catalogueIndex(kStanding);
-         place = progress::nextPlace(place)) {
-        const auto* const entry = practice.entryAt(place);
-        const std::int64_t index = progress::catalogueIndex(place);
-        if (entry == nullptr || index % 11 == 9) {
-            continue; // solved before results were kept
-        }
-        const MoveSet open = play::openMoves(progress::highestRuleAt(place.level, place.stage));
-        const bool goesRound = place == kRoundabout || index % 4 == 3;
-        results.add(play::nameOf(place),
-            { .puzzle = { entry->root, entry->goal },
-                .par = static_cast<unsigned>(entry->par - 1),
-                .moves = solutionOf(*entry, open, goesRound) });
+    void name()
+    {
+        m_sheets.openMine();
+        m_sheets.key("F2");
+        show("sheet-my-puzzles-name");
+        m_sheets.escape();
     }
-    return results;
-}
+
+    void statistics(const char* picture)
+    {
+        m_sheets.openStatistics();
+        show(picture);
+    }
+
+    void timed()
+    {
+        progress::Settings settings = progress::readSettings(m_game.preferences());
+        settings.timePuzzles = true;
+        progress::writeSettings(m_game.preferences(), settings);
+        statistics("sheet-statistics-timed");
+        m_sheets.openMap();
+        m_sheets.focusOn("puzzle-" + play::nameOf(kRoundabout));
+        show("sheet-map-timed");
+        settings.timePuzzles = false;
+        progress::writeSettings(m_game.preferences(), settings);
+    }
+
+    void guide()
+    {
+        m_sheets.close();
+        static_cast<void>(m_controller.practice().play(kRoundabout));
+        m_game.wait(kEverythingHasFadedIn);
+        m_controller.guide().ask();
+        show("guide-moves-needed");
+        m_controller.flow().returnToMenu();
+        m_sheets.close();
+    }
+
+private:
+    void show(const std::string& picture)
+    {
+        m_game.wait(kEverythingHasFadedIn);
+        m_take(picture);
+    }
+
+    VirtualGame& m_game;
+    controller::GameController& m_controller;
+    controller::Sheets& m_sheets;
+    const TakePicture& m_take;
+};
 
 } // namespace
 
-void showSheets(VirtualGame& game, const std::function<void(const std::string&)>& take)
+void showSheets(VirtualGame& game, const TakePicture& take)
 {
-    game.preferences().setRecord(progress::playerRecordKey(progress::kDefaultPlayerName),
-        progress::storedRecord({ .level = kStanding.level,
-            .stage = kStanding.stage,
-            .score = 850,
-            .firstHintClick = true }));
-    controller::GameController& controller = game.controller();
-    controller.flow().returnToMenu();
-    controller.book().join(someResults(controller.practice()));
-    controller::Sheets& sheets = controller.sheets();
-    const auto show = [&](const std::string& name) {
-        game.wait(kEverythingHasFadedIn);
-        take(name);
-    };
-    sheets.openMap();
-    show("sheet-map");
-    sheets.openReplay(play::nameOf(kRoundabout));
-    sheets.key("Right");
-    sheets.key("Right");
-    show("sheet-replay");
-    sheets.key("PgDown");
-    sheets.key("End");
-    show("sheet-replay-shortest");
-    sheets.close();
+    SheetShow show(game, take);
+    show.asPlayer({});
+    show.map("sheet-map");
+    show.replay();
+    show.daily("sheet-daily");
+    show.editor("sheet-editor", { "YBRGG", "RBBR" });
+    show.mine("sheet-my-puzzles", 3);
+    show.statistics("sheet-statistics");
+    show.guide();
+}
 
-    static_cast<void>(controller.practice().play(kRoundabout));
-    game.wait(kEverythingHasFadedIn);
-    controller.guide().ask();
-    show("guide-moves-needed");
-    controller.flow().returnToMenu();
-    sheets.close();
+void showSheetsAtTheirEnds(VirtualGame& game, const TakePicture& take)
+{
+    SheetShow show(game, take);
+    show.asPlayer({ .standing = {}, .daysInARow = 0 });
+    show.map("sheet-map-at-first");
+    show.daily("sheet-daily-at-first");
+    show.editor("sheet-editor-at-first", {});
+    show.mine("sheet-my-puzzles-none", 0);
+    show.statistics("sheet-statistics-at-first");
+    show.editor("sheet-editor-unreachable", { "YRRRRRRRRRRR", "BBBBBBBBBBBB" });
+    show.editorRefuses();
+    show.editor("sheet-editor-full", { "YRGBRGBRGBRG", "YRGBRGBRGBRG" });
+
+    show.asPlayer({ .standing = { progress::kLastLevel, progress::kLastStage },
+        .isOver = true,
+        .daysInARow = 40 });
+    show.map("sheet-map-all-solved");
+    show.daily("sheet-daily-forty-days");
+    show.dailyOfAnotherMonth();
+    show.mine("sheet-my-puzzles-many", 30);
+    show.name();
+    show.statistics("sheet-statistics-all-solved");
+    show.timed();
+    show.longReplay();
+    show.asPlayer({});
 }
 
 } // namespace veyrand::app

@@ -7,8 +7,14 @@ namespace veyrand::app {
 
 class VirtualGame;
 
-// Shows the sheets one after another, as a player some way into the Classic game finds them, and
-// calls the function for each, with a name for its picture.
-void showSheets(VirtualGame& game, const std::function<void(const std::string&)>& take);
+using TakePicture = std::function<void(const std::string& name)>;
+
+// Shows the pages that lie over the board one after another, as a player some way into the Classic
+// game finds them, and calls the function for each, with a name for its picture. The game's record
+// and results are that player's from then on.
+void showSheets(VirtualGame& game, const TakePicture& take);
+
+// The same pages at their ends: with nothing to show, and with all there can be.
+void showSheetsAtTheirEnds(VirtualGame& game, const TakePicture& take);
 
 } // namespace veyrand::app

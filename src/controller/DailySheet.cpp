@@ -166,10 +166,13 @@ void DailySheet::press(const std::string& key)
         }
     } else if (key == "play") {
         play();
+    } else if (key == "replay") {
+        m_controller.sheets().openReplay(progress::textOf(m_chosen));
     } else if (key == "copy") {
         copy();
     } else if (key == "today") {
         choose(today);
+        m_controller.sheets().focusOn(firstFocus()); // the button has gone
     } else if (key == "month-before" || key == "month-after") {
         turn(key == "month-before" ? -1 : 1);
     } else if (key == "puzzles") {
@@ -262,6 +265,11 @@ void DailySheet::drawMonth(SheetDrawing& drawing) const
         play::daysOf(m_month, m_controller.book().results(), m_controller.book().today())) {
         drawDay(drawing, day);
     }
+    // In the corner that no month comes to.
+    const CalendarDate today = m_controller.book().today();
+    if (m_chosen != today || m_month != play::monthOf(today)) {
+        drawing.button("today", text("today"), 1450, 742, 190, 60);
+    }
 }
 
 // Under each the bars that tell how hard it is.
@@ -292,6 +300,9 @@ void DailySheet::drawDay(SheetDrawing& drawing, const CalendarDay& day) const
     if (day.date == m_chosen) {
         drawing.picture("BarGold", x, y + 45, 52, 5);
     }
+    if (drawing.isFocused(key)) {
+        drawing.picture("PuzzleChosen", x, y, 94, 94); // under the star
+    }
     drawing.picture(picture, x, y, kDay, kDay);
     drawing.words(std::to_string(day.date.day), x, y, isComing ? 26 : 30,
         day.state == CalendarDay::State::AtPar ? Ink::Dark
@@ -300,9 +311,6 @@ void DailySheet::drawDay(SheetDrawing& drawing, const CalendarDay& day) const
     if (day.state == CalendarDay::State::Over) {
         drawing.words(
             '+' + std::to_string(day.over), x + 23, y - 21, 19, Ink::Ivory, Align::Middle, 25);
-    }
-    if (drawing.isFocused(key)) {
-        drawing.picture("PuzzleChosen", x, y, 94, 94);
     }
     drawing.place(key, nameForPeople(day), x, y, 84, 84);
 }
@@ -324,34 +332,38 @@ void DailySheet::drawPanel(SheetDrawing& drawing) const
                       { { "weekday", wordOf(text("longWeekdays"), progress::weekdayOf(m_chosen)) },
                           { "day", std::to_string(m_chosen.day) },
                           { "month", wordOf(text("months"), m_chosen.month - 1) } }),
-        295, 148, 33, Ink::Ivory, Align::Middle, 480);
+        SheetDrawing::kPanelMiddle, 148, 33, Ink::Ivory, Align::Middle, 480);
     drawCard(drawing);
-    drawing.button("play", text("play"), 180, 530, 232, 74, SheetDrawing::Button::Main);
-    drawing.button("today", text("today"), 422, 530, 232, 74);
+    drawing.button(
+        "play", text("play"), SheetDrawing::kFirstColumn, 530, 232, 74, SheetDrawing::Button::Main);
+    if (m_controller.book().toReplay(progress::textOf(m_chosen)) != nullptr) {
+        drawing.button("replay", m_controller.context().texts.text("practice.replay"),
+            SheetDrawing::kSecondColumn, 530, 232, 74);
+    }
     drawStreak(drawing);
-    drawing.button("puzzles", text("puzzles"), 180, 892, 232, 66);
-    drawing.button("menu", text("menu"), 422, 892, 232, 66);
+    drawing.button("puzzles", text("puzzles"), SheetDrawing::kFirstColumn, 892, 232, 66);
+    drawing.button("menu", text("menu"), SheetDrawing::kSecondColumn, 892, 232, 66);
 }
 
 void DailySheet::drawCard(SheetDrawing& drawing) const
 {
     constexpr double kPitch = 34.0; // twelve fit
-    drawing.card(295, 332, 474, 282);
+    drawing.card(SheetDrawing::kPanelMiddle, 332, 474, 282);
     const auto* const puzzle = m_controller.practice().daily().on(m_chosen);
     if (puzzle == nullptr) {
         return;
     }
     const auto& texts = m_controller.context().texts;
-    drawing.words(texts.text("practice.from"), 92, 226, 27, Ink::Dark, Align::Left);
-    drawing.chips(puzzle->root, 90, 264, kPitch);
-    drawing.words(texts.text("practice.to"), 92, 314, 27, Ink::Dark, Align::Left);
-    drawing.chips(puzzle->goal, 90, 352, kPitch);
-    drawing.words(state(), 295, 426, 33, Ink::Dark, Align::Middle, 420);
+    drawing.words(texts.text("practice.from"), 98, 230, 27, Ink::Dark, Align::Left);
+    drawing.chips(puzzle->root, 96, 269, kPitch);
+    drawing.words(texts.text("practice.to"), 98, 318, 27, Ink::Dark, Align::Left);
+    drawing.chips(puzzle->goal, 96, 357, kPitch);
+    drawing.words(state(), SheetDrawing::kPanelMiddle, 424, 33, Ink::Dark, Align::Middle, 420);
 }
 
 void DailySheet::drawStreak(SheetDrawing& drawing) const
 {
-    constexpr double kX = 295.0;
+    constexpr double kX = SheetDrawing::kPanelMiddle;
     constexpr double kY = 704.0;
     constexpr int kMostStars = 10;
     constexpr double kStarsApart = 16.0; // degrees

@@ -92,13 +92,15 @@ void EditorSheet::drawVerdict(SheetDrawing& drawing) const
         drawing.words(text("build"), 1097, 613, 42, Ink::Ivory, Align::Middle, 780);
         return;
     }
-    drawing.picture(m_verdict->isReachable ? "Checkmark" : "NotReachable", 742, 404, 56, 56);
-    drawing.words(text(m_verdict->isReachable ? "reachable" : "unreachable"), 790, 404, 42,
-        Ink::Ivory, Align::Left, 690);
-    drawing.picture("HorizontalLine", 1097, 448, 800, 3);
     if (m_verdict->isReachable) {
+        drawing.picture("Checkmark", 742, 404, 56, 56);
+        drawing.words(text("reachable"), 790, 404, 42, Ink::Ivory, Align::Left, 690);
+        drawing.picture("HorizontalLine", 1097, 448, 800, 3);
         drawFigures(drawing);
         drawNeeded(drawing);
+    } else {
+        drawing.picture("NotReachable", 1097, 512, 112, 112);
+        drawing.words(text("unreachable"), 1097, 632, 42, Ink::Ivory, Align::Middle, 780);
     }
     drawing.words(m_controller.context().texts.text("practice.code", { { "code", code() } }),
         kPaneLeft, 822, 30, Ink::Gold, Align::Left, 540);
@@ -123,11 +125,11 @@ void EditorSheet::drawNeeded(SheetDrawing& drawing) const
 {
     drawing.words(text("needs"), kPaneLeft, 640, 33, Ink::Ivory, Align::Left, 320);
     for (unsigned move = 1; move <= progress::kMoveCount; ++move) {
-        const double x = 1079.0 + 67.8 * (move - 1);
+        const double x = 1082.0 + 63.0 * (move - 1);
         const bool isNeeded = std::find(m_verdict->needed.begin(), m_verdict->needed.end(), move)
             != m_verdict->needed.end();
         drawing.picture(
-            isNeeded ? "MoveTag" : "DayComing", x, 640, isNeeded ? 60 : 66, isNeeded ? 60 : 66);
+            isNeeded ? "MoveTag" : "DayComing", x, 640, isNeeded ? 56 : 62, isNeeded ? 56 : 62);
         drawing.words('#' + std::to_string(move), x, 639, isNeeded ? 27 : 24,
             isNeeded ? Ink::Dark : Ink::Pale);
     }
@@ -148,7 +150,7 @@ void EditorSheet::drawNeeded(SheetDrawing& drawing) const
 
 void EditorSheet::drawPalette(SheetDrawing& drawing) const
 {
-    double x = 118.0;
+    double x = 124.0;
     for (const char chip : kPalette) {
         const std::string key = std::string("chip-") + chip;
         const bool isChosen = chip == m_chip;
@@ -171,8 +173,8 @@ void EditorSheet::drawPalette(SheetDrawing& drawing) const
 void EditorSheet::drawNumber(SheetDrawing& drawing, const char* what, unsigned number, double y,
     const std::string& key) const
 {
-    drawing.words(text(what), 84, y, 33, Ink::Ivory, Align::Left, 140);
-    drawing.words(std::to_string(number), 360, y, 42, Ink::Ivory);
+    drawing.words(text(what), 90, y, 33, Ink::Ivory, Align::Left, 140);
+    drawing.words(std::to_string(number), 366, y, 42, Ink::Ivory);
     const auto arrow = [&](const std::string& end, const char* picture, double x,
                            const char* said) {
         drawing.button(key + end, {}, x, y, 66, 58);
@@ -181,23 +183,26 @@ void EditorSheet::drawNumber(SheetDrawing& drawing, const char* what, unsigned n
         drawing.nameLastPlace(
             text(said, { { "what", text(what) }, { "number", std::to_string(number) } }));
     };
-    arrow("-less", "Back", 262, "saidLess");
-    arrow("-more", "On", 458, "saidMore");
+    arrow("-less", "Back", 268, "saidLess");
+    arrow("-more", "On", 464, "saidMore");
 }
 
 void EditorSheet::drawPanel(SheetDrawing& drawing) const
 {
     drawing.title(title());
     drawPalette(drawing);
-    drawing.button("take-back", text("takeBack"), 295, 342, 474, 70);
-    drawing.words(text("random"), 295, 422, 33, Ink::Gold, Align::Middle, 300);
+    drawing.button("take-back", text("takeBack"), SheetDrawing::kPanelMiddle, 342, 474, 70);
+    drawing.words(
+        text("random"), SheetDrawing::kPanelMiddle, 422, 33, Ink::Gold, Align::Middle, 300);
     drawNumber(drawing, "par", m_wish.par, 486, "par");
     drawNumber(drawing, "bits", m_wish.bits, 560, "bits");
-    drawing.button("make", text(m_isMaking ? "stop" : "make"), 295, 646, 474, 70);
-    drawing.button("play", text("play"), 180, 778, 232, 74, SheetDrawing::Button::Main);
-    drawing.button("save", text("save"), 422, 778, 232, 74);
-    drawing.button("mine", text("mine"), 180, 866, 232, 66);
-    drawing.button("puzzles", text("puzzles"), 422, 866, 232, 66);
+    drawing.button(
+        "make", text(m_isMaking ? "stop" : "make"), SheetDrawing::kPanelMiddle, 646, 474, 70);
+    drawing.button(
+        "play", text("play"), SheetDrawing::kFirstColumn, 778, 232, 74, SheetDrawing::Button::Main);
+    drawing.button("save", text("save"), SheetDrawing::kSecondColumn, 778, 232, 74);
+    drawing.button("mine", text("mine"), SheetDrawing::kFirstColumn, 866, 232, 66);
+    drawing.button("puzzles", text("puzzles"), SheetDrawing::kSecondColumn, 866, 232, 66);
 }
 
 } // namespace veyrand::controller

@@ -1,6 +1,8 @@
 #include "controller/MapSheet.h"
 
 #include "controller/GameController.h"
+#include "controller/StatisticsSheet.h"
+#include "progress/Settings.h"
 
 namespace veyrand::controller {
 
@@ -85,6 +87,8 @@ void MapSheet::press(const std::string& key)
         pasteCode();
     } else if (key == "editor") {
         m_controller.sheets().openEditor();
+    } else if (key == "statistics") {
+        m_controller.sheets().openStatistics();
     } else if (key == "menu") {
         m_controller.sheets().close();
     }
@@ -231,38 +235,61 @@ void MapSheet::drawPanel(SheetDrawing& drawing, const Known& known) const
 {
     const play::Statistics& statistics = known.statistics;
     drawing.title(text("puzzles"));
-    drawing.words(text("solvedOf", { { "solved", std::to_string(statistics.solved) } }), 295, 152,
-        38, Ink::Ivory, Align::Middle, 480);
-    drawing.words(text("countAtPar", { { "stars", std::to_string(statistics.atPar) } }), 295, 200,
-        34, Ink::Gold);
+    drawing.words(text("solvedOf", { { "solved", std::to_string(statistics.solved) } }),
+        SheetDrawing::kPanelMiddle, 152, 38, Ink::Ivory, Align::Middle, 480);
+    drawing.words(text("countAtPar", { { "stars", std::to_string(statistics.atPar) } }),
+        SheetDrawing::kPanelMiddle, 200, 34, Ink::Gold);
     drawCard(drawing);
-    drawing.button("play", text("play"), 180, 690, 232, 74, SheetDrawing::Button::Main);
-    if (m_controller.practice().isSolved(m_chosen)) {
-        drawing.button("replay", text("replay"), 422, 690, 232, 74);
+    const bool isReached = m_controller.practice().isReached(m_chosen);
+    if (isReached) {
+        drawing.button("play", text("play"), SheetDrawing::kFirstColumn, 690, 232, 74,
+            SheetDrawing::Button::Main);
     }
-    drawing.button("daily", text("daily"), 180, 768, 232, 66);
-    drawing.button("editor", m_controller.context().texts.text("editor.title"), 422, 768, 232, 66);
-    drawing.button("copy-code", text("copyCode"), 180, 842, 232, 66);
-    drawing.button("paste-code", text("pasteCode"), 422, 842, 232, 66);
-    drawing.button("menu", text("menu"), 422, 916, 232, 66);
+    if (m_controller.practice().isSolved(m_chosen)) {
+        drawing.button("replay", text("replay"), SheetDrawing::kSecondColumn, 690, 232, 74);
+    }
+    drawing.button("daily", text("daily"), SheetDrawing::kFirstColumn, 768, 232, 66);
+    drawing.button("editor", m_controller.context().texts.text("editor.title"),
+        SheetDrawing::kSecondColumn, 768, 232, 66);
+    if (isReached) {
+        drawing.button("copy-code", text("copyCode"), SheetDrawing::kFirstColumn, 842, 232, 66);
+    }
+    drawing.button("paste-code", text("pasteCode"), SheetDrawing::kSecondColumn, 842, 232, 66);
+    drawing.button("statistics", m_controller.context().texts.text("statistics.title"),
+        SheetDrawing::kFirstColumn, 916, 232, 66);
+    drawing.button("menu", text("menu"), SheetDrawing::kSecondColumn, 916, 232, 66);
+}
+
+// Where the player wants to know it, and it is known.
+std::string MapSheet::timeOfChosen() const
+{
+    const GameContext& game = m_controller.context();
+    const play::Result* const result = m_controller.book().results().of(play::nameOf(m_chosen));
+    return result != nullptr && result->seconds > 0
+            && progress::readSettings(game.preferences).timePuzzles
+        ? durationWords(game.texts, result->seconds)
+        : std::string();
 }
 
 void MapSheet::drawCard(SheetDrawing& drawing) const
 {
     const Practice& practice = m_controller.practice();
-    drawing.card(295, 440, 474, 388);
-    drawing.words(text("puzzle", { { "name", play::nameOf(m_chosen) } }), 295, 292, 42, Ink::Dark,
-        Align::Middle, 420);
+    drawing.card(SheetDrawing::kPanelMiddle, 440, 474, 388);
+    drawing.words(text("puzzle", { { "name", play::nameOf(m_chosen) } }),
+        SheetDrawing::kPanelMiddle, 292, 42, Ink::Dark, Align::Middle, 420);
     const auto* const entry = practice.entryAt(m_chosen);
     if (entry == nullptr || !practice.isReached(m_chosen)) {
-        drawing.words(text("notReached"), 295, 440, 32, Ink::Dark);
+        drawing.words(text("notReached"), SheetDrawing::kPanelMiddle, 440, 32, Ink::Dark);
         return;
     }
     constexpr double kPitch = 34.0; // twelve fit
-    drawing.words(text("from"), 92, 344, 29, Ink::Dark, Align::Left);
-    drawing.chips(entry->root, 90, 386, kPitch);
-    drawing.words(text("to"), 92, 432, 29, Ink::Dark, Align::Left);
-    drawing.chips(entry->goal, 90, 474, kPitch);
+    drawing.words(text("from"), 98, 344, 29, Ink::Dark, Align::Left);
+    if (const std::string time = timeOfChosen(); !time.empty()) {
+        drawing.words(time, 504, 344, 27, Ink::Dark, Align::Right, 240);
+    }
+    drawing.chips(entry->root, 96, 386, kPitch);
+    drawing.words(text("to"), 98, 432, 29, Ink::Dark, Align::Left);
+    drawing.chips(entry->goal, 96, 474, kPitch);
     const std::int64_t par = entry->par - 1;
     const play::Result* const result = m_controller.book().results().of(play::nameOf(m_chosen));
     const std::string state = result != nullptr
@@ -271,9 +298,9 @@ void MapSheet::drawCard(SheetDrawing& drawing) const
                 { "par", std::to_string(par) } })
         : text(practice.isSolved(m_chosen) ? "parSolved" : "parYours",
             { { "par", std::to_string(par) } });
-    drawing.words(state, 295, 546, 32, Ink::Dark, Align::Middle, 420);
-    drawing.words(
-        text("code", { { "code", codeOfChosen() } }), 295, 594, 29, Ink::Dark, Align::Middle, 420);
+    drawing.words(state, SheetDrawing::kPanelMiddle, 546, 32, Ink::Dark, Align::Middle, 420);
+    drawing.words(text("code", { { "code", codeOfChosen() } }), SheetDrawing::kPanelMiddle, 594, 29,
+        Ink::Dark, Align::Middle, 420);
 }
 
 } // namespace veyrand::controller

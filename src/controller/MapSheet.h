@@ -38,6 +38,7 @@ private:
     [[nodiscard]] std::string nameForPeople(
         const progress::Place& place, const progress::Place& standing) const;
     [[nodiscard]] std::string codeOfChosen() const;
+    [[nodiscard]] std::string timeOfChosen() const;
     void pasteCode();
 
     GameController& m_controller;

@@ -310,7 +310,7 @@ void MineSheet::drawRows(SheetDrawing& drawing) const
 {
     const auto& all = m_controller.shelf().puzzles().all();
     if (all.empty()) {
-        drawing.words(text("empty"), kListX, 460, 34, Ink::Ivory, Align::Middle, 840);
+        drawing.paragraph(text("empty"), kListX, 460, 38, Ink::Ivory, 660);
         return;
     }
     for (std::size_t row = 0; row < kRows && m_page * kRows + row < all.size(); ++row) {
@@ -343,8 +343,8 @@ void MineSheet::drawRow(SheetDrawing& drawing, const play::MyPuzzle& puzzle, dou
             drawing.picture("BarPlain", kListX, y + edge, 872, 4);
         }
     }
-    drawing.words(puzzle.name, 690, y - 12, 34, Ink::Ivory, Align::Left, 560);
-    drawing.words(puzzle.code, 690, y + 24, 23, Ink::Pale, Align::Left, 560);
+    drawing.words(puzzle.name, 690, y - 15, 34, Ink::Ivory, Align::Left, 560);
+    drawing.words(puzzle.code, 690, y + 20, 23, Ink::Pale, Align::Left, 560);
     drawing.words(stateOf(puzzle), result != nullptr && result->over() == 0 ? 1470 : 1510, y, 26,
         Ink::Ivory, Align::Right, 250);
     if (result != nullptr && result->over() == 0) {
@@ -376,41 +376,43 @@ void MineSheet::drawPanel(SheetDrawing& drawing) const
 {
     const auto count = static_cast<std::int64_t>(m_controller.shelf().puzzles().all().size());
     drawing.title(title());
-    drawing.words(
-        text("count", { { "number", count } }), 295, 150, 33, Ink::Ivory, Align::Middle, 470);
+    drawing.words(text("count", { { "number", count } }), SheetDrawing::kPanelMiddle, 150, 33,
+        Ink::Ivory, Align::Middle, 470);
     drawCard(drawing);
     if (m_newName) {
         return;
     }
     if (chosen() != nullptr) {
-        drawing.button("play", text("play"), 180, 606, 232, 74, SheetDrawing::Button::Main);
-        drawing.button("edit", text("edit"), 422, 606, 232, 74);
-        drawing.button("rename", text("rename"), 180, 694, 232, 66);
-        drawing.button("remove", text("remove"), 422, 694, 232, 66);
-        drawing.button("copy-code", text("copyCode"), 180, 780, 232, 66);
+        drawing.button("play", text("play"), SheetDrawing::kFirstColumn, 606, 232, 74,
+            SheetDrawing::Button::Main);
+        drawing.button("edit", text("edit"), SheetDrawing::kSecondColumn, 606, 232, 74);
+        drawing.button("rename", text("rename"), SheetDrawing::kFirstColumn, 694, 232, 66);
+        drawing.button("remove", text("remove"), SheetDrawing::kSecondColumn, 694, 232, 66);
+        drawing.button("copy-code", text("copyCode"), SheetDrawing::kFirstColumn, 780, 232, 66);
     }
-    drawing.button("paste-code", text("pasteCode"), 422, 780, 232, 66);
-    drawing.button("editor", text("editor"), 180, 866, 232, 66);
-    drawing.button("menu", text("menu"), 422, 866, 232, 66);
+    drawing.button("paste-code", text("pasteCode"), SheetDrawing::kSecondColumn, 780, 232, 66);
+    drawing.button("editor", text("editor"), SheetDrawing::kFirstColumn, 866, 232, 66);
+    drawing.button("menu", text("menu"), SheetDrawing::kSecondColumn, 866, 232, 66);
 }
 
 void MineSheet::drawCard(SheetDrawing& drawing) const
 {
     constexpr double kPitch = 34.0; // twelve fit
-    drawing.card(295, 384, 474, 282);
     const auto* const puzzle = chosen();
     if (puzzle == nullptr) {
         return;
     }
+    drawing.card(SheetDrawing::kPanelMiddle, 384, 474, 282);
     const auto read = play::readCode(puzzle->code);
     const auto& lines = std::get<play::CodedPuzzle>(read);
     const auto& texts = m_controller.context().texts;
-    drawing.words(puzzle->name, 295, 274, 33, Ink::Dark, Align::Middle, 430);
-    drawing.words(texts.text("practice.from"), 92, 316, 25, Ink::Dark, Align::Left);
-    drawing.chips(lines.root, 90, 350, kPitch);
-    drawing.words(texts.text("practice.to"), 92, 396, 25, Ink::Dark, Align::Left);
-    drawing.chips(lines.goal, 90, 430, kPitch);
-    drawing.words(stateOf(*puzzle), 295, 484, 28, Ink::Dark, Align::Middle, 430);
+    drawing.words(puzzle->name, SheetDrawing::kPanelMiddle, 274, 33, Ink::Dark, Align::Middle, 430);
+    drawing.words(texts.text("practice.from"), 98, 316, 25, Ink::Dark, Align::Left);
+    drawing.chips(lines.root, 96, 350, kPitch);
+    drawing.words(texts.text("practice.to"), 98, 396, 25, Ink::Dark, Align::Left);
+    drawing.chips(lines.goal, 96, 430, kPitch);
+    drawing.words(
+        stateOf(*puzzle), SheetDrawing::kPanelMiddle, 484, 28, Ink::Dark, Align::Middle, 430);
 }
 
 } // namespace veyrand::controller

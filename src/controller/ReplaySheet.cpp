@@ -295,34 +295,35 @@ void ReplaySheet::drawPanel(SheetDrawing& drawing) const
 {
     constexpr double kRoom = 430.0;
     drawing.title(text("title"));
-    drawing.words(headline(), 295, 148, 35, Ink::Ivory, Align::Middle, 480);
-    drawing.words(whose(), 295, 192, 31, Ink::Gold, Align::Middle, 480);
-    drawing.pane(295, 353, 490, 262);
+    drawing.words(headline(), SheetDrawing::kPanelMiddle, 148, 35, Ink::Ivory, Align::Middle, 480);
+    drawing.words(whose(), SheetDrawing::kPanelMiddle, 192, 31, Ink::Gold, Align::Middle, 480);
+    drawing.pane(SheetDrawing::kPanelMiddle, 353, 490, 262);
     const std::string note = this->note();
     const double lift = note.empty() ? 34.0 : 0.0;
     const std::string head = m_step == 0
         ? text("start")
         : text("move", { { "move", std::to_string(play::labelOf(trail()[m_step].move.rule)) } });
-    drawing.words(head, 295, 262 + lift, 44, Ink::Gold, Align::Middle, kRoom);
-    drawing.paragraph(deed(), 295, 327 + lift, 31, Ink::Ivory, kRoom);
+    drawing.words(
+        head, SheetDrawing::kPanelMiddle, 262 + lift, 44, Ink::Gold, Align::Middle, kRoom);
+    drawing.paragraph(deed(), SheetDrawing::kPanelMiddle, 327 + lift, 31, Ink::Ivory, kRoom);
     if (!note.empty()) {
-        drawing.picture("HorizontalLine", 295, 374, 370, 2);
-        drawing.paragraph(note, 295, 421, 28, Ink::Ivory, kRoom);
+        drawing.picture("HorizontalLine", SheetDrawing::kPanelMiddle, 374, 370, 2);
+        drawing.paragraph(note, SheetDrawing::kPanelMiddle, 421, 28, Ink::Ivory, kRoom);
     }
 }
 
 void ReplaySheet::drawSteps(SheetDrawing& drawing) const
 {
     constexpr double kY = 548.0;
-    drawing.signButton("first", text("first"), "StepFirst", 95, kY, 84, 70);
-    drawing.signButton("back", text("back"), "StepBack", 195, kY, 84, 70);
+    drawing.signButton("first", text("first"), "StepFirst", 101, kY, 84, 70);
+    drawing.signButton("back", text("back"), "StepBack", 201, kY, 84, 70);
     drawing.signButton("run", text(m_isRunning ? "pause" : "run"),
-        m_isRunning ? "StepPause" : "StepRun", 295, kY, 84, 70,
+        m_isRunning ? "StepPause" : "StepRun", SheetDrawing::kPanelMiddle, kY, 84, 70,
         m_isRunning ? SheetDrawing::Button::Main : SheetDrawing::Button::Plain);
-    drawing.signButton("on", text("on"), "StepOn", 395, kY, 84, 70);
-    drawing.signButton("last", text("last"), "StepLast", 495, kY, 84, 70);
+    drawing.signButton("on", text("on"), "StepOn", 401, kY, 84, 70);
+    drawing.signButton("last", text("last"), "StepLast", 501, kY, 84, 70);
 
-    constexpr double kLeft = 62.0;
+    constexpr double kLeft = 68.0;
     constexpr double kWay = 466.0;
     constexpr double kBarY = 626.0;
     const auto moves = static_cast<double>(std::max<std::size_t>(trail().size() - 1, 1));
@@ -338,7 +339,7 @@ void ReplaySheet::drawSteps(SheetDrawing& drawing) const
                                  : "EmptySeat",
             at(step), kBarY, size, size);
     }
-    drawing.words(position(), 295, 674, 29, Ink::Ivory, Align::Middle, 480);
+    drawing.words(position(), SheetDrawing::kPanelMiddle, 674, 29, Ink::Ivory, Align::Middle, 480);
 }
 
 void ReplaySheet::drawChoice(SheetDrawing& drawing) const
@@ -347,20 +348,21 @@ void ReplaySheet::drawChoice(SheetDrawing& drawing) const
     constexpr double kY = 744.0;
     constexpr double kBrowseY = 818.0;
     if (m_subject.yours.size() > 1) {
-        drawing.button(
-            "yours", text("yours"), 180, kY, 232, 66, m_isYours ? Button::Main : Button::Plain);
+        drawing.button("yours", text("yours"), SheetDrawing::kFirstColumn, kY, 232, 66,
+            m_isYours ? Button::Main : Button::Plain);
     }
     if (m_ways) {
-        drawing.button("shortest", text("shortest"), 422, kY, 232, 66,
+        drawing.button("shortest", text("shortest"), SheetDrawing::kSecondColumn, kY, 232, 66,
             m_isYours ? Button::Plain : Button::Main);
-        drawing.words(countOfWays(), 295, kBrowseY, 29, Ink::Pale, Align::Middle, 300);
+        drawing.words(
+            countOfWays(), SheetDrawing::kPanelMiddle, kBrowseY, 29, Ink::Pale, Align::Middle, 300);
         if (m_ways->count() > 1) {
             drawing.signButton("way-before", text("wayBefore"), "StepBack", 97, kBrowseY, 66, 58);
             drawing.signButton("way-after", text("wayAfter"), "StepOn", 505, kBrowseY, 66, 58);
         }
     }
-    drawing.button("play", text("play"), 180, 892, 232, 66);
-    drawing.button("puzzles", text("puzzles"), 422, 892, 232, 66);
+    drawing.button("play", text("play"), SheetDrawing::kFirstColumn, 892, 232, 66);
+    drawing.button("puzzles", text("puzzles"), SheetDrawing::kSecondColumn, 892, 232, 66);
 }
 
 // --- What is pressed

@@ -191,10 +191,10 @@ bool Sheets::showsButton() const
 
 unsigned Sheets::revision() const
 {
+    constexpr unsigned kLit = 2; // a sheet's numbers are beyond: each follows upon a lit button
     if (m_sheet) {
-        return m_revision;
+        return kLit + m_revision;
     }
-    constexpr unsigned kLit = 2;
     return showsButton() ? (m_hovered == kButton ? kLit : 1) : 0;
 }
 
@@ -290,6 +290,7 @@ bool Sheets::hovered(platform::Point place)
         if (m_sheet && !now.empty()) {
             focusOn(now);
         }
+        m_controller.answers().pointerMoved();
         m_game.layers.scene().setNeedsDisplay();
     }
     return m_sheet || !m_hovered.empty();

@@ -1,5 +1,6 @@
 // In practice the board says, when it is asked, how many moves are still needed, or that there is
 // no way on: exactly, and only there.
+include("include/places.js");
 game.start({ journal: true, record: { TRNLevelKey: 5, TRNStageKey: 4, TRNScoreKey: 200, TRNFirstHintClickKey: true } });
 game.wait(3);
 
@@ -50,10 +51,7 @@ game.wait(1);
 // A colour that is gone.
 game.open("37T8649F2MEJ");
 game.wait(3);
-if (game.page()) {
-    game.click([0.8, 0.5]);
-    game.wait(1);
-}
+leavePage();
 equal([game.lines(), game.goal()], [["YBRGRRR"], "RBYGGGBBG"], "a code");
 game.key("N");
 game.wait(1);
@@ -78,10 +76,7 @@ game.start({ record: { TRNLevelKey: 3, TRNStageKey: 4, TRNScoreKey: 200, TRNFirs
 game.wait(3);
 game.practice(3, 4);
 game.wait(3);
-if (game.page()) {
-    game.click([0.8, 0.5]);
-    game.wait(1);
-}
+leavePage();
 equal(game.text("counter-score"), "200", "Classic");
 ok(!game.extras().some((extra) => extra.key === "button-how-far"), "no button");
 game.key("N");
@@ -98,10 +93,7 @@ game.key("Esc");
 game.wait(1);
 game.open(game.clipboard());
 game.wait(3);
-if (game.page()) {
-    game.click([0.8, 0.5]);
-    game.wait(1);
-}
+leavePage();
 game.key("N");
 game.wait(1);
 equal([game.guide(), game.page()], [null, "hintsInClassicMessageWindow"], "it is Classic's");

@@ -1,11 +1,8 @@
 // A solution is looked at again, step by step or running, with a word for each move; it is marked
 // where it left the shortest ways, and they can be looked at too.
+include("include/places.js");
 game.start({ journal: true, record: { TRNLevelKey: 3, TRNStageKey: 4, TRNScoreKey: 200, TRNFirstHintClickKey: true } });
 game.wait(3);
-
-function place(key) {
-    return game.extras().find((extra) => extra.kind === "place" && extra.key === key);
-}
 
 // 1-3 asks for one move; this takes three, and two of them for nothing.
 game.practice(1, 3);
@@ -92,10 +89,7 @@ game.wait(1);
 // Several shortest ways, one after the other: a code that no place on the map has.
 game.open("37T8649F2MEJ");
 game.wait(3);
-if (game.page()) {
-    game.click([0.8, 0.5]);
-    game.wait(1);
-}
+leavePage();
 for (let i = 0; i < 60 && game.sheet() === null; ++i) {
     game.click("button-lightbulbon");
     game.wait(3);
