@@ -9,9 +9,10 @@
 namespace veyrand::app {
 
 // Leaves a picture of every page in the folder, named after the page's operation, and of the title
-// page in its four states, both dialogues, both boards, and a board under the pointer and in the
-// midst of a drag, all of the size and in the language. Off the screen and in virtual time. Returns
-// an exit status and says on standard output what it leaves.
+// page in its four states, both dialogues, both boards, a board under the pointer and in the midst
+// of a drag, and the pages that lie over the board, all of the size and in the language; those of
+// the pages over the board at four other sizes too. Off the screen and in virtual time. Returns an
+// exit status and says on standard output what it leaves.
 int paintGallery(const QString& dataFolder, const QString& pictureFolder, QSize size,
     const std::string& language);
 

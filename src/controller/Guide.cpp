@@ -1,6 +1,7 @@
 #include "controller/Guide.h"
 
 #include "controller/GameController.h"
+#include "present/ExtraWords.h"
 
 namespace veyrand::controller {
 
@@ -163,6 +164,19 @@ std::string Guide::state()
     return (showsButton() ? isLit ? "lit " : "there " : "") + words();
 }
 
+// The plate has room for two lines.
+double Guide::sizeOf(const std::string& said, double room) const
+{
+    constexpr double kUsual = 27.0;
+    constexpr double kSmaller = 0.96;
+    constexpr std::size_t kMostLines = 2;
+    double em = kUsual;
+    while (present::broken(said, room / em, m_game.layers.textMetrics()).size() > kMostLines) {
+        em *= kSmaller;
+    }
+    return em;
+}
+
 void Guide::addTo(std::vector<Extra>& wanted)
 {
     if (m_controller.sheets().isOpen()) {
@@ -189,8 +203,8 @@ void Guide::addTo(std::vector<Extra>& wanted)
         SheetDrawing drawing(m_game.layers.textMetrics(), {});
         drawing.picture("WhisperPlate-560-80", kPlateX, kPlateY, kPlateWidth + 2.0 * kShadow,
             kPlateHeight + 2.0 * kShadow);
-        drawing.paragraph(
-            said, kPlateX, kPlateY, 27, SheetDrawing::Ink::Ivory, kPlateWidth - kSideRoom);
+        drawing.paragraph(said, kPlateX, kPlateY, sizeOf(said, kPlateWidth - kSideRoom),
+            SheetDrawing::Ink::Ivory, kPlateWidth - kSideRoom);
         wanted.push_back({ .kind = present::ExtraKind::Whisper,
             .key = "guide",
             .text = said,

@@ -41,6 +41,7 @@ private:
     void look();
     void lookLater();
     [[nodiscard]] std::string words() const;
+    [[nodiscard]] double sizeOf(const std::string& said, double room) const;
     [[nodiscard]] std::string text(const char* id, language::Arguments arguments = {}) const;
 
     GameController& m_controller;

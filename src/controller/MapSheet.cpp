@@ -220,15 +220,20 @@ void MapSheet::drawStone(SheetDrawing& drawing, const Known& known, int level, i
 void MapSheet::drawLegend(SheetDrawing& drawing) const
 {
     constexpr double kSmall = 58.0;
+    constexpr double kEm = 27.0;
+    constexpr double kToWords = 36.0;
+    constexpr double kToNext = 62.0;
     const double y = rowY(12);
-    const auto entry = [&](const char* picture, double x, const char* id, double room) {
+    double x = 640.0;
+    const auto entry = [&](const char* picture, const char* id) {
         drawing.picture(picture, x, y, kSmall, kSmall);
-        drawing.words(text(id), x + 36, y, 27, Ink::Pale, Align::Left, room);
+        drawing.words(text(id), x + kToWords, y, kEm, Ink::Pale, Align::Left);
+        x += kToWords + drawing.widthOf(text(id), kEm) + kToNext;
     };
-    entry("PuzzleClosed", 640, "closed", 90);
-    entry("PuzzleReached", 800, "reached", 110);
-    entry("PuzzleSolved", 978, "solved", 236);
-    entry("PuzzleAtPar", 1290, "par", 236);
+    entry("PuzzleClosed", "closed");
+    entry("PuzzleReached", "reached");
+    entry("PuzzleSolved", "solved");
+    entry("PuzzleAtPar", "par");
 }
 
 void MapSheet::drawPanel(SheetDrawing& drawing, const Known& known) const
