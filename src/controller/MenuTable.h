@@ -68,8 +68,8 @@ struct MenuItem {
     };
     static constexpr std::size_t kMostKeys = 2;
 
-    MenuItemId id;
-    MenuId menu;
+    MenuItemId id {};
+    MenuId menu {};
     Kind kind = Kind::Command;
     const char* text = ""; // with an ampersand, as titles
     std::array<std::string_view, kMostKeys> keys {}; // "Ctrl+Shift+Z"; the first is shown

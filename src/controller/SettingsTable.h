@@ -20,7 +20,7 @@ struct SettingItem {
     };
     static constexpr std::size_t kMostChoices = 7;
 
-    SettingsSection section;
+    SettingsSection section {};
     Kind kind = Kind::Switch;
     const char* text = ""; // with an ampersand before the letter that reaches it with Alt
     const char* help = ""; // a sentence for whoever wonders

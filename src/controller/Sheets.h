@@ -21,6 +21,8 @@ class GameController;
 class Sheets final : public input::Foreground {
 public:
     explicit Sheets(GameController& controller);
+    Sheets(const Sheets&) = delete;
+    Sheets& operator=(const Sheets&) = delete;
     ~Sheets() override;
 
     void open(std::unique_ptr<Sheet> sheet);

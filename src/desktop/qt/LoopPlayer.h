@@ -42,7 +42,7 @@ private:
     std::vector<std::int16_t> m_piece;
     Fade m_fade { 0.0 };
     unsigned m_source = 0;
-    std::array<unsigned, 3 * kPiecesASecond> m_buffers {};
+    std::array<unsigned, std::size_t { 3 } * kPiecesASecond> m_buffers {};
     std::deque<unsigned> m_free;
     std::deque<std::size_t> m_queued; // the place where each queued piece begins
     double m_gain = 0.0; // as the device was told last

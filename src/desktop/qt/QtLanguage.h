@@ -14,6 +14,7 @@ class QtLanguage final : public QTranslator {
 public:
     QtLanguage() = default;
     ~QtLanguage() override;
+    Q_DISABLE_COPY_MOVE(QtLanguage)
 
     // Every window hears of the change. The texts outlive this, or the next call.
     void speak(const language::Texts& texts);

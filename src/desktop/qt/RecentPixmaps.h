@@ -35,7 +35,7 @@ public:
     [[nodiscard]] qsizetype bytes() const { return m_bytes; }
 
     static constexpr qsizetype kFewest = 32; // kept whatever their size
-    static constexpr qsizetype kMostBytes = 4 * 1024 * 1024;
+    static constexpr qsizetype kMostBytes = qsizetype { 4 } * 1024 * 1024;
 
 private:
     using Pixmaps = std::list<std::pair<QString, QPixmap>>; // the last one asked for first
