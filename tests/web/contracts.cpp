@@ -3,6 +3,7 @@
 #include "platform/MotionWishContract.h"
 #include "platform/PreferencesContract.h"
 #include "platform/RunLoopContract.h"
+#include "platform/SoundsContract.h"
 #include "platform/WindowContract.h"
 #include "web/WebGame.h"
 
@@ -15,6 +16,8 @@ extern "C" {
 double contracts_timer(); // until the timer asked for would fire, in milliseconds; below 0: none
 void contracts_empty_store();
 void contracts_load(void* store); // calls contracts_loaded for each text that was stored
+void contracts_begin_sounds();
+int contracts_is_heard();
 }
 
 namespace veyrand::platform {
@@ -128,6 +131,19 @@ private:
     web::WebMotionWish m_wish;
 };
 
+// What a page plays is heard later than it is asked for, and nothing can wait for it here. So the
+// page runs the cases twice: it notes what is asked of the sounds, plays that in its own time, and
+// then has the answers ready.
+class WebSoundsHarness {
+public:
+    WebSoundsHarness() { contracts_begin_sounds(); }
+    Sounds& sounds() { return m_sounds; }
+    bool isHeard() { return contracts_is_heard() != 0; }
+
+private:
+    web::WebSounds m_sounds;
+};
+
 // What failed, for the page.
 class Failures final : public ::testing::EmptyTestEventListener {
 public:
@@ -152,6 +168,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Web, PreferencesContract, WebPreferencesHarness);
 INSTANTIATE_TYPED_TEST_SUITE_P(Web, AlertsContract, WebAlertsHarness);
 INSTANTIATE_TYPED_TEST_SUITE_P(Web, WindowContract, WebWindowHarness);
 INSTANTIATE_TYPED_TEST_SUITE_P(Web, MotionWishContract, WebMotionWishHarness);
+INSTANTIATE_TYPED_TEST_SUITE_P(Web, SoundsContract, WebSoundsHarness);
 
 // A fault of a transaction is told by the next call that writes, once.
 TEST(WebStore, ToldOfAFaultTellsItOnce)
@@ -196,14 +213,15 @@ EMSCRIPTEN_KEEPALIVE void contracts_loaded(void* store, const char* name, const 
     static_cast<veyrand::web::WebStore*>(store)->load(name, text);
 }
 
-// {"ran": how many, "failures": [words]}
-EMSCRIPTEN_KEEPALIVE const char* contracts_run()
+// {"ran": how many, "failures": [words]}, of the cases that a filter of GoogleTest's names.
+EMSCRIPTEN_KEEPALIVE const char* contracts_run(const char* filter)
 {
     static std::string answer;
     int argumentCount = 1;
     std::string program = "contracts";
     char* arguments[] = { program.data(), nullptr };
     ::testing::InitGoogleTest(&argumentCount, arguments);
+    GTEST_FLAG_SET(filter, filter);
     auto* const failures = new veyrand::platform::Failures; // the listeners own it
     ::testing::UnitTest::GetInstance()->listeners().Append(failures);
     const int status = RUN_ALL_TESTS();
