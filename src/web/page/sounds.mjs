@@ -80,7 +80,6 @@ export class Sounds {
     this.context.onstatechange = () => this.settle();
     this.effects = this.gain(this.volumes.effects, this.context.destination);
     this.ducked = this.gain(1, this.context.destination);
-    this.music = this.gain(this.volumes.music, this.ducked);
     if (this.loop) {
       this.startSource();
     }
@@ -147,18 +146,23 @@ export class Sounds {
     loop.source.loop = true;
     loop.source.loopStart = guard;
     loop.source.loopEnd = buffer.duration - guard;
-    loop.gain = this.gain(0, this.music);
+    loop.gain = this.gain(0, this.ducked);
     loop.source.connect(loop.gain);
     loop.source.start(0, guard);
-    this.ramp(loop.gain.gain, loop.volume, fades.in);
+    this.fadeLoop(fades.in);
+  }
+
+  // The loop's own volume and that of music are one, so that while both change neither is heard through the other.
+  fadeLoop(seconds) {
+    if (this.loop?.gain) {
+      this.ramp(this.loop.gain.gain, this.loop.volume * this.volumes.music, seconds);
+    }
   }
 
   loopVolume(volume) {
     if (this.loop) {
       this.loop.volume = volume;
-      if (this.loop.gain) {
-        this.ramp(this.loop.gain.gain, volume, fades.change);
-      }
+      this.fadeLoop(fades.change);
     }
   }
 
@@ -172,10 +176,11 @@ export class Sounds {
   }
 
   volume(isMusic, percent) {
-    const kind = isMusic ? 'music' : 'effects';
-    this.volumes[kind] = factorOf(percent);
-    if (this.context) {
-      this.ramp(this[kind].gain, this.volumes[kind], fades.change);
+    this.volumes[isMusic ? 'music' : 'effects'] = factorOf(percent);
+    if (isMusic) {
+      this.fadeLoop(fades.change);
+    } else if (this.context) {
+      this.ramp(this.effects.gain, this.volumes.effects, fades.change);
     }
   }
 
