@@ -84,7 +84,8 @@ TEST(ASolution, IsMarkedLineByLineWithWhatEachCosts)
     };
     unsigned late = 0; // lines that leave a shortest way after the first
     for (int solution = 0; solution < 300; ++solution) {
-        CodedPuzzle puzzle { "YR" + std::string(random() % 3, "RGB"[random() % 3]), "" };
+        const char chip = "RGB"[random() % 3]; // first: arguments are evaluated in any order
+        CodedPuzzle puzzle { "YR" + std::string(random() % 3, chip), "" };
         engine::PackedLine line = engine::PackedLine::pack(puzzle.root).value();
         std::vector<Move> moves;
         std::set<std::string> seen { puzzle.root };
