@@ -29,6 +29,7 @@ inline constexpr double kBlockPoll = 0.1;
 inline constexpr double kButtonBlock = 0.5; // at every tempo
 inline constexpr double kLongPress = 0.5; // at every tempo
 inline constexpr double kDoubleClick = 0.4; // from the first press to the second; at every tempo
+inline constexpr double kRestChooses = 0.15; // of the pointer, on a map; at every tempo
 inline constexpr double kReading = 1.0; // of a page or note that has just opened; at every tempo
 
 // Undo and redo.

@@ -332,14 +332,15 @@ void EditorSheet::copy()
     }
 }
 
-// A code becomes its lines.
 void EditorSheet::paste()
 {
-    const auto* const clipboard = m_controller.context().clipboard;
-    if (clipboard == nullptr) {
-        return;
-    }
-    const auto read = play::readCode(play::codeInLink(clipboard->text()));
+    m_controller.sheets().paste([this](const std::string& text) { pasted(text); });
+}
+
+// A code becomes its lines.
+void EditorSheet::pasted(const std::string& text)
+{
+    const auto read = play::readCode(play::codeInLink(text));
     if (const auto* const fault = std::get_if<play::CodeFault>(&read)) {
         return m_controller.practice().tell(m_controller.practice().wordsOf(*fault));
     }

@@ -66,6 +66,7 @@ private:
     void save();
     void copy();
     void paste();
+    void pasted(const std::string& text);
     [[nodiscard]] std::string code() const;
 
     void drawPanel(present::SheetDrawing& drawing) const;

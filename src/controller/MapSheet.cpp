@@ -71,6 +71,18 @@ void MapSheet::focused(const std::string& key)
     }
 }
 
+// The way from a stone to the panel leads over others.
+bool MapSheet::isChosenByRest(const std::string& key) const
+{
+    return placeOf(key).has_value();
+}
+
+// All stones are one stop, at the chosen one.
+std::string MapSheet::tabStopOf(const std::string& key) const
+{
+    return placeOf(key) ? keyOf(m_chosen) : key;
+}
+
 void MapSheet::press(const std::string& key)
 {
     if (placeOf(key) || key == "play") {
@@ -109,10 +121,8 @@ std::string MapSheet::text(const char* id, language::Arguments arguments) const
 
 void MapSheet::pasteCode()
 {
-    if (auto* const clipboard = m_controller.context().clipboard) {
-        clipboard->askForText(
-            [this](const std::string& text) { m_controller.practice().openOrTell(text); });
-    }
+    m_controller.sheets().paste(
+        [this](const std::string& text) { m_controller.practice().openOrTell(text); });
 }
 
 bool MapSheet::takeKey(std::string_view keys)

@@ -22,6 +22,8 @@ public:
     [[nodiscard]] std::string title() const override { return text("puzzles"); }
     [[nodiscard]] std::string told() const override;
     void focused(const std::string& key) override;
+    [[nodiscard]] bool isChosenByRest(const std::string& key) const override;
+    [[nodiscard]] std::string tabStopOf(const std::string& key) const override;
     [[nodiscard]] bool takeKey(std::string_view keys) override;
     [[nodiscard]] std::string firstFocus() const override;
 

@@ -141,21 +141,22 @@ void MineSheet::copy()
     }
 }
 
-// A code is saved, if its goal can be reached: what is played here has a par.
 void MineSheet::paste()
 {
-    const auto* const clipboard = m_controller.context().clipboard;
-    if (clipboard == nullptr) {
-        return;
-    }
-    const std::string fault = m_controller.practice().whyNot(clipboard->text());
+    m_controller.sheets().paste([this](const std::string& text) { pasted(text); });
+}
+
+// A code is saved, if its goal can be reached: what is played here has a par.
+void MineSheet::pasted(const std::string& text)
+{
+    const std::string fault = m_controller.practice().whyNot(text);
     if (!fault.empty()) {
         return m_controller.practice().tell(fault);
     }
-    const auto puzzle
-        = std::get<play::CodedPuzzle>(play::readCode(play::codeInLink(clipboard->text())));
+    const auto puzzle = std::get<play::CodedPuzzle>(play::readCode(play::codeInLink(text)));
     const std::string code = play::codeOf(puzzle.root, puzzle.goal).value_or(std::string());
     m_controller.shelf().add(code);
+    m_newName.reset(); // begun for another while the text was asked for
     choose(code);
     m_controller.sheets().focusOn(firstFocus());
 }

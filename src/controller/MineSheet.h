@@ -37,6 +37,7 @@ private:
     void remove();
     void copy();
     void paste();
+    void pasted(const std::string& text);
     void beginName();
     void endName();
     void write(std::string_view letter);

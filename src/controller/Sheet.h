@@ -25,6 +25,10 @@ public:
     [[nodiscard]] virtual std::string told() const { return {}; }
     // The keys or the pointer have come to the place.
     virtual void focused(const std::string& /*key*/) { }
+    // A place that is chosen when the pointer rests on it, and not when it passes on its way.
+    [[nodiscard]] virtual bool isChosenByRest(const std::string& /*key*/) const { return false; }
+    // Where Tab stops for the place: it steps over places that lead to another.
+    [[nodiscard]] virtual std::string tabStopOf(const std::string& key) const { return key; }
     // A key that does not walk: true when it has a use here.
     virtual bool takeKey(std::string_view /*keys*/) { return false; }
     // Where the keys begin.

@@ -1,6 +1,7 @@
 #include "controller/Sheets.h"
 
 #include "board/Buttons.h"
+#include "board/Times.h"
 #include "controller/DailySheet.h"
 #include "controller/EditorSheet.h"
 #include "controller/GameController.h"
@@ -24,6 +25,12 @@ bool holds(const present::ExtraRect& rect, platform::Point place)
 {
     return std::abs(place.x - rect.x) <= rect.width / 2.0
         && std::abs(place.y - rect.y) <= rect.height / 2.0;
+}
+
+bool isNear(platform::Point one, platform::Point other)
+{
+    constexpr double kUnsteadyHand = 0.01;
+    return std::hypot(one.x - other.x, one.y - other.y) <= kUnsteadyHand;
 }
 
 } // namespace
@@ -53,9 +60,9 @@ void Sheets::open(std::unique_ptr<Sheet> sheet)
         m_controller.focus().hide();
     }
     m_sheet = std::move(sheet);
+    endTurn();
+    m_turn = std::make_shared<const Turn>();
     m_focus = m_sheet->firstFocus();
-    m_hovered.clear();
-    m_held.clear();
     m_controller.speaker().tell(title());
     m_controller.speaker().tell(nameOfPlace(m_focus));
     changed();
@@ -107,17 +114,36 @@ void Sheets::close()
 {
     if (m_sheet) {
         m_closed.push_back(std::move(m_sheet));
-        m_hovered.clear();
-        m_held.clear();
+        endTurn();
         changed();
+    }
+}
+
+void Sheets::endTurn()
+{
+    m_turn.reset();
+    m_hovered.clear();
+    m_held.clear();
+    m_rest.reset();
+}
+
+void Sheets::paste(const std::function<void(const std::string& text)>& use)
+{
+    if (m_game.clipboard != nullptr) {
+        m_game.clipboard->askForText(
+            [this, use, turn = std::weak_ptr(m_turn)](const std::string& text) {
+                if (!turn.expired()) {
+                    use(text);
+                    changed();
+                }
+            });
     }
 }
 
 void Sheets::makeWay()
 {
     m_left = std::move(m_sheet);
-    m_hovered.clear();
-    m_held.clear();
+    endTurn();
     changed();
 }
 
@@ -266,7 +292,11 @@ bool Sheets::covers(platform::Point place) const
 
 bool Sheets::pressed(platform::Point place)
 {
+    m_rest.reset();
     m_held = placeAt(place);
+    if (m_sheet && !m_held.empty()) {
+        focusOn(m_held); // chosen even where it is let go elsewhere
+    }
     return m_sheet || !m_held.empty();
 }
 
@@ -285,15 +315,41 @@ bool Sheets::hovered(platform::Point place)
         return false;
     }
     const std::string now = placeAt(place);
+    if (m_sheet) {
+        follow(now, place);
+    }
     if (now != m_hovered) {
         m_hovered = now;
-        if (m_sheet && !now.empty()) {
-            focusOn(now);
-        }
         m_controller.answers().pointerMoved();
         m_game.layers.scene().setNeedsDisplay();
     }
     return m_sheet || !m_hovered.empty();
+}
+
+void Sheets::follow(const std::string& key, platform::Point place)
+{
+    const bool hasCome = key != m_hovered;
+    if (!key.empty() && m_sheet->isChosenByRest(key)) {
+        if (hasCome || (m_rest && !isNear(m_rest->place, place))) {
+            restBegins(key, place);
+        }
+    } else if (hasCome) {
+        m_rest.reset();
+        if (!key.empty()) {
+            focusOn(key);
+        }
+    }
+}
+
+void Sheets::restBegins(const std::string& key, platform::Point place)
+{
+    m_rest = std::make_shared<const Rest>(Rest { key, place });
+    m_game.runLoop.performAfterDelay(
+        board::times::kRestChooses, [this, rest = std::weak_ptr(m_rest)] {
+            if (!rest.expired()) {
+                focusOn(std::exchange(m_rest, nullptr)->key);
+            }
+        });
 }
 
 void Sheets::act(const std::string& key)
@@ -339,6 +395,7 @@ bool Sheets::key(std::string_view keys)
     if (!m_sheet) {
         return false;
     }
+    m_rest.reset();
     m_controller.speaker().gestureBegins();
     const Sheet* const sheet = m_sheet.get();
     const std::string where = nameOfPlace(m_focus);
@@ -401,10 +458,13 @@ void Sheets::walk(int x, int y)
 
 void Sheets::step(int by)
 {
-    const present::SheetDrawing drawn = drawing();
-    const auto& places = drawn.places();
+    std::vector<SheetPlace> places = this->places();
+    const auto isNoStop
+        = [this](const SheetPlace& place) { return m_sheet->tabStopOf(place.key) != place.key; };
+    places.erase(std::remove_if(places.begin(), places.end(), isNoStop), places.end());
+    const std::string stop = m_sheet->tabStopOf(m_focus);
     const auto here = std::find_if(places.begin(), places.end(),
-        [this](const SheetPlace& place) { return place.key == m_focus; });
+        [&stop](const SheetPlace& place) { return place.key == stop; });
     if (places.empty()) {
         return;
     }

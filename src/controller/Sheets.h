@@ -5,6 +5,7 @@
 #include "input/Foreground.h"
 #include "present/Extra.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -54,6 +55,10 @@ public:
     [[nodiscard]] bool isShowing(const Sheet& sheet) const { return m_sheet.get() == &sheet; }
     [[nodiscard]] const Sheet* shown() const { return m_sheet.get(); } // null when none is open
 
+    // What the player has copied, here or elsewhere: the function is called with it, at once or as
+    // soon as somebody has agreed, unless the sheet has gone by then.
+    void paste(const std::function<void(const std::string& text)>& use);
+
     void leaveReplay(); // for the sheet from which it was opened
 
     // What can be pressed before the board while no sheet is open.
@@ -83,21 +88,34 @@ private:
     [[nodiscard]] const std::vector<present::SheetPlace>& drawnPlaces() const;
     [[nodiscard]] std::string placeAt(platform::Point place) const;
     [[nodiscard]] bool showsButton() const;
+    void follow(const std::string& key, platform::Point place);
+    void restBegins(const std::string& key, platform::Point place);
+    void endTurn();
     void walk(int x, int y);
     void step(int by);
     void act(const std::string& key);
     [[nodiscard]] std::string nameOfPlace(const std::string& key) const;
     void performKey(std::string_view keys);
 
+    // Of the pointer, on a place that it may choose.
+    struct Rest {
+        std::string key;
+        platform::Point place;
+    };
+    struct Turn { };
+
     GameController& m_controller;
     GameContext& m_game;
     std::unique_ptr<Sheet> m_sheet;
     std::unique_ptr<Sheet> m_left; // from which the puzzle in play came
     std::unique_ptr<Sheet> m_under; // from which a replay was opened
+    std::shared_ptr<const Turn> m_turn; // of the sheet that is open; held weakly by late answers
     std::vector<std::unique_ptr<Sheet>> m_closed; // until whoever they called has returned
     std::string m_focus;
     std::string m_hovered;
     std::string m_held;
+    // Held as well, weakly, by the call that ends it; nothing while the pointer is on its way.
+    std::shared_ptr<const Rest> m_rest;
     unsigned m_revision = 1;
     // As drawn last: the pointer asks for them at every step. Nothing until they are drawn anew.
     mutable std::optional<std::vector<present::SheetPlace>> m_places;
