@@ -55,7 +55,7 @@ TEST_F(PasteTest, ALateCodeDoesNotRenameAnotherPuzzle)
     sheets().key("F2");
     sheets().key("x");
     game().clipboard().agree();
-    sheets().key("Return");
+    sheets().choose("done");
     ASSERT_EQ(shelf().puzzles().all().size(), 2U);
     EXPECT_EQ(shelf().puzzles().all().front().name, "Puzzle 1");
     EXPECT_EQ(shelf().puzzles().all().back().name, "Puzzle 2");
