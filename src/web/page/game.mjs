@@ -162,7 +162,8 @@ export class Game {
     if (isForAWeek(navigator)) {
       this.tellOfKeeping();
     }
-    requestAnimationFrame(() => setTimeout(() => this.fetchTheRest()));
+    const whenIdle = globalThis.requestIdleCallback ?? ((call) => setTimeout(call, 300)); // Safari knows none
+    requestAnimationFrame(() => whenIdle(() => this.fetchTheRest(), { timeout: 2000 }));
   }
 
   // An address may name a puzzle: "#" and its code.

@@ -22,6 +22,15 @@ async function fetched(url) {
   return answer.arrayBuffer();
 }
 
+// The texts that lie one after the other: names and bytes.
+function partsOf(texts, parts) {
+  let end = 0;
+  return parts.map(([name, length]) => {
+    end += length;
+    return [name, new Uint8Array(texts, end - length, length)];
+  });
+}
+
 async function start() {
   if (typeof WebAssembly !== 'object') {
     throw new Error(say('This browser does not know WebAssembly. A newer one will do.'));
@@ -32,8 +41,7 @@ async function start() {
     createVeyrand({ wasmBinary, host: game.host }).catch(() => {
       throw new Error(say('This browser cannot run the program. A newer one will do.'));
     }));
-  const resources = Promise.all(Object.entries(files.resources).map(async ([name, url]) =>
-    [name, new Uint8Array(await fetched(url))]));
+  const resources = fetched(files.resources.file).then((texts) => partsOf(texts, files.resources.parts));
   const font = document.fonts.load('100px "Veyrand Letters"').catch(() => []);
   await game.start(await program, await resources, await font);
   document.getElementById('curtain').hidden = true;
