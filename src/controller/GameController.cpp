@@ -118,10 +118,33 @@ bool GameController::closePage()
     return true;
 }
 
+namespace {
+
+// Of the puzzle in play. False when there is none.
+bool copyCode(GameController& game)
+{
+    const auto& proof = game.proof();
+    auto* const clipboard = game.context().clipboard;
+    const auto code
+        = proof ? play::codeOf(proof->root().theorem(), proof->goal().theorem()) : std::nullopt;
+    if (!code || clipboard == nullptr) {
+        return false;
+    }
+    clipboard->setText(*code);
+    game.speaker().gestureBegins();
+    game.speaker().tell(game.context().texts.text("practice.codeCopied", { { "code", *code } }));
+    return true;
+}
+
+} // namespace
+
 bool GameController::key(std::string_view keys, Press press)
 {
     if (m_sheets.isOpen()) {
         return m_sheets.key(keys);
+    }
+    if (keys == "Ctrl+C" && press == Press::First) {
+        return copyCode(*this);
     }
     const auto command = input::commandFor(keys);
     if (!command || (press == Press::Repeated && !input::movesFocus(command->verb))) {

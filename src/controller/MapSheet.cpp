@@ -34,6 +34,12 @@ std::string keyOf(const Place& place)
     return "puzzle-" + play::nameOf(place);
 }
 
+// What has been solved stays open when a new game has begun.
+bool isOpen(const Practice& practice, const Place& place, const Place& standing)
+{
+    return Practice::isReached(place, standing) || practice.isSolved(place, standing);
+}
+
 std::optional<Place> placeOf(const std::string& key)
 {
     for (int level = 1; level <= progress::kLastLevel; ++level) {
@@ -149,7 +155,7 @@ std::string MapSheet::nameForPeople(const Place& place, const Place& standing) c
 {
     const Practice& practice = m_controller.practice();
     const std::string name = play::nameOf(place);
-    if (!Practice::isReached(place, standing)) {
+    if (!isOpen(practice, place, standing)) {
         return text("saidClosed", { { "name", name } });
     }
     if (const play::Result* const result = m_controller.book().results().of(name)) {
@@ -189,7 +195,7 @@ void MapSheet::drawLevel(SheetDrawing& drawing, const Known& known, int level) c
             std::to_string(statistics.solved) + "/10", 1522, y, 27, Ink::Ivory, Align::Right);
         drawing.picture("PuzzleStar", 1546, y, 24, 24);
         drawing.words(std::to_string(statistics.atPar), 1562, y, 27, Ink::Ivory, Align::Left);
-    } else if (!Practice::isReached({ level, 1 }, known.standing)) {
+    } else if (!isOpen(m_controller.practice(), { level, 1 }, known.standing)) {
         drawing.words(text("closed"), 1510, y, 25, Ink::Pale, Align::Middle, 130);
     }
 }
@@ -204,7 +210,7 @@ void MapSheet::drawStone(SheetDrawing& drawing, const Known& known, int level, i
     const auto* const entry = practice.entryAt(place);
     const play::Result* const result = m_controller.book().results().of(name);
     const std::string par = entry != nullptr ? std::to_string(entry->par - 1) : std::string();
-    if (!Practice::isReached(place, known.standing)) {
+    if (!isOpen(practice, place, known.standing)) {
         drawing.picture("PuzzleClosed", x, y, kStone, kStone);
     } else if (result != nullptr && result->over() == 0) {
         drawing.picture("PuzzleAtPar", x, y, kStone, kStone);

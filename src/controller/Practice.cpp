@@ -4,6 +4,7 @@
 #include "controller/GameController.h"
 #include "progress/PlayerRecord.h"
 #include "progress/RuleSets.h"
+#include "progress/Settings.h"
 
 #include <algorithm>
 
@@ -49,7 +50,7 @@ const progress::CatalogueEntry* Practice::entryAt(const progress::Place& place) 
 
 bool Practice::isReached(const progress::Place& place) const
 {
-    return isReached(place, standing());
+    return isReached(place, standing()) || isSolved(place); // also after a new game has begun
 }
 
 bool Practice::isSolved(const progress::Place& place) const
@@ -203,8 +204,11 @@ void Practice::askFirst(std::function<void()> start)
     if (!m_controller.proof()) {
         return start();
     }
+    const bool isFoundAgain = !isOn() && m_game.journal != nullptr
+        && progress::readSettings(m_game.preferences).keepUnfinishedPuzzles;
     m_game.alerts.show({ .message = m_game.texts.text("practice.leave"),
-                           .informativeText = m_game.texts.text("practice.leaveMore"),
+                           .informativeText
+                           = isFoundAgain ? m_game.texts.text("practice.leaveMore") : std::string(),
                            .defaultButton = m_game.texts.text("practice.play"),
                            .alternateButton = m_game.texts.text("practice.stay") },
         [start = std::move(start)](const platform::AlertAnswer& answer) {
@@ -247,7 +251,7 @@ void Practice::start(const Wanted& wanted)
     m_controller.sheets().makeWay();
     flow.layOutPuzzle();
     flow.startMusic();
-    if (wanted.open > progress::highestRuleAt(standing().level, standing().stage)) {
+    if (!m_place && wanted.open > progress::highestRuleAt(standing().level, standing().stage)) {
         tellOfAllMoves();
     }
 }
@@ -278,12 +282,14 @@ bool Practice::mayTellOf(const play::CodedPuzzle& puzzle) const
         || puzzle.goal != entry->goal;
 }
 
-// What has no place on the map is offered to be looked at again at once.
+// What has no place on the map is offered to be looked at again at once. The calendar offers it
+// beside each day.
 void Practice::finished()
 {
     const std::string solved = m_place ? std::string() : m_name;
     m_controller.flow().returnToMenu();
-    if (!solved.empty() && m_controller.sheets().name() == "map") {
+    const std::string sheet = m_controller.sheets().name();
+    if (!solved.empty() && !sheet.empty() && sheet != "daily") {
         m_controller.sheets().openReplay(solved);
     }
 }

@@ -105,6 +105,10 @@ void Transfer::importGame()
                 tell(m_game.texts.text(
                     "transfer.notRead", { { "file", answer.name }, { "why", answer.fault } }));
             } else if (answer.kind == Came::Done) {
+                const auto code = play::readCode(play::codeInLink(answer.text));
+                if (std::holds_alternative<play::CodedPuzzle>(code)) {
+                    return m_controller.practice().openOrTell(answer.text);
+                }
                 const auto bundle = read(answer.text, answer.name);
                 if (const auto* const fault = std::get_if<std::string>(&bundle)) {
                     tell(*fault);

@@ -26,6 +26,24 @@ bool isInsideLetter(char byte) // of UTF-8
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
+// Names that were made by number are made again, so that no two puzzles share one.
+std::string nameBeside(const std::vector<MyPuzzle>& puzzles, const std::string& name)
+{
+    const auto isTaken = [&puzzles](const std::string& wanted) {
+        return std::any_of(puzzles.begin(), puzzles.end(),
+            [&wanted](const MyPuzzle& each) { return each.name == wanted; });
+    };
+    const std::size_t stem = name.find_last_not_of("0123456789") + 1;
+    if (stem == name.size() || stem == 0 || name[stem - 1] != ' ' || !isTaken(name)) {
+        return name;
+    }
+    std::string next;
+    for (std::size_t number = 1; next.empty() || isTaken(next); ++number) {
+        next = name.substr(0, stem) + std::to_string(number);
+    }
+    return next;
+}
+
 } // namespace
 
 std::string keptName(std::string_view name)
@@ -99,7 +117,7 @@ bool MyPuzzles::remove(std::string_view code)
 void MyPuzzles::join(const MyPuzzles& others)
 {
     for (const MyPuzzle& puzzle : others.m_puzzles) {
-        add(puzzle.code, puzzle.name);
+        add(puzzle.code, nameBeside(m_puzzles, puzzle.name));
     }
 }
 

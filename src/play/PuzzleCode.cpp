@@ -227,8 +227,9 @@ std::string_view codeInLink(std::string_view text)
         }
     };
     trim(isGrouping);
-    if (text.starts_with(kResult) && text.find('\n') != std::string_view::npos) {
-        text.remove_prefix(text.rfind('\n'));
+    if (text.starts_with(kResult)) { // some ways of sending make a blank of the line break
+        const std::size_t end = text.rfind('\n');
+        text.remove_prefix(end != std::string_view::npos ? end : text.rfind(' '));
         trim(isGrouping);
     }
     bool isLink = text.size() >= kScheme.size();

@@ -89,6 +89,22 @@ TEST(MyPuzzles, AreUnitedWithOursFirstAndUnderOurNames)
         ours.all(), (std::vector<MyPuzzle> { { "38RTWET", "ours" }, { "37T8649F2MEJ", "new" } }));
 }
 
+TEST(MyPuzzles, ThatAreUnitedDoNotShareANameMadeByNumber)
+{
+    MyPuzzles ours;
+    ours.add("38RTWET", "Puzzle 1");
+    MyPuzzles theirs;
+    theirs.add("37T8649F2MEJ", "Puzzle 1");
+    theirs.add("3373NECJ", "Puzzle 7");
+    ours.join(theirs);
+    EXPECT_EQ(ours.all(),
+        (std::vector<MyPuzzle> { { "38RTWET", "Puzzle 1" }, { "37T8649F2MEJ", "Puzzle 2" },
+            { "3373NECJ", "Puzzle 7" } }));
+    const auto once = ours;
+    ours.join(theirs);
+    EXPECT_EQ(ours, once) << "and joining again changes nothing";
+}
+
 TEST(MyPuzzles, AreNotMoreThanThereIsRoomFor)
 {
     MyPuzzles puzzles;

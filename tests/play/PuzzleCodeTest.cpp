@@ -237,6 +237,8 @@ TEST(ALink, HoldsACode)
     EXPECT_EQ(codeInLink("3373NECJ"), "3373NECJ");
     EXPECT_EQ(codeInLink("veyrand:"), "");
     EXPECT_EQ(codeInLink("Veyrand 21 Nov, 7 moves, par 6, no hints\n3373NECJ\n"), "3373NECJ");
+    EXPECT_EQ(codeInLink("Veyrand 21 Nov, 7 moves, par 6, no hints 3373NECJ"), "3373NECJ");
+    EXPECT_EQ(codeInLink("3373 NECJ"), "3373 NECJ") << "letters in two groups";
     EXPECT_EQ(codeInLink("3373\nNECJ"), "3373\nNECJ") << "letters in two groups";
 }
 

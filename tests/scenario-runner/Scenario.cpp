@@ -2,6 +2,7 @@
 
 #include "progress/PlayerKeys.h"
 
+#include <cmath>
 #include <stdexcept>
 
 namespace veyrand::scenario {
@@ -125,12 +126,21 @@ void complain(const std::string& fault)
     }
 }
 
+int wholeNumber(const Json& value)
+{
+    constexpr double kMost = 1000.0;
+    const double number = value.is_number() ? scenario::number(value) : -1.0;
+    if (!(number >= 0.0 && number <= kMost) || std::floor(number) != number) {
+        throw std::runtime_error(value.dump() + " is no level or stage");
+    }
+    return static_cast<int>(number);
+}
+
 } // namespace
 
 Json Scenario::practice(const Arguments& arguments)
 {
-    const progress::Place place { static_cast<int>(arguments.number(0)),
-        static_cast<int>(arguments.number(1)) };
+    const progress::Place place { wholeNumber(arguments.at(0)), wholeNumber(arguments.at(1)) };
     if (!game().controller().practice().play(place)) {
         complain(play::nameOf(place) + " has not been reached");
     }

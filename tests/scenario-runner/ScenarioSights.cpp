@@ -270,11 +270,12 @@ Json Scenario::blocked(const Arguments& /*arguments*/)
 
 Json Scenario::actions(const Arguments& /*arguments*/)
 {
-    const auto& controller = game().controller();
+    auto& controller = game().controller();
     Json list = Json::array();
     const auto& view = game().game().view();
     if (game().game().view().block().blockClick() || view.messageWindow()
-        || controller.dialogueState() != 0) {
+        || controller.dialogueState() != 0 || controller.sheets().isOpen()
+        || game().alerts().isOpen()) {
         return list;
     }
     for (const play::Gesture& gesture : play::actions(game().controller().moves().position())) {

@@ -171,6 +171,13 @@ TEST(BatchHelp, IsAnAnswerLikeAnyOther)
     EXPECT_EQ(all["help"]["solve"], "A shortest way from one line to another");
 }
 
+TEST(Batch, AnswersAlikeWhereOneDocumentIsAskedFor)
+{
+    EXPECT_EQ(ask("verdict YR YRG --json"), ask("verdict YR YRG"));
+    EXPECT_EQ(ask("--json verdict YR YRG"), ask("verdict YR YRG"));
+    EXPECT_FALSE(ask("verdict YR YRG --json").contains("error"));
+}
+
 TEST(BatchErrors, ACommandThatIsNoneIsNamed)
 {
     EXPECT_EQ(ask("nonsense YR")["error"], "no such command: nonsense");

@@ -51,6 +51,7 @@ Json helpOnAll()
 Json answer(std::vector<std::string> words)
 {
     const std::vector<CommandEntry>& commands = allCommands();
+    std::erase(words, "--json"); // as every answer here is
     const std::string name = words.empty() ? std::string() : words.front();
     if (name == "--help" || name == "-h") {
         return helpOnAll();
