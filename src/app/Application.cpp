@@ -12,6 +12,7 @@
 #include "app/Words.h"
 #include "controller/Game.h"
 #include "controller/ReplayShow.h"
+#include "desktop/posix/PosixDisk.h"
 #include "desktop/posix/UserJournal.h"
 #include "desktop/qt/BoardReader.h"
 #include "desktop/qt/DataFolder.h"
@@ -164,9 +165,23 @@ public:
         m_show->start();
     }
 
-    void open(const std::string& puzzleCode)
+    // A puzzle's code, or the name of a file that holds one.
+    void open(const std::string& puzzle)
     {
-        m_game.controller().practice().openOrTell(puzzleCode);
+        constexpr std::size_t kMostBytes = 4096;
+        const QFileInfo file(QString::fromStdString(puzzle));
+        auto& practice = m_game.controller().practice();
+        if (!file.isFile()) {
+            return practice.openOrTell(puzzle);
+        }
+        const auto contents
+            = desktop::posix::PosixDisk().read(file.absoluteFilePath().toStdString(), kMostBytes);
+        if (contents.bytes) {
+            practice.openOrTell(*contents.bytes);
+        } else {
+            practice.tell(m_game.controller().context().texts.text("transfer.notRead",
+                { { "file", file.fileName().toStdString() }, { "why", contents.fault } }));
+        }
     }
 
     // The application's own loop has ended by now, and what is asked here still needs one to be
@@ -326,7 +341,7 @@ int showJournal(const QString& dataFolder, const QString& file)
     return status;
 }
 
-int runGame(const QString& dataFolder, const std::string& puzzleCode)
+int runGame(const QString& dataFolder, const std::string& puzzle)
 {
     Application application(
         dataFolder, desktop::qt::FilePreferences::usualFile(), Application::Games::Kept);
@@ -338,8 +353,8 @@ int runGame(const QString& dataFolder, const std::string& puzzleCode)
         return 1;
     }
     application.show();
-    if (!puzzleCode.empty()) {
-        application.open(puzzleCode);
+    if (!puzzle.empty()) {
+        application.open(puzzle);
     }
     const int status = GuardedApplication::failure() ? EXIT_FAILURE : QApplication::exec();
     if (const auto reason = GuardedApplication::failure()) {

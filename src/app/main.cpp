@@ -36,8 +36,8 @@ struct Pictures {
     [[nodiscard]] QSize shape() const { return { size.at(0), size.at(1) }; }
 };
 
-int run(const Pictures& pictures, const std::optional<std::string>& journal,
-    const std::string& puzzleCode)
+int run(
+    const Pictures& pictures, const std::optional<std::string>& journal, const std::string& puzzle)
 {
     const QString dataFolder = veyrand::desktop::qt::findDataFolder();
     if (dataFolder.isEmpty()) {
@@ -67,7 +67,7 @@ int run(const Pictures& pictures, const std::optional<std::string>& journal,
     }
     QApplication::setWindowIcon(veyrand::desktop::qt::applicationIcon(dataFolder));
     return journal ? veyrand::app::showJournal(dataFolder, QString::fromStdString(*journal))
-                   : veyrand::app::runGame(dataFolder, puzzleCode);
+                   : veyrand::app::runGame(dataFolder, puzzle);
 }
 
 // Pictures and sounds are taken and given back in large pieces. Left to itself the C library keeps
@@ -166,8 +166,10 @@ int start(int argc, char** argv)
     std::optional<std::string> journal;
     addPictureOptions(options, pictures, journal);
     addLooks(options, pictures);
-    std::string puzzleCode;
-    options.add_option("CODE", puzzleCode, "Open the puzzle of this code, or of a veyrand: link")
+    std::string puzzle;
+    options
+        .add_option("CODE", puzzle,
+            "Open the puzzle of this code, of a veyrand: link, or of a file that holds either")
         ->excludes("--demo")
         ->excludes("--gallery")
         ->excludes("--replay")
@@ -184,7 +186,7 @@ int start(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Veyrand"));
     QApplication::setApplicationVersion(QStringLiteral(VEYRAND_VERSION));
     QApplication::setDesktopFileName(QStringLiteral(VEYRAND_ID)); // whose icon the desktop shows
-    return run(pictures, journal, puzzleCode);
+    return run(pictures, journal, puzzle);
 }
 
 } // namespace

@@ -75,7 +75,9 @@ void show(platform::Preferences& preferences, const platform::FileExchange::Wish
     dialog->setFileMode(
         mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setNameFilter(
-        QStringLiteral("%1 (*.%2)").arg(QString::fromStdString(wish.kind), suffix));
+        QStringLiteral("%1 (*.%2)")
+            .arg(QString::fromStdString(wish.kind),
+                mode == QFileDialog::AcceptOpen ? suffix + QStringLiteral(" *.txt") : suffix));
     dialog->setDefaultSuffix(suffix);
     dialog->setDirectory(folderOf(preferences));
     if (mode == QFileDialog::AcceptSave) {

@@ -23,7 +23,7 @@ export function openFile(mostBytes, { tooLarge, unreadable }) {
   return new Promise((resolve) => {
     const input = document.createElement('input');
     input.type = 'file';
-    input.accept = '.json,application/json';
+    input.accept = '.json,application/json,.txt,text/plain';
     input.id = 'chosen-file';
     input.hidden = true;
     document.body.append(input); // some browsers forget one that is nowhere
