@@ -28,7 +28,8 @@ public:
     Saving add(std::string_view code, std::string_view name);
     bool rename(std::string_view code, std::string_view name); // false when there is none
     bool remove(std::string_view code);
-    // Both united, as far as there is room: ours first, under our names.
+    // Both united, as far as there is room: ours first, under our names. One
+    // of theirs that only has a number for a name gets the next that is free.
     void join(const MyPuzzles& others);
 
     [[nodiscard]] const std::vector<MyPuzzle>& all() const { return m_puzzles; }

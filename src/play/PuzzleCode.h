@@ -46,7 +46,7 @@ inline constexpr std::size_t kLongestCode = 64;
 [[nodiscard]] std::variant<CodedPuzzle, CodeFault> readCode(std::string_view text);
 
 // What a link or a paste holds: the text without what surrounds it, be it blanks, the scheme
-// "veyrand:" with or without slashes, or a result in words on the lines before.
+// "veyrand:" with or without slashes, or a result in words before it.
 [[nodiscard]] std::string_view codeInLink(std::string_view text);
 
 // In words for the player.
