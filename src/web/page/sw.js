@@ -12,9 +12,12 @@ self.addEventListener('activate', (event) => {
     names.filter((name) => name.startsWith('veyrand-') && name !== version).map((name) => caches.delete(name)))));
 });
 
+let opened; // once, for a page asks for a score of files at a time
+
 async function answer(request) {
-  const copy = await caches.open(version);
-  const kept = await copy.match(request.mode === 'navigate' ? './' : request, { ignoreSearch: true });
+  opened ??= caches.open(version);
+  const copy = await opened;
+  const kept = await copy.match(request.mode === 'navigate' ? './' : request);
   if (kept) {
     return kept;
   }
