@@ -1,15 +1,8 @@
 // What was solved stays on the map after a new game; questions and checks say no more than is so;
 // codes are copied in play and opened from files.
+include("include/faults.js");
 include("include/places.js");
 const classic = "button-classicbuttonon", menu = "button-menubuttonon", startNew = "fullScreen-4i";
-function faultOf(action) {
-    try {
-        action();
-    } catch (error) {
-        return String(error);
-    }
-    return "";
-}
 function launch(options) {
     game.start(Object.assign({ journal: true,
         record: { TRNLevelKey: 3, TRNStageKey: 4, TRNScoreKey: 200, TRNFirstHintClickKey: true } }, options));

@@ -70,14 +70,7 @@ game.click("button-menubuttonon");
 game.wait(2);
 
 // Bad codes and days to come are refused in words.
-function faultOf(action) {
-    try {
-        action();
-    } catch (error) {
-        return String(error);
-    }
-    return "";
-}
+include("include/faults.js");
 ok(faultOf(() => game.open("37T8O")).includes('"O", letter 5'), "a letter that no code has");
 ok(faultOf(() => game.open("37T8649F2MEK")).includes("slip"), "a slip");
 ok(faultOf(() => game.daily("2026-11-22")).includes("still to come"), "tomorrow");

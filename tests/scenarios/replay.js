@@ -1,5 +1,6 @@
 // A solution is looked at again, step by step or running, with a word for each move; it is marked
 // where it left the shortest ways, and they can be looked at too.
+include("include/hints.js");
 include("include/places.js");
 game.start({ journal: true, record: { TRNLevelKey: 3, TRNStageKey: 4, TRNScoreKey: 200, TRNFirstHintClickKey: true } });
 game.wait(3);
@@ -90,11 +91,7 @@ game.wait(1);
 game.open("37T8649F2MEJ");
 game.wait(3);
 leavePage();
-for (let i = 0; i < 60 && game.sheet() === null; ++i) {
-    game.click("button-lightbulbon");
-    game.wait(3);
-}
-game.wait(8);
+solveByHints();
 equal(game.sheet(), { name: "replay", focus: "run" }, "a code is looked at again at once");
 const ways = game.replay().ways;
 const par = game.replay().lines.length - 1;
