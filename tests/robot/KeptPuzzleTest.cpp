@@ -1,18 +1,21 @@
-#include "desktop/posix/FileJournal.h"
-#include "desktop/posix/PosixDisk.h"
-#include "desktop/qt/FilePreferences.h"
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
+#include "robot/PlantedDisk.h"
 #include "robot/Robot.h"
+#include "support/FolderDisk.h"
 #include "support/FolderResources.h"
 #include "support/KilledChild.h"
 #include "support/QtEnvironment.h"
+#include "support/Replayed.h"
+#include "support/Simulator.h"
 
 #include <QTemporaryDir>
 
 #include <array>
 #include <cstdlib>
+#include <functional>
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
@@ -32,20 +35,6 @@ struct Report {
     std::uint64_t hash = 0; // of the state that the action led to
     std::int64_t purse = 0;
     bool isOver = false; // the puzzle
-};
-
-// What outlasts a process: preferences and journals in a folder.
-struct OnDisk {
-    explicit OnDisk(const QString& folder)
-        : preferences(folder + QStringLiteral("/preferences.json"))
-        , journal(disk, folder.toStdString())
-    {
-        preferences.registerDefaults(progress::registeredDefaults());
-    }
-
-    desktop::posix::PosixDisk disk;
-    desktop::qt::FilePreferences preferences;
-    desktop::posix::FileJournal journal;
 };
 
 // The catalogues as they were when the first of them was read: a build beside a long run may put
@@ -78,26 +67,22 @@ const platform::Resources& dataAtTheStart()
 class RestlessPlayer {
 public:
     RestlessPlayer(
-        OnDisk& onDisk, Mode mode, std::uint32_t seed, const KilledChild<Report>::Tell& tell)
-        : m_random(seed)
-        , m_game({ .seed = seed,
-              .store = &onDisk.preferences,
-              .resources = &dataAtTheStart(),
-              .journal = &onDisk.journal })
-        , m_robot(m_game)
+        SimulatedDisk& disk, Mode mode, std::uint32_t seed, const KilledChild<Report>::Tell& tell)
+        : m_simulator(seed, disk, { .resources = &dataAtTheStart() })
         , m_tell(tell)
     {
-        m_game.controller().kept().setReporter([](const std::string& trouble) {
-            std::cerr << trouble << '\n';
-            ::_exit(3); // nothing may be damaged
+        m_simulator.launch([](headless::HeadlessGame& game) {
+            game.controller().kept().setReporter([](const std::string& trouble) {
+                std::cerr << trouble << '\n';
+                ::_exit(3); // nothing may be damaged
+            });
         });
-        m_game.launch();
         if (mode == Mode::Endless) {
-            m_game.currentGame().newPlayer(
+            game().currentGame().newPlayer(
                 std::string(progress::kDefaultPlayerName), Mode::Endless);
-            m_game.controller().flow().startEndlessGame();
+            game().controller().flow().startEndlessGame();
         } else {
-            m_game.controller().flow().startClassicGame();
+            game().controller().flow().startClassicGame();
         }
         report();
     }
@@ -105,24 +90,26 @@ public:
     [[noreturn]] void play()
     {
         for (;;) {
-            m_robot.readPages();
+            Robot robot(game());
+            robot.readPages();
             const std::uint64_t before = session().hash();
             act();
-            if (m_game.controller().flow().session() == nullptr) {
+            if (game().controller().flow().session() == nullptr) {
                 ::_exit(4); // the game came to its end, which is too far away to be reached
             }
             if (session().hash() != before) {
                 report();
             }
             if (pick(3) != 0 || session().settled().isOver()) {
-                m_robot.waitUntilUnblocked();
+                robot.waitUntilUnblocked();
             }
         }
     }
 
 private:
-    unsigned pick(unsigned count) { return static_cast<unsigned>(m_random() % count); }
-    play::Session& session() { return *m_game.controller().flow().session(); }
+    [[nodiscard]] headless::HeadlessGame& game() { return m_simulator.game(); }
+    unsigned pick(unsigned count) { return m_simulator.below(count); }
+    play::Session& session() { return *game().controller().flow().session(); }
 
     void report()
     {
@@ -134,9 +121,9 @@ private:
     {
         switch (pick(10)) {
         case 0:
-            return m_game.controller().history().undo();
+            return game().controller().history().undo();
         case 1:
-            return m_game.controller().history().redo();
+            return game().controller().history().redo();
         case 2:
             return press("delete-" + std::to_string(1 + pick(3)));
         case 3:
@@ -154,14 +141,14 @@ private:
 
     void press(const std::string& key)
     {
-        if (const auto place = m_game.centreOf(key)) {
-            m_game.click(*place);
+        if (const auto place = game().centreOf(key)) {
+            game().click(*place);
         }
     }
 
     void move()
     {
-        const auto all = play::actions(m_game.controller().moves().position());
+        const auto all = play::actions(game().controller().moves().position());
         if (all.empty()) {
             return;
         }
@@ -170,27 +157,31 @@ private:
             return press(board::generateKeyChipKey(click->column, click->row));
         }
         const auto& drag = std::get<play::Drag>(gesture);
-        const auto from = m_game.centreOf(board::generateKeyChipKey(drag.from, drag.fromRow));
-        const auto to = m_game.centreOf(board::generateKeyChipKey(drag.to, drag.toRow));
+        const auto from = game().centreOf(board::generateKeyChipKey(drag.from, drag.fromRow));
+        const auto to = game().centreOf(board::generateKeyChipKey(drag.to, drag.toRow));
         if (from && to) {
-            m_game.press(*from);
-            m_game.release(*to);
+            game().press(*from);
+            game().release(*to);
         }
     }
 
-    std::mt19937 m_random;
-    headless::HeadlessGame m_game;
-    Robot m_robot;
+    Simulator<headless::HeadlessGame> m_simulator;
     KilledChild<Report>::Tell m_tell;
 };
 
 using PlayingProcess = KilledChild<Report>;
 
-PlayingProcess playingProcess(const QString& folder, Mode mode, std::uint32_t seed)
+// The process plays on that disk, which may have a fault.
+PlayingProcess playingProcess(
+    const QString& folder, Mode mode, std::uint32_t seed, std::optional<PlantedFault> fault)
 {
-    return PlayingProcess([&folder, mode, seed](const PlayingProcess::Tell& tell) {
-        OnDisk onDisk(folder);
-        RestlessPlayer(onDisk, mode, seed, tell).play();
+    return PlayingProcess([&folder, mode, seed, fault](const PlayingProcess::Tell& tell) {
+        FolderDisk disk(folder);
+        if (fault) {
+            PlantedDisk planted(disk, *fault);
+            RestlessPlayer(planted, mode, seed, tell).play();
+        }
+        RestlessPlayer(disk, mode, seed, tell).play();
     });
 }
 
@@ -202,8 +193,8 @@ struct Written {
 
 Written writtenIn(const QString& folder, Mode mode)
 {
-    const OnDisk onDisk(folder);
-    const auto text = onDisk.journal.read(play::journalName(progress::kDefaultPlayerName, mode));
+    FolderDisk disk(folder);
+    const auto text = disk.journal().read(play::journalName(progress::kDefaultPlayerName, mode));
     EXPECT_EQ(text.fault, "");
     const auto journal
         = play::readJournal(text.contents.value_or(""), progress::kDefaultPlayerName);
@@ -239,48 +230,57 @@ void compareResumed(const Report& resumed, const Written& written)
     }
 }
 
-int killsWanted()
+int numberIn(const char* variable, int usual)
 {
-    const char* const wanted = std::getenv("VEYRAND_KILLS");
-    return wanted != nullptr ? std::atoi(wanted) : kUsualKills;
+    const char* const wanted = std::getenv(variable);
+    return wanted != nullptr ? std::atoi(wanted) : usual;
 }
 
-} // namespace
+struct Kills {
+    int kills = 0;
+    std::uint32_t seed = 11;
+    std::optional<PlantedFault> fault {};
+    std::function<bool()> hasFailed = [] { return ::testing::Test::HasFailure(); };
+};
 
-TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
+void prepare(const QString& folder)
+{
+    FolderDisk disk(folder);
+    progress::updatePlayerRecord(disk.preferences(), progress::kDefaultPlayerName,
+        { .level = 1,
+            .stage = 2,
+            .score = kFullPurse,
+            .firstHintClick = true,
+            .endlessScore = kFullPurse,
+            .endlessPar = 4 });
+    progress::setEndlessGameUnlocked(disk.preferences(), true);
+}
+
+void killRestlessPlayers(const Kills& trial)
 {
     // Read here, before the others come of this process.
     headless::HeadlessGame({ .resources = &dataAtTheStart() }).launch();
     QTemporaryDir folder(killedChildsFolder());
-    {
-        OnDisk onDisk(folder.path());
-        progress::updatePlayerRecord(onDisk.preferences, progress::kDefaultPlayerName,
-            { .level = 1,
-                .stage = 2,
-                .score = kFullPurse,
-                .firstHintClick = true,
-                .endlessScore = kFullPurse,
-                .endlessPar = 4 });
-        progress::setEndlessGameUnlocked(onDisk.preferences, true);
-    }
-    std::mt19937 random(11);
+    prepare(folder.path());
+    SCOPED_TRACE(howToReplay("kill", trial.seed)); // the moments of the kills are the machine's own
+    std::mt19937 random(trial.seed);
     int actions = 0;
     int finished = 0;
     std::array<std::optional<Written>, 2> left;
-    const int kills = killsWanted();
-    for (int kill = 0; kill < kills; ++kill) {
+    for (int kill = 0; kill < trial.kills; ++kill) {
         SCOPED_TRACE("kill " + std::to_string(kill));
         const Mode mode = kill % 2 == 0 ? Mode::Classic : Mode::Endless;
         const QString path = folder.path();
-        auto player = playingProcess(path, mode, static_cast<std::uint32_t>(kill + 1));
+        auto player = playingProcess(
+            path, mode, trial.seed + static_cast<std::uint32_t>(kill), trial.fault);
         auto last = player.next();
         ASSERT_TRUE(last.has_value()) << "it could not play";
         auto& before = left.at(static_cast<std::size_t>(kill % 2));
         if (before) {
             compareResumed(*last, *before);
         }
-        if (::testing::Test::HasFailure()) {
-            folder.setAutoRemove(false);
+        if (trial.hasFailed()) {
+            folder.setAutoRemove(trial.fault.has_value());
             FAIL() << "what is on the disk stays in " << folder.path().toStdString();
         }
         for (auto more = random() % 12; more > 0 && last; --more) {
@@ -297,11 +297,35 @@ TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
         finished += last->isOver ? 1 : 0;
         before = writtenIn(folder.path(), mode);
         compare(*last, *before);
-        ASSERT_FALSE(::testing::Test::HasFailure());
+        ASSERT_FALSE(trial.hasFailed());
     }
-    EXPECT_GT(actions, kills * 3) << "too little was played to mean anything";
-    std::cout << kills << " kills, " << actions << " actions, " << finished
+    EXPECT_GT(actions, trial.kills * 3) << "too little was played to mean anything";
+    std::cout << trial.kills << " kills, " << actions << " actions, " << finished
               << " kills between two puzzles; all found again\n";
+}
+
+} // namespace
+
+TEST(KeptPuzzle, IsFoundAgainAtWhateverMomentTheGameIsKilled)
+{
+    killRestlessPlayers({ .kills = numberIn("VEYRAND_KILLS", kUsualKills),
+        .seed = static_cast<std::uint32_t>(numberIn("VEYRAND_KILLS_SEED", 11)) });
+}
+
+// Faults that are planted, to see that they would be found.
+TEST(KeptPuzzle, ThatADiskLosesOrChangesIsMissed)
+{
+    for (const PlantedFault fault : kPlantedFaults) {
+        ::testing::TestPartResultArray found;
+        {
+            const ::testing::ScopedFakeTestPartResultReporter reporter(
+                ::testing::ScopedFakeTestPartResultReporter::INTERCEPT_ONLY_CURRENT_THREAD, &found);
+            killRestlessPlayers({ .kills = kUsualKills, .fault = fault, .hasFailed = [&found] {
+                                     return found.size() > 0;
+                                 } });
+        }
+        EXPECT_GT(found.size(), 0) << "planted fault " << static_cast<int>(fault);
+    }
 }
 
 } // namespace veyrand::test

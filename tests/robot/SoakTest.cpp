@@ -1,13 +1,13 @@
 #include "app/VirtualGame.h"
-#include "desktop/posix/FileJournal.h"
-#include "desktop/posix/PosixDisk.h"
-#include "desktop/qt/FilePreferences.h"
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 #include "robot/MemoryUse.h"
 #include "robot/Robot.h"
+#include "support/FolderDisk.h"
 #include "support/Places.h"
 #include "support/QtEnvironment.h"
+#include "support/Replayed.h"
+#include "support/Simulator.h"
 
 #include <QTemporaryDir>
 
@@ -43,37 +43,38 @@ int openDescriptors()
 class LongVisit {
 public:
     explicit LongVisit(std::uint32_t seed)
-        : m_random(seed)
+        : m_simulator(seed, m_disk, options())
     {
-        m_game.launch();
-        m_game.wait(1.0);
-        m_robot.click("button-endlessbuttonon");
+        m_simulator.launch();
+        game().wait(1.0);
+        m_robot.emplace(game().headless());
+        m_robot->click("button-endlessbuttonon");
     }
 
     // Plays until so many hours of the visit are over, and rests.
     Holdings after(double hours)
     {
-        while (m_game.runLoop().now() < hours * kHour && !testing::Test::HasFailure()) {
+        while (game().runLoop().now() < hours * kHour && !testing::Test::HasFailure()) {
             playOne();
             std::uniform_real_distribution<double> pause(0.0, 30.0);
-            m_game.wait(pause(m_random));
+            game().wait(pause(m_simulator.dice()));
         }
         // What is painted for one size may be kept until there is another.
         for (const QSize size : { kOtherSize, kUsualSize }) {
             resize(size);
-            m_game.wait(60.0);
-            static_cast<void>(m_game.picture());
+            game().wait(60.0);
+            static_cast<void>(game().picture());
         }
-        return { memoryUse(), openDescriptors(), m_game.runLoop().callsWaiting() };
+        return { memoryUse(), openDescriptors(), game().runLoop().callsWaiting() };
     }
 
     [[nodiscard]] int solved() const { return m_solved; }
-    [[nodiscard]] unsigned long eventsSent() const { return m_robot.eventsSent(); }
+    [[nodiscard]] unsigned long eventsSent() const { return m_robot->eventsSent(); }
 
 private:
     void playOne()
     {
-        m_robot.readPages();
+        m_robot->readPages();
         switch (m_solved % 8) {
         case 1:
             press("button-lightbulbon");
@@ -84,6 +85,7 @@ private:
             key("Ctrl+Z");
             key("Ctrl+Shift+Z");
             key("Ctrl+Z");
+            stepInHaste();
             break;
         case 4:
             key("Ctrl+P");
@@ -99,42 +101,58 @@ private:
         default:
             break;
         }
-        m_robot.readPages();
-        ASSERT_TRUE(m_robot.solvePuzzle());
+        m_robot->readPages();
+        ASSERT_TRUE(m_robot->solvePuzzle());
         ++m_solved;
-        static_cast<void>(m_game.picture()); // what is seen is painted
-        m_game.wait(0.3);
-        static_cast<void>(m_game.picture());
-        m_robot.waitUntilUnblocked();
-        static_cast<void>(m_game.sounds().takePlayed());
+        static_cast<void>(game().picture()); // what is seen is painted
+        game().wait(0.3);
+        static_cast<void>(game().picture());
+        m_robot->waitUntilUnblocked();
+        static_cast<void>(game().sounds().takePlayed());
     }
 
     void resize(QSize size)
     {
         m_size = size;
-        m_game.resize(size);
+        game().resize(size);
     }
 
     void press(const std::string& button)
     {
-        if (const auto place = m_game.centreOf(button)) {
-            m_game.click(*place);
-            m_robot.waitUntilUnblocked();
+        if (const auto place = game().centreOf(button)) {
+            game().click(*place);
+            m_robot->waitUntilUnblocked();
         }
     }
 
     void key(const char* keys)
     {
-        m_game.key(QString::fromLatin1(keys));
-        m_game.wait(1.5); // a page stays for a second
-        static_cast<void>(m_game.picture());
-        m_robot.waitUntilUnblocked();
+        game().key(QString::fromLatin1(keys));
+        game().wait(1.5); // a page stays for a second
+        static_cast<void>(game().picture());
+        m_robot->waitUntilUnblocked();
+    }
+
+    // Every step while the one before is still shown.
+    void stepInHaste()
+    {
+        constexpr double kAmidAStep = 0.1;
+        move();
+        move();
+        for (const char* const keys :
+            { "Ctrl+Z", "Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Shift+Z", "Ctrl+Z", "Ctrl+Z" }) {
+            game().key(QString::fromLatin1(keys));
+            game().wait(kAmidAStep);
+            m_robot->checkAlways();
+        }
+        game().wait(1.5);
+        m_robot->waitUntilUnblocked();
     }
 
     // Some move, wherever it leads.
     void move()
     {
-        const auto all = play::actions(m_game.controller().moves().position());
+        const auto all = play::actions(game().controller().moves().position());
         for (const play::Gesture& gesture : all) {
             if (const auto* const click = std::get_if<play::Click>(&gesture)) {
                 return press(board::generateKeyChipKey(click->column, click->row));
@@ -142,20 +160,20 @@ private:
         }
     }
 
+    [[nodiscard]] static app::VirtualGame::Options options()
+    {
+        return { .preferences
+            = { .values = { { std::string(progress::kEndlessGameUnlockedKey), true } },
+                .records = { { progress::playerRecordKey(progress::kDefaultPlayerName),
+                    { { std::string(progress::kEndlessParKey), 3 } } } } },
+            .dataFolder = QString::fromStdString(dataFolder()) };
+    }
+    [[nodiscard]] app::VirtualGame& game() { return m_simulator.game(); }
+
     QTemporaryDir m_folder;
-    desktop::posix::PosixDisk m_disk;
-    desktop::qt::FilePreferences m_preferences { m_folder.filePath(
-        QStringLiteral("preferences.json")) };
-    desktop::posix::FileJournal m_journal { m_disk, m_folder.path().toStdString() };
-    std::mt19937 m_random;
-    app::VirtualGame m_game { { .seed = 5,
-        .preferences = { .values = { { std::string(progress::kEndlessGameUnlockedKey), true } },
-            .records = { { progress::playerRecordKey(progress::kDefaultPlayerName),
-                { { std::string(progress::kEndlessParKey), 3 } } } } },
-        .store = &m_preferences,
-        .journal = &m_journal,
-        .dataFolder = QString::fromStdString(dataFolder()) } };
-    Robot m_robot { m_game.headless() };
+    FolderDisk m_disk { m_folder.path() };
+    Simulator<app::VirtualGame> m_simulator;
+    std::optional<Robot> m_robot;
     int m_solved = 0;
     QSize m_size = kUsualSize;
 };
@@ -168,7 +186,9 @@ TEST(Soak, DaysOfPlayLeaveNothingBehind)
         GTEST_SKIP();
     }
     const int hours = numberOf("VEYRAND_SOAK_HOURS", 2);
-    LongVisit visit(static_cast<std::uint32_t>(numberOf("VEYRAND_SOAK_SEED", 1)));
+    const auto seed = static_cast<std::uint32_t>(numberOf("VEYRAND_SOAK_SEED", 1));
+    SCOPED_TRACE(howToReplay("soak", seed));
+    LongVisit visit(seed);
     const Holdings first = visit.after(1.0);
     Holdings most = first;
     for (int hour = 2; hour <= hours && !HasFailure(); ++hour) {
