@@ -61,14 +61,14 @@ std::string CagedGame::perform(const Event& event)
     ++m_events;
     try {
         if (event.kind == Kind::Kill || event.kind == Kind::Quit) {
-            return restart();
+            return restart(event.kind == Kind::Quit ? End::Quit : End::Kill);
         }
         act(event);
         for (const std::string& effect : game().sounds().takePlayed()) {
             m_solved += effect == "CymbalRoll" ? 1 : 0;
         }
         if (game().quit().terminated()) {
-            return restart();
+            return restart(End::Quit);
         }
         std::string fault = std::exchange(m_faultOfPage, {});
         if (fault.empty()) {
@@ -157,7 +157,6 @@ void CagedGame::act(const Event& event)
         m_disk.journal().failWith(event.text);
         m_isDiskFull = !event.text.empty();
         m_hasDiskFailed = m_hasDiskFailed || m_isDiskFull;
-        m_setAside = m_hasDiskFailed ? SetAside::AfterAFault : m_setAside;
         return;
     case Kind::Wait:
         return game().wait(event.seconds);
@@ -262,9 +261,15 @@ std::vector<std::string> CagedGame::keys()
     return keys.empty() ? game().gameData().gameObjects().keys() : keys;
 }
 
-// As after a kill: what was in play must be found again.
-std::string CagedGame::restart()
+// What was in play must be found again, unless the disk failed and nobody could write it since.
+std::string CagedGame::restart(End end)
 {
+    if (end == End::Quit) {
+        const std::string words = game().controller().kept().lastWords();
+        if (!m_isDiskFull && !words.empty()) {
+            return "the last words of a game on a disk that is well: " + words;
+        }
+    }
     for (const std::string& fault : { faultOfJournals(m_disk.journal(), m_setAside),
              faultOfPreferences(m_disk.preferences()) }) {
         if (!fault.empty()) {
@@ -277,7 +282,8 @@ std::string CagedGame::restart()
     const auto before = session != nullptr && isKept && !isPractice
         ? std::optional(session->settled())
         : std::nullopt;
-    const bool mayBeLost = m_hasDiskFailed; // and the player was told
+    const bool mayBeLost = end == End::Quit ? m_isDiskFull : m_hasDiskFailed; // as the player knows
+    m_setAside = mayBeLost ? SetAside::AfterALoss : m_setAside;
     launch();
     if (!before || mayBeLost) {
         return {};

@@ -41,7 +41,9 @@ private:
     void set(const std::string& item, int value);
     [[nodiscard]] std::optional<platform::Point> placeOf(
         const std::string& key, platform::Point place);
-    [[nodiscard]] std::string restart();
+    // Whoever quits lets the game say its last words; whoever kills it does not.
+    enum class End { Quit, Kill };
+    [[nodiscard]] std::string restart(End end);
     [[nodiscard]] bool looksClosely(unsigned long shift) const;
 
     Looking m_looking;

@@ -15,9 +15,9 @@ namespace veyrand::test {
 [[nodiscard]] std::string faultAtAnyMoment(headless::HeadlessGame& game);
 // The same, but slow to find out: one layer for each thing, and none for nothing.
 [[nodiscard]] std::string faultOfLayers(headless::HeadlessGame& game);
-// Every journal can be read, and none had to be set aside; but one that could not be written for a
-// while no longer fits the record.
-enum class SetAside { Never, AfterAFault };
+// Every journal can be read, and none had to be set aside; but one that could not be written until
+// the game ended no longer fits the record.
+enum class SetAside { Never, AfterALoss };
 [[nodiscard]] std::string faultOfJournals(const platform::MemoryJournal& journal, SetAside mayBe);
 // The preferences hold nothing that the game would not understand.
 [[nodiscard]] std::string faultOfPreferences(const platform::Preferences& preferences);
