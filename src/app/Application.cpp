@@ -25,23 +25,34 @@
 #include "desktop/qt/QtWindow.h"
 #include "desktop/qt/SettingsWindow.h"
 #include "desktop/qt/SystemPorts.h"
+#include "play/PuzzleCode.h"
 #include "play/Recording.h"
 #include "progress/Misunderstood.h"
 #include "progress/PlayerKeys.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTextStream>
 
+#include <cerrno>
 #include <memory>
 #include <optional>
+#include <system_error>
 
 namespace veyrand::app {
 
 namespace {
+
+// What is there, or has what no code has: a slash or a dot.
+bool isFileName(const std::string& puzzle, const QFileInfo& file)
+{
+    const bool isThere = file.exists() && !file.isDir();
+    return isThere || play::codeInLink(puzzle).find_first_of("/.") != std::string_view::npos;
+}
 
 // The real ports and the one game on them, in the order in which they need each other.
 class Application {
@@ -169,18 +180,21 @@ public:
     void open(const std::string& puzzle)
     {
         constexpr std::size_t kMostBytes = 4096;
-        const QFileInfo file(QString::fromStdString(puzzle));
+        const QFileInfo file(QDir::cleanPath(QString::fromStdString(puzzle)));
+        const std::string name = file.fileName().toStdString();
         auto& practice = m_game.controller().practice();
-        if (!file.isFile()) {
+        if (!isFileName(puzzle, file)) {
             return practice.openOrTell(puzzle);
         }
-        const auto contents
+        const auto [bytes, fault]
             = desktop::posix::PosixDisk().read(file.absoluteFilePath().toStdString(), kMostBytes);
-        if (contents.bytes) {
-            practice.openOrTell(*contents.bytes);
-        } else {
-            practice.tell(m_game.controller().context().texts.text("transfer.notRead",
-                { { "file", file.fileName().toStdString() }, { "why", contents.fault } }));
+        if (!bytes) {
+            const std::string why = fault.empty() ? std::generic_category().message(ENOENT) : fault;
+            return practice.tell(m_game.controller().context().texts.text(
+                "transfer.notRead", { { "file", name }, { "why", why } }));
+        }
+        if (const std::string noPuzzle = practice.open(*bytes); !noPuzzle.empty()) {
+            practice.tell(name + ": " + noPuzzle);
         }
     }
 

@@ -93,8 +93,9 @@ start_bus() {
     string:org.a11y.Status string:IsEnabled variant:boolean:true >/dev/null
 }
 
+# start_game ARGUMENTS...: what the program is given.
 start_game() {
-  "$program" >>"$folder/log" 2>&1 &
+  "$program" "$@" >>"$folder/log" 2>&1 &
   game=$!
   children+=("$game")
   await 'the window' xdotool search --onlyvisible --name '^Veyrand$'
