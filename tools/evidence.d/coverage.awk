@@ -8,6 +8,7 @@ BEGIN {
     # file, or * for any | a piece of the line | why the branch is never taken
     if (entry !~ /^#/ && split(entry, part, " \\| ") == 3) {
       reason[part[1], part[2]] = part[3]
+      idle[part[1] " | " part[2]] = part[1]
     }
   }
 }
@@ -32,7 +33,7 @@ BEGIN {
   match(rest, /^ *[0-9]+:/)
   number = substr(rest, 1, RLENGTH - 1) + 0
   text[file, number] = substr(rest, RLENGTH + 1)
-  branch = 0
+  branch = clears_away = 0
   # At a lone brace an exception cleans up; there is no code of ours.
   if (text[file, number] ~ /^ *}$/) next
   gsub(/[ *]/, "", count)
@@ -42,9 +43,19 @@ BEGIN {
   next
 }
 
+# The blocks that the line consists of, each before its branches. Those that run only while an
+# exception passes through are marked: the compiler's clearing away. What a handler does is ours: there
+# the whole line runs for an exception only, and is never reached without one.
+/^ *[^:]+: *[0-9]+-block/ {
+  clears_away = /^ *\$/
+  next
+}
+
 /^branch +[0-9]+ / {
-  if ($0 ~ /\(throw\)/ || text[file, number] ~ /^ *}$/) next
+  # Where a handler begins, the branch is whether the exception is one of its kind.
+  if (/\(throw\)/ || text[file, number] ~ /^ *}( catch \(.*)?$/) next
   branch++
+  if (clears_away) next
   key = file SUBSEP number SUBSEP branch
   branches[key] = 1
   if ($0 !~ /never executed/ && $0 !~ /taken 0/) taken[key] = 1
@@ -53,7 +64,10 @@ BEGIN {
 function explanation(file, source,   k, part) {
   for (k in reason) {
     split(k, part, SUBSEP)
-    if ((part[1] == file || part[1] == "*") && index(source, part[2]) > 0) return reason[k]
+    if ((part[1] == file || part[1] == "*") && index(source, part[2]) > 0) {
+      delete idle[part[1] " | " part[2]]
+      return reason[k]
+    }
   }
   return ""
 }
@@ -95,6 +109,9 @@ END {
     if (why == "") missed_branches[of] += missed[k]
     printf "%s:%d: %d of %d branches never taken: %s\n    %s\n",
       at[1], at[2], missed[k], on_line[k], plain(text[k]), why == "" ? "NOT EXPLAINED" : why
+  }
+  for (k in idle) {
+    if (idle[k] == "*" || room_of(idle[k]) in is_wanted) print "coverage.txt explains what is reached: " k
   }
   count = split(wanted_rooms, list, " ")
   for (i = 1; i <= count; i++) {

@@ -1,15 +1,16 @@
 #include "Mutants.h"
+#include "Patience.h"
 
 #include <fstream>
 
 // Linked into the scenario runner of the mutated copy: writes down at the end which mutants' places
-// it came by.
+// it came by, and ends when it works for too long.
 namespace veyrand_mutants {
 namespace {
 
 class Watcher {
 public:
-    Watcher() = default;
+    Watcher() { workForNoLongerThanAllowed(); }
     Watcher(const Watcher&) = delete;
     Watcher& operator=(const Watcher&) = delete;
     ~Watcher()

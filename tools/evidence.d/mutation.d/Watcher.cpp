@@ -1,10 +1,12 @@
 #include "Mutants.h"
+#include "Patience.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
 
 // Linked into every test program of the mutated copy: writes down after each test how long it took
-// and which mutants' places it came by. A scenario runner is watched by another file.
+// and which mutants' places it came by, and ends a test that works for too long. A scenario runner
+// is watched by another file.
 namespace veyrand_mutants {
 namespace {
 
@@ -34,7 +36,13 @@ private:
     std::ofstream m_file;
 };
 
+class Impatience : public testing::EmptyTestEventListener {
+public:
+    void OnTestStart(const testing::TestInfo&) override { workForNoLongerThanAllowed(); }
+};
+
 [[maybe_unused]] const bool isWatching = [] {
+    testing::UnitTest::GetInstance()->listeners().Append(new Impatience);
     const char* path = std::getenv("VEYRAND_MUTANTS_REACHED");
     if (path != nullptr) {
         testing::UnitTest::GetInstance()->listeners().Append(new Watcher(path));
