@@ -1,0 +1,228 @@
+#include "headless/Tour.h"
+
+#include "controller/AccessibleTree.h"
+#include "support/Places.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+namespace veyrand::test {
+
+namespace {
+
+// Two digits are finer than a pixel and coarser than what compilers disagree on.
+std::string inShort(double number)
+{
+    std::array<char, 32> text {};
+    std::snprintf(text.data(), text.size(), "%.2f", number + 1e-7);
+    std::string digits = text.data();
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.back() == '.') {
+        digits.pop_back();
+    }
+    return digits == "-0" ? "0" : digits;
+}
+
+std::string inShort(const board::Color& colour)
+{
+    return inShort(colour.red) + ',' + inShort(colour.green) + ',' + inShort(colour.blue) + ','
+        + inShort(colour.alpha);
+}
+
+template <class Rect> std::string placeOf(const Rect& rect)
+{
+    return inShort(static_cast<double>(rect.x)) + ' ' + inShort(static_cast<double>(rect.y)) + ' '
+        + inShort(static_cast<double>(rect.width)) + ' '
+        + inShort(static_cast<double>(rect.height));
+}
+
+std::string nameOf(const present::Content& content)
+{
+    if (const auto* const image = std::get_if<present::ImageContent>(&content)) {
+        return image->name + (image->mirror == present::Mirror::None ? "" : " mirrored");
+    }
+    if (const auto* const text = std::get_if<present::TextContent>(&content)) {
+        return '"' + text->text + "\" " + inShort(text->color);
+    }
+    return "colour " + inShort(std::get<present::SolidContent>(content).color);
+}
+
+std::string inWords(const present::DisplayItem& item)
+{
+    std::string words = nameOf(item.content) + ' ' + placeOf(item.rect);
+    if (item.opacity < 1.0F) {
+        words += " opacity " + inShort(static_cast<double>(item.opacity));
+    }
+    if (item.glow > 0.0F) {
+        words += " glow " + inShort(static_cast<double>(item.glow));
+    }
+    if (item.lift > 0.0F) {
+        words += " lift " + inShort(static_cast<double>(item.lift));
+    }
+    return words + (item.pressed ? " pressed" : "")
+        + (item.motion == present::Motion::Moving ? " moving" : "");
+}
+
+void addNode(
+    const controller::AccessibleNode& node, const std::string& indent, std::vector<std::string>& to)
+{
+    std::string words = indent + std::string(controller::nameOf(node.role)) + ' ' + node.name
+        + " = " + node.value;
+    for (const controller::AccessibleAction& action : node.actions) {
+        words += " [" + action.text + ']';
+    }
+    to.push_back(std::move(words));
+    for (const controller::AccessibleNode& child : node.children) {
+        addNode(child, indent + "  ", to);
+    }
+}
+
+// What has come since, in the order in which it is met, and how much has gone.
+std::string changesBetween(
+    const std::vector<std::string>& before, const std::vector<std::string>& now)
+{
+    std::map<std::string, int> counts;
+    for (const std::string& line : before) {
+        ++counts[line];
+    }
+    std::string changes;
+    std::size_t kept = 0;
+    for (const std::string& line : now) {
+        if (counts[line]-- <= 0) {
+            changes += line + '\n';
+        } else {
+            ++kept;
+        }
+    }
+    return changes + "gone: " + std::to_string(before.size() - kept) + '\n';
+}
+
+// The first place where the two differ, with the stop that it belongs to.
+std::string differenceBetween(const std::string& recorded, const std::string& now)
+{
+    std::istringstream before(recorded);
+    std::istringstream after(now);
+    std::string stop;
+    for (std::string was, is;;) {
+        const bool hasWas = static_cast<bool>(std::getline(before, was));
+        const bool hasIs = static_cast<bool>(std::getline(after, is));
+        if (!hasWas && !hasIs) {
+            return {};
+        }
+        if (hasWas != hasIs || was != is) {
+            return "after " + stop + "\n  recorded: " + (hasWas ? was : "the end")
+                + "\n  now:      " + (hasIs ? is : "the end");
+        }
+        if (is.starts_with("= ")) {
+            stop = is.substr(2);
+        }
+    }
+}
+
+} // namespace
+
+Tour::Tour(Options options)
+    : HeadlessPlay(std::move(options))
+{
+    game().listen();
+}
+
+void Tour::addPainted(Lines& lines)
+{
+    for (const present::DisplayItem& item : game().game().layers().displayList()) {
+        lines.push_back(inWords(item));
+    }
+}
+
+void Tour::addSheet(Lines& lines)
+{
+    const auto& sheets = game().controller().sheets();
+    for (const auto& places : { sheets.places(), sheets.buttons() }) {
+        for (const present::SheetPlace& place : places) {
+            lines.push_back("place " + place.key + ' ' + placeOf(place.rect));
+        }
+    }
+    if (sheets.isOpen()) {
+        lines.push_back("sheet " + sheets.name() + ", keys on " + sheets.focus());
+    }
+}
+
+Tour::Lines Tour::seen()
+{
+    Lines lines;
+    addPainted(lines);
+    addSheet(lines);
+    addNode(controller::accessibleTree(game().controller()), "reader: ", lines);
+    auto& controller = game().controller();
+    if (const auto stop = controller.focus().shown()) {
+        lines.push_back("keys on " + stop->key);
+    }
+    lines.push_back(std::string("cursor ").append(input::nameOf(controller.answers().cursor())));
+    lines.push_back("tip " + controller.answers().tip());
+    if (game().alerts().isOpen()) {
+        lines.push_back("asked: " + game().alerts().alert().message);
+    }
+    return lines;
+}
+
+void Tour::lookAway()
+{
+    m_last = seen();
+    static_cast<void>(game().takeAnnouncements());
+    sounds();
+}
+
+void Tour::stop(const std::string& name)
+{
+    Lines now = seen();
+    m_notes += "= " + name + '\n' + changesBetween(m_last, now);
+    for (const std::string& sentence : game().takeAnnouncements()) {
+        m_notes += "said " + sentence + '\n';
+    }
+    for (const std::string& effect : sounds()) {
+        m_notes += "heard " + effect + '\n';
+    }
+    m_last = std::move(now);
+}
+
+void Tour::keys(const std::vector<std::string>& all, double seconds)
+{
+    for (const std::string& key : all) {
+        game().key(key);
+        wait(seconds);
+        stop(key);
+    }
+}
+
+void Tour::pointAt(const std::string& key, double seconds)
+{
+    if (const auto onBoard = game().centreOf(key)) {
+        game().move(*onBoard);
+    }
+    for (const present::SheetPlace& place : game().controller().sheets().places()) {
+        if (place.key == key) {
+            game().move({ .x = place.rect.x, .y = place.rect.y });
+        }
+    }
+    wait(seconds);
+    stop("pointing at " + key);
+}
+
+void Tour::compareWith(const std::string& name) const
+{
+    const std::string file = sourceFolder() + "/tests/headless/tours/" + name + ".txt";
+    if (std::getenv("VEYRAND_RECORD_TOURS") != nullptr) {
+        std::ofstream(file, std::ios::binary) << m_notes;
+        return;
+    }
+    std::ostringstream recorded;
+    recorded << std::ifstream(file, std::ios::binary).rdbuf();
+    EXPECT_EQ(differenceBetween(recorded.str(), m_notes), "")
+        << file << ": if that is meant, record it anew with VEYRAND_RECORD_TOURS=1";
+}
+
+} // namespace veyrand::test
