@@ -1,6 +1,8 @@
 #include "headless/Tour.h"
 
 #include "controller/AccessibleTree.h"
+#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 #include "support/Places.h"
 
 #include <array>
@@ -131,6 +133,28 @@ Tour::Tour(Options options)
     game().listen();
 }
 
+Tour::Options Tour::ofAPlayer()
+{
+    Options options;
+    options.preferences.values[std::string(progress::kEndlessGameUnlockedKey)] = true;
+    options.preferences.records[progress::playerRecordKey(progress::kDefaultPlayerName)]
+        = progress::storedRecord({ .level = kStanding.level,
+            .stage = kStanding.stage,
+            .score = 850,
+            .firstHintClick = true,
+            .endlessScore = 120,
+            .endlessPar = 7 });
+    return options;
+}
+
+void Tour::change(const std::function<void(progress::Settings&)>& how)
+{
+    progress::Settings settings = progress::readSettings(game().preferences());
+    how(settings);
+    progress::writeSettings(game().preferences(), settings);
+    game().game().settingsChanged();
+}
+
 void Tour::addPainted(Lines& lines)
 {
     for (const present::DisplayItem& item : game().game().layers().displayList()) {
@@ -157,12 +181,11 @@ Tour::Lines Tour::seen()
     addPainted(lines);
     addSheet(lines);
     addNode(controller::accessibleTree(game().controller()), "reader: ", lines);
-    auto& controller = game().controller();
-    if (const auto stop = controller.focus().shown()) {
+    if (const auto stop = controller().focus().shown()) {
         lines.push_back("keys on " + stop->key);
     }
-    lines.push_back(std::string("cursor ").append(input::nameOf(controller.answers().cursor())));
-    lines.push_back("tip " + controller.answers().tip());
+    lines.push_back(std::string("cursor ").append(input::nameOf(controller().answers().cursor())));
+    lines.push_back("tip " + controller().answers().tip());
     if (game().alerts().isOpen()) {
         lines.push_back("asked: " + game().alerts().alert().message);
     }
@@ -210,6 +233,17 @@ void Tour::pointAt(const std::string& key, double seconds)
     }
     wait(seconds);
     stop("pointing at " + key);
+}
+
+void Tour::pointAtEverything(const std::string& where)
+{
+    lookAway();
+    for (const std::string& key : table().keys()) {
+        pointAt(key, 1.5);
+    }
+    game().leave();
+    wait(1.0);
+    stop("nothing pointed at on " + where);
 }
 
 void Tour::compareWith(const std::string& name) const

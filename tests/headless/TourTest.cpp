@@ -1,8 +1,6 @@
 #include "headless/Tour.h"
 
 #include "play/Trail.h"
-#include "progress/PlayerKeys.h"
-#include "progress/PlayerRecord.h"
 #include "progress/RuleSets.h"
 #include "progress/Settings.h"
 
@@ -11,47 +9,15 @@
 
 namespace veyrand::test {
 
-namespace {
-
 using progress::Place;
-
-constexpr Place kStanding { 5, 6 };
-
-headless::HeadlessGame::Options ofAPlayer()
-{
-    headless::HeadlessGame::Options options;
-    options.preferences.values[std::string(progress::kEndlessGameUnlockedKey)] = true;
-    options.preferences.records[progress::playerRecordKey(progress::kDefaultPlayerName)]
-        = progress::storedRecord({ .level = kStanding.level,
-            .stage = kStanding.stage,
-            .score = 850,
-            .firstHintClick = true,
-            .endlessScore = 120,
-            .endlessPar = 7 });
-    return options;
-}
-
-} // namespace
 
 // What a tour meets: a player who has come half way, solved the last days' puzzles and kept some.
 class Tours : public Tour {
 protected:
-    Tours()
-        : Tour(ofAPlayer())
-    {
-        wait(3.0);
-    }
+    Tours() { wait(3.0); }
 
-    controller::GameController& controller() { return game().controller(); }
     controller::Sheets& sheets() { return controller().sheets(); }
 
-    void change(const std::function<void(progress::Settings&)>& how)
-    {
-        progress::Settings settings = progress::readSettings(game().preferences());
-        how(settings);
-        progress::writeSettings(game().preferences(), settings);
-        game().game().settingsChanged();
-    }
     void solveEverything()
     {
         play::Results results;
