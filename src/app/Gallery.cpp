@@ -1,7 +1,7 @@
 #include "app/Gallery.h"
 
-#include "app/SheetPictures.h"
 #include "app/VirtualGame.h"
+#include "headless/SheetPictures.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
 #include "progress/Settings.h"
@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace veyrand::app {
@@ -100,7 +101,8 @@ constexpr std::array kTitlePages {
 // Goes from picture to picture in one game, by the operations that a player's clicks would reach.
 class Gallery {
 public:
-    Gallery(const PageToShow& wanted, const QDir& folder)
+    // Nothing is painted without a folder.
+    Gallery(const PageToShow& wanted, std::optional<QDir> folder)
         : m_game({ .screen = { .width = static_cast<double>(wanted.size.width()),
                        .height = static_cast<double>(wanted.size.height()) },
             .window = wanted.size,
@@ -109,7 +111,7 @@ public:
                     { { "Language", wanted.language } } } } },
             .dataFolder = wanted.dataFolder,
             .languagesFolder = wanted.languagesFolder })
-        , m_folder(folder)
+        , m_folder(std::move(folder))
     {
     }
 
@@ -146,6 +148,9 @@ public:
         return m_complete;
     }
 
+    // Of what has been painted, or would have been.
+    [[nodiscard]] const std::vector<std::string>& names() const { return m_names; }
+
     ShownPage shown(const std::string& name)
     {
         ShownPage shown;
@@ -160,8 +165,12 @@ public:
 private:
     void take(const std::string& name)
     {
+        m_names.push_back(name);
+        if (!m_folder) {
+            return;
+        }
         const QString file
-            = m_folder.filePath(QString::fromStdString(name) + QStringLiteral(".png"));
+            = m_folder->filePath(QString::fromStdString(name) + QStringLiteral(".png"));
         const bool written = m_game.picture().save(file);
         m_complete = m_complete && written;
         QTextStream(stdout) << (written ? file : file + QStringLiteral(" could not be written"))
@@ -344,15 +353,16 @@ private:
     {
         m_game.launch();
         const auto takes = [this](const std::string& name) { take(name); };
-        showSheets(m_game, takes);
-        showSheetsAtTheirEnds(m_game, takes);
+        headless::showSheets(m_game.headless(), takes);
+        headless::showSheetsAtTheirEnds(m_game.headless(), takes);
         const QSize usual = m_game.widget().size();
         for (const QSize size :
             { QSize(1024, 768), QSize(1280, 800), QSize(1920, 1080), QSize(3840, 2160) }) {
             m_game.resize(size);
             const std::string suffix
                 = '-' + std::to_string(size.width()) + 'x' + std::to_string(size.height());
-            showSheets(m_game, [&](const std::string& name) { take(name + suffix); });
+            headless::showSheets(
+                m_game.headless(), [&](const std::string& name) { take(name + suffix); });
         }
         m_game.resize(usual);
     }
@@ -450,7 +460,8 @@ private:
     }
 
     VirtualGame m_game;
-    QDir m_folder;
+    std::optional<QDir> m_folder;
+    std::vector<std::string> m_names;
     bool m_complete = true;
 };
 
@@ -471,6 +482,14 @@ int paintGallery(const QString& dataFolder, const QString& pictureFolder, QSize 
         return 1;
     }
     return gallery.paint() ? 0 : 1;
+}
+
+std::vector<std::string> namesOfGallery(const QString& dataFolder)
+{
+    Gallery gallery(
+        { .dataFolder = dataFolder, .language = "en", .page = {}, .size = { 1440, 900 } }, {});
+    gallery.paint();
+    return gallery.names();
 }
 
 ShownPage pictureOfPage(const PageToShow& wanted)

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 namespace veyrand::app {
 
@@ -15,6 +16,9 @@ namespace veyrand::app {
 // exit status and says on standard output what it leaves.
 int paintGallery(const QString& dataFolder, const QString& pictureFolder, QSize size,
     const std::string& language);
+
+// What the pictures of a gallery are called, in the order in which it paints them.
+[[nodiscard]] std::vector<std::string> namesOfGallery(const QString& dataFolder);
 
 struct PageToShow {
     QString dataFolder;

@@ -1,5 +1,6 @@
 #include "Scenario.h"
 
+#include "headless/SheetPictures.h"
 #include "progress/PlayerKeys.h"
 
 #include <cmath>
@@ -302,11 +303,27 @@ Json Scenario::menu(const Arguments& arguments)
 
 Json Scenario::screenshot(const Arguments& arguments)
 {
-    const std::string fault = onStage().screenshot(arguments.text(0));
-    if (!fault.empty()) {
-        throw std::runtime_error(fault);
-    }
+    takePicture(arguments.text(0));
     return {};
+}
+
+Json Scenario::screenshotSheets(const Arguments& arguments)
+{
+    const std::string rest = arguments.text(0) + ".png";
+    headless::showSheets(game(), [&](const std::string& name) { takePicture(name + rest); });
+    return {};
+}
+
+Json Scenario::screenshotSheetsAtTheirEnds(const Arguments& /*arguments*/)
+{
+    headless::showSheetsAtTheirEnds(
+        game(), [this](const std::string& name) { takePicture(name + ".png"); });
+    return {};
+}
+
+void Scenario::takePicture(const std::string& name)
+{
+    complain(onStage().screenshot(name));
 }
 
 Json Scenario::answer(const Arguments& arguments)

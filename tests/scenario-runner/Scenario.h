@@ -59,6 +59,8 @@ private:
     Json resize(const Arguments& arguments);
     Json menu(const Arguments& arguments);
     Json screenshot(const Arguments& arguments);
+    Json screenshotSheets(const Arguments& arguments);
+    Json screenshotSheetsAtTheirEnds(const Arguments& arguments);
 
     Json keys(const Arguments& arguments);
     Json object(const Arguments& arguments);
@@ -111,6 +113,7 @@ private:
     ScenarioStage& onStage(); // started with the defaults when no script has
     headless::HeadlessGame& game() { return onStage().game(); }
     platform::Point place(const Json& target);
+    void takePicture(const std::string& name);
     [[nodiscard]] std::string recordKey();
     void startWith(const Json& options);
     void relaunch();

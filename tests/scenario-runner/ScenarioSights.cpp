@@ -385,6 +385,8 @@ const std::vector<Scenario::Operation>& Scenario::table()
         { "announcements", &Scenario::announcements }, { "accessible", &Scenario::accessible },
         { "act", &Scenario::act }, { "key", &Scenario::key }, { "resize", &Scenario::resize },
         { "menu", &Scenario::menu }, { "screenshot", &Scenario::screenshot },
+        { "screenshotSheets", &Scenario::screenshotSheets },
+        { "screenshotSheetsAtTheirEnds", &Scenario::screenshotSheetsAtTheirEnds },
         { "keys", &Scenario::keys }, { "object", &Scenario::object }, { "text", &Scenario::textOf },
         { "layer", &Scenario::layer }, { "cursor", &Scenario::cursor }, { "tip", &Scenario::tip },
         { "whisper", &Scenario::whisper }, { "extras", &Scenario::extras },

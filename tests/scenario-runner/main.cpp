@@ -2,6 +2,7 @@
 #include "ScenarioChecks.h"
 #include "ScriptBridge.h"
 #include "ScriptIncludes.h"
+#include "app/Gallery.h"
 #include "desktop/qt/DataFolder.h"
 
 #include <QApplication>
@@ -58,6 +59,13 @@ void runScript(const QString& fileName, const scenario::QtStage::Settings& setti
     }
 }
 
+void sayNamesOfGallery()
+{
+    for (const std::string& name : app::namesOfGallery(desktop::qt::findDataFolder())) {
+        QTextStream(stdout) << QString::fromStdString(name) << Qt::endl;
+    }
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -73,7 +81,15 @@ int main(int argc, char* argv[])
     options.add_option("--window", window, "Size of the window's content, in points")
         ->check(asSize);
     options.add_option("--out", out, "Folder for screenshots");
-    options.add_option("FILE", files, "Scripts, each run by itself")->required();
+    options.add_option("FILE", files, "Scripts, each run by itself");
+    bool namesGallery = false;
+    options.add_flag("--gallery-names", namesGallery,
+        "Say what the pictures of veyrand --gallery are called, and play nothing");
+    options.callback([&] {
+        if (files.empty() && !namesGallery) {
+            throw CLI::RequiredError("FILE");
+        }
+    });
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -83,6 +99,10 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    if (namesGallery) {
+        sayNamesOfGallery();
+        return 0;
+    }
     const QSize screenSize = toSize(screen);
     const scenario::QtStage::Settings settings { .screen
         = { .width = static_cast<double>(screenSize.width()),

@@ -143,43 +143,14 @@ take("reward-finale");
 game.click([1.58, 0.4]);
 taken("reward-finale-goes-on");
 
-// The sheets, of somebody who has solved a puzzle at par, one with a way round, and one of a day.
-start(at(6, 7), {}, {});
-for (const [stage, clicks] of [[3, ["chip-1-0"]], [4, ["chip-0-0", "chip-2-1"]]]) {
-    game.practice(1, stage);
-    game.wait(2);
-    for (const chip of clicks) {
-        game.click(chip);
-        game.wait(3);
-    }
-    game.wait(8);
+// The sheets and what the board says of a puzzle: as the gallery shows them, and at four other sizes.
+game.start({});
+game.screenshotSheets();
+game.screenshotSheetsAtTheirEnds();
+for (const [width, height] of [[1024, 768], [1280, 800], [1920, 1080], [3840, 2160]]) {
+    game.resize(width, height);
+    game.screenshotSheets("-" + width + "x" + height);
 }
-taken("sheet-map");
-game.click("replay");
-game.wait(1);
-game.key("Right");
-taken("sheet-replay");
-game.click("shortest");
-game.key("End");
-taken("sheet-replay-shortest", "Esc", "Esc");
-game.practice(1, 4);
-game.wait(allFadedIn);
-game.click("button-how-far");
-taken("guide-moves-needed");
-for (const [item, name] of [["Daily…", "sheet-daily"], ["Statistics…", "sheet-statistics"]]) {
-    game.menu(item);
-    taken(name);
-}
-game.edit("YBRGG", "RBBR");
-taken("sheet-editor");
-game.menu("My Puzzles…");
-game.wait(1);
-for (const code of ["37T8649F2MEJ", "38RTWET", "33745HP64M4P"]) {
-    game.clipboard(code);
-    game.key("Ctrl+V");
-    game.wait(0.5);
-}
-taken("sheet-my-puzzles");
 
 // The other stones.
 for (const chips of ["pictures", "contrast", "letters", "patterns"]) {

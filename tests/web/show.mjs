@@ -7,6 +7,7 @@ export class Show {
   constructor(letters, { urls, translated, desktop }) {
     Object.assign(this, { letters, urls, translated, desktop, missing: [], compared: [] });
     this.canvas = document.createElement('canvas');
+    this.pen = document.createElement('canvas').getContext('2d', { willReadFrequently: true });
     this.host = {
       language: (code) => {
         this.painter.pictures = this.picturesOf.get(code) ?? this.picturesOf.get('');
@@ -63,11 +64,9 @@ export class Show {
       return { mean: 1, far: 1 };
     }
     const mine = this.painter.pen.getImageData(0, 0, width, height).data;
-    const canvas = document.createElement('canvas');
-    Object.assign(canvas, { width, height });
-    const pen = canvas.getContext('2d', { willReadFrequently: true });
-    pen.drawImage(picture, 0, 0);
-    const theirs = pen.getImageData(0, 0, width, height).data;
+    Object.assign(this.pen.canvas, { width, height });
+    this.pen.drawImage(picture, 0, 0);
+    const theirs = this.pen.getImageData(0, 0, width, height).data;
     let sum = 0;
     let far = 0;
     for (let at = 0; at < theirs.length; at += 4) {

@@ -2,7 +2,7 @@
 
 #include "controller/GameController.h"
 
-namespace veyrand::app {
+namespace veyrand::headless {
 
 // How far somebody has come.
 struct Career {
@@ -20,4 +20,4 @@ struct Career {
 
 inline constexpr progress::Place kRoundabout { 5, 8 }; // whose solution leaves the shortest ways
 
-} // namespace veyrand::app
+} // namespace veyrand::headless

@@ -1,12 +1,12 @@
-#include "app/SheetPictures.h"
+#include "headless/SheetPictures.h"
 
-#include "app/GalleryResults.h"
-#include "app/VirtualGame.h"
+#include "headless/GalleryResults.h"
+#include "headless/HeadlessGame.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
 #include "progress/Settings.h"
 
-namespace veyrand::app {
+namespace veyrand::headless {
 
 namespace {
 
@@ -15,7 +15,7 @@ constexpr double kEverythingHasFadedIn = 3.0;
 // Opens the pages on a game and has their pictures taken.
 class SheetShow {
 public:
-    SheetShow(VirtualGame& game, const TakePicture& take)
+    SheetShow(HeadlessGame& game, const TakePicture& take)
         : m_game(game)
         , m_controller(game.controller())
         , m_sheets(game.controller().sheets())
@@ -143,6 +143,7 @@ public:
         m_game.wait(kEverythingHasFadedIn);
         m_controller.guide().ask();
         show("guide-moves-needed");
+        m_controller.guide().ask(); // which makes it silent again, for whoever shows it once more
         m_controller.flow().returnToMenu();
         m_sheets.close();
     }
@@ -154,7 +155,7 @@ private:
         m_take(picture);
     }
 
-    VirtualGame& m_game;
+    HeadlessGame& m_game;
     controller::GameController& m_controller;
     controller::Sheets& m_sheets;
     const TakePicture& m_take;
@@ -162,7 +163,7 @@ private:
 
 } // namespace
 
-void showSheets(VirtualGame& game, const TakePicture& take)
+void showSheets(HeadlessGame& game, const TakePicture& take)
 {
     SheetShow show(game, take);
     show.asPlayer({});
@@ -175,7 +176,7 @@ void showSheets(VirtualGame& game, const TakePicture& take)
     show.guide();
 }
 
-void showSheetsAtTheirEnds(VirtualGame& game, const TakePicture& take)
+void showSheetsAtTheirEnds(HeadlessGame& game, const TakePicture& take)
 {
     SheetShow show(game, take);
     show.asPlayer({ .standing = {}, .daysInARow = 0 });
@@ -202,4 +203,4 @@ void showSheetsAtTheirEnds(VirtualGame& game, const TakePicture& take)
     show.asPlayer({});
 }
 
-} // namespace veyrand::app
+} // namespace veyrand::headless

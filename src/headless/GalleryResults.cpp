@@ -1,11 +1,11 @@
-#include "app/GalleryResults.h"
+#include "headless/GalleryResults.h"
 
 #include "play/Trail.h"
 #include "progress/RuleSets.h"
 
 #include <algorithm>
 
-namespace veyrand::app {
+namespace veyrand::headless {
 
 namespace {
 
@@ -151,4 +151,4 @@ play::Result longSolution(const play::CodedPuzzle& puzzle)
     return Solver().solve(puzzle, play::kAllMoves, Solver::Way::Long);
 }
 
-} // namespace veyrand::app
+} // namespace veyrand::headless
