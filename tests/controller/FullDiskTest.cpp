@@ -80,14 +80,17 @@ protected:
 
 } // namespace
 
-TEST_F(FullDisk, LosesNoHintWhenAnotherMoveIsMadeOnceThereIsRoomAgain)
+TEST_F(FullDisk, LosesNoHintWhenAMoveIsTakenBackOnceThereIsRoomAgain)
 {
     mergeReds();
     m_disk.journal().failWith("No space left on device");
     buyHint();
     playOneMove();
     m_disk.journal().failWith("");
-    playOneMove();
+    const std::uint64_t before = hash();
+    game().controller().history().undo();
+    game().wait(3.0);
+    ASSERT_NE(hash(), before);
     expectAllIsFoundAgain();
 }
 

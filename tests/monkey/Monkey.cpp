@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <random>
+#include <utility>
 
 namespace veyrand::test {
 
@@ -85,6 +86,9 @@ Event Monkey::next()
             .text = below(2) == 0 || alert.alternateButton.empty() ? alert.defaultButton
                                                                    : alert.alternateButton };
     }
+    if (auto event = roomAgain()) {
+        return *std::move(event);
+    }
     const unsigned choice = below(1000);
     if (choice < 30) {
         return seldom(choice);
@@ -96,6 +100,20 @@ Event Monkey::next()
         return waiting();
     }
     return choice < 600 ? move() : anyGesture();
+}
+
+// A disk is not full for long, and half of the monkeys lose patience just when it is well again.
+std::optional<Event> Monkey::roomAgain()
+{
+    if (std::exchange(m_quits, false)) {
+        return Event { .kind = Kind::Quit };
+    }
+    if (!m_isDiskFull || below(40) != 0) {
+        return std::nullopt;
+    }
+    m_isDiskFull = false;
+    m_quits = below(2) == 0;
+    return Event { .kind = Kind::Disk };
 }
 
 // What would leave no time for anything else if it came often. The number is below 30.
@@ -129,7 +147,8 @@ Event Monkey::seldom(unsigned choice)
         return { .kind = Kind::Open, .text = kTexts.at(below(kTexts.size())) };
     }
     if (choice == 28) {
-        return { .kind = Kind::Disk, .text = below(2) == 0 ? "there is no room left" : "" };
+        m_isDiskFull = true;
+        return { .kind = Kind::Disk, .text = "there is no room left" };
     }
     return { .kind = Kind::Today, .text = kDays.at(below(kDays.size())) };
 }

@@ -34,6 +34,7 @@ public:
 
 private:
     [[nodiscard]] Event next();
+    [[nodiscard]] std::optional<Event> roomAgain();
     [[nodiscard]] Event seldom(unsigned choice);
     [[nodiscard]] Event anyGesture();
     [[nodiscard]] Event move();
@@ -52,6 +53,8 @@ private:
     Dice m_dice;
     Cage m_cage;
     CagedGame m_game;
+    bool m_isDiskFull = false;
+    bool m_quits = false; // with the next event
 };
 
 // As few of the events as still lead to a fault.

@@ -271,8 +271,11 @@ void killRestlessPlayers(const Kills& trial)
         SCOPED_TRACE("kill " + std::to_string(kill));
         const Mode mode = kill % 2 == 0 ? Mode::Classic : Mode::Endless;
         const QString path = folder.path();
-        auto player = playingProcess(
-            path, mode, trial.seed + static_cast<std::uint32_t>(kill), trial.fault);
+        // Some have to write the whole journal anew, in which what was there one action before is
+        // not to be told from the rest.
+        const bool refuses = !trial.fault && kill % 8 >= 6;
+        auto player = playingProcess(path, mode, trial.seed + static_cast<std::uint32_t>(kill),
+            refuses ? PlantedFault::LinesAreRefused : trial.fault);
         auto last = player.next();
         ASSERT_TRUE(last.has_value()) << "it could not play";
         auto& before = left.at(static_cast<std::size_t>(kill % 2));
@@ -296,7 +299,9 @@ void killRestlessPlayers(const Kills& trial)
         }
         finished += last->isOver ? 1 : 0;
         before = writtenIn(folder.path(), mode);
-        compare(*last, *before);
+        if (!refuses) {
+            compare(*last, *before);
+        }
         ASSERT_FALSE(trial.hasFailed());
     }
     EXPECT_GT(actions, trial.kills * 3) << "too little was played to mean anything";

@@ -8,8 +8,10 @@
 
 namespace veyrand::test {
 
-// What a disk could do wrong without a word.
+// What a disk could do wrong without a word; and refusing lines, which it may, as long as it says
+// so.
 enum class PlantedFault {
+    LinesAreRefused,
     LinesGoMissing,
     LinesComeLate,
     LinesComeTwice,
@@ -18,6 +20,7 @@ enum class PlantedFault {
     BeginningsAreEmpty,
     NothingIsFoundAgain
 };
+// All but what it may.
 inline constexpr std::array kPlantedFaults { PlantedFault::LinesGoMissing,
     PlantedFault::LinesComeLate, PlantedFault::LinesComeTwice, PlantedFault::LinesAreTorn,
     PlantedFault::BeginningsGoMissing, PlantedFault::BeginningsAreEmpty,
@@ -49,6 +52,8 @@ public:
     [[nodiscard]] std::string append(std::string_view name, std::string_view line) override
     {
         switch (m_fault) {
+        case PlantedFault::LinesAreRefused:
+            return isTime() ? std::string("not now") : m_journal.append(name, line);
         case PlantedFault::LinesGoMissing:
             return isTime() ? std::string() : m_journal.append(name, line);
         case PlantedFault::LinesComeTwice:
