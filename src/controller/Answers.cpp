@@ -414,10 +414,21 @@ void Answers::pulse(const Extra& limit)
 void Answers::say(const play::Refusal& why)
 {
     const std::string words = wordsFor(m_game.texts, why);
-    if (!m_settings.sayWhy || words.empty()) {
-        return;
+    if (m_settings.sayWhy && !words.empty()) {
+        whisper(words);
     }
-    m_whisper = words;
+}
+
+void Answers::done(const std::string& words)
+{
+    if (m_settings.answers) {
+        whisper(words);
+    }
+}
+
+void Answers::whisper(std::string words)
+{
+    m_whisper = std::move(words);
     handsChanged();
     m_game.runLoop.performAfterDelay(present::extras::kWhisper, [this, number = ++m_whispers] {
         if (number == m_whispers) {

@@ -33,6 +33,8 @@ public:
     void solved(long points);
     void boardEmpties();
     void refused(const play::Gesture& gesture, const play::Refusal& why);
+    // Something was done that the board does not show; in words.
+    void done(const std::string& words);
 
     [[nodiscard]] input::Cursor cursor() const;
     [[nodiscard]] std::string tip(); // the text on show, or none
@@ -92,6 +94,7 @@ private:
     void shake(const std::string& key);
     void pulse(const present::Extra& limit);
     void say(const play::Refusal& why);
+    void whisper(std::string words);
     void showTipAtOnce(const std::string& key, std::string advice);
     void restHere();
 

@@ -132,7 +132,10 @@ bool copyCode(GameController& game)
     }
     clipboard->setText(*code);
     game.speaker().gestureBegins();
-    game.speaker().tell(game.context().texts.text("practice.codeCopied", { { "code", *code } }));
+    const std::string copied
+        = game.context().texts.text("practice.codeCopied", { { "code", *code } });
+    game.speaker().tell(copied);
+    game.answers().done(copied);
     return true;
 }
 

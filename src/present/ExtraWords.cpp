@@ -178,7 +178,11 @@ Extra largeWhisper(const std::string& text, const platform::TextMetrics& metrics
     constexpr double kStep = 0.95;
     std::vector<std::string> lines = broken(text, kRoom / em, metrics);
     const auto tall = [&] { return static_cast<double>(lines.size()) * kPitch * em + kRim; };
-    while (tall() > kWhisperTallest / 1000.0) {
+    const auto isTooWide = [&](const std::string& words) { // of one word, which is not broken
+        return metrics.preferredFrameSize(words).width * em > kRoom;
+    };
+    while (
+        tall() > kWhisperTallest / 1000.0 || std::any_of(lines.begin(), lines.end(), isTooWide)) {
         em *= kStep;
         lines = broken(text, kRoom / em, metrics);
     }

@@ -90,7 +90,7 @@ protected:
         return m_texts.text(id,
             { { "lines", 12 }, { "moves", 12 }, { "made", 12 }, { "points", 16500 }, { "par", 12 },
                 { "place", "11-10" }, { "stage", 11 }, { "puzzle", 10 }, { "all", 10 },
-                { "move", 7 } });
+                { "move", 7 }, { "code", "MMMMMMMMMMMMMMMM" } });
     }
     [[nodiscard]] const platform::TextMetrics& metrics() const { return m_font; }
 
@@ -121,7 +121,9 @@ TEST_P(FittingWords, OfTipsAreAllOnTheirPlates)
 
 TEST_P(FittingWords, OfWhispersAreAllOnTheirPlates)
 {
-    for (const std::string& text : textsOf({ "refusals" })) {
+    std::vector<std::string> texts = textsOf({ "refusals" });
+    texts.push_back(filled("practice.codeCopied"));
+    for (const std::string& text : texts) {
         for (const double size : kSizes) {
             const Extra whisper = present::whisper(text, metrics(), size);
             expectFits(whisper, text);
