@@ -1,5 +1,7 @@
 #include "headless/KeyPlayer.h"
 #include "headless/Tour.h"
+#include "progress/PlayerKeys.h"
+#include "progress/PlayerRecord.h"
 
 #include <array>
 
@@ -106,6 +108,13 @@ TEST_F(ToursByHand, Fingers)
     game().touch({ .x = 0.05, .y = 0.05 });
     wait(2.0);
     stop("beside the question");
+    for (const std::string& key : table().keys()) {
+        if (key.starts_with("button-")) {
+            game().touch(near(key.c_str()));
+            wait(2.0);
+            stop("touched: " + key);
+        }
+    }
     compareWith("fingers");
 }
 
@@ -159,6 +168,28 @@ TEST_F(ToursByHand, WithoutHurryAndWithoutMotion)
         stop("solved");
     }
     compareWith("still");
+}
+
+TEST_F(ToursOfABeginner, WhatThereIsBeforeAnythingIsSolved)
+{
+    wait(3.0);
+    lookAway();
+    auto& sheets = controller().sheets();
+    for (const auto& open : { &controller::Sheets::openMap, &controller::Sheets::openDaily,
+             &controller::Sheets::openStatistics, &controller::Sheets::openMine,
+             &controller::Sheets::openEditor }) {
+        (sheets.*open)();
+        wait(1.0);
+        stop(sheets.name());
+        keys({ "Down", "Right", "Y", "Esc" });
+        sheets.close();
+    }
+    progress::updatePlayerRecord(game().preferences(), progress::kDefaultPlayerName,
+        { .level = 1, .stage = 3, .score = 40 });
+    controller().flow().returnToMenu();
+    wait(2.0);
+    pointAtEverything("the title page of the third puzzle");
+    compareWith("before");
 }
 
 TEST_F(ToursOfABeginner, TheFirstPuzzlesByKeys)

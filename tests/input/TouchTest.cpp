@@ -132,6 +132,13 @@ TEST_F(TouchTest, AMousePressedLongLiftsOnlyWhenThePlayerWantsIt)
     EXPECT_EQ(longPress(), "chip-3-1");
 }
 
+TEST_F(TouchTest, AFingerThatIsLiftedElsewhereHasDraggedThere)
+{
+    touch().began(at("chip-0-1"));
+    touch().ended(at("chip-2-1"));
+    EXPECT_THAT(target().take(), ElementsAre("drag 1 0 to 1 2"));
+}
+
 TEST_F(TouchTest, ACancelledTouchIsNone)
 {
     touch().began(at("chip-3-1"));

@@ -41,6 +41,15 @@ TEST(MyPuzzles, HaveNamesOfOneShortLine)
     EXPECT_EQ(puzzles.all().front().name, "37T8649F2MEJ");
 }
 
+TEST(MyPuzzles, HaveNamesWhoseLettersMayEndInAnyByte)
+{
+    std::string accents;
+    for (int i = 0; i < 40; ++i) {
+        accents += "\u00E9"; // ends in A9, which is odd
+    }
+    EXPECT_EQ(keptName(accents).size(), 64U);
+}
+
 TEST(MyPuzzles, AreRenamedAndRemoved)
 {
     MyPuzzles puzzles;
