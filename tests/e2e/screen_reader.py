@@ -171,12 +171,17 @@ class Reader:
         return next((name(thing) for thing in self.things() if role(thing) == 'notification'), '')
 
     def close_pages(self, seen):
+        page, end = None, 0
         while True:
             dialog = self.dialog()
             if dialog is None:
                 return
             title = name(dialog)
             texts = ' '.join(name(child) for child in children(dialog))
+            if page != (title, texts):
+                page, end = (title, texts), time.monotonic() + PATIENCE
+            elif time.monotonic() > end:
+                raise Lost('the page %r does not close' % title)
             buttons = [child for child in children(dialog) if role(child) == 'push button']
             if buttons:
                 do(buttons[0], 'press')     # go on with the game that is saved
