@@ -13,7 +13,7 @@ std::string withCapital(std::string text)
 {
     constexpr char kToCapital = 'a' - 'A';
     const auto byte = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const bool isPlain = !text.empty() && text[0] >= 'a' && text[0] <= 'z';
+    const bool isPlain = !text.empty() && text.front() >= 'a' && text.front() <= 'z';
     const bool isAccented = text.size() > 1 && byte(0) == 0xC3 && byte(1) >= 0xA0 && byte(1) < 0xBF
         && byte(1) != 0xB7; // which is a sign
     if (isPlain || isAccented) {

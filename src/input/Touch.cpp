@@ -116,7 +116,7 @@ void Touch::ended(Point place)
         return;
     }
     m_isDown = false;
-    if (!(place == m_place)) {
+    if (place != m_place) {
         followTo(place);
     }
     Point release = corrected(place);
