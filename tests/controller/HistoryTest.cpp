@@ -392,4 +392,20 @@ TEST_F(HistoryTest, CtrlYRedoesToo)
     EXPECT_THAT(lines(), ElementsAre("YR", "YRR"));
 }
 
+TEST_F(HistoryTest, WhatStillFallsHasGoneAtTheNextStep)
+{
+    play("YR", "YB");
+    for (unsigned row = 0; row < 2; ++row) {
+        click(board::generateKeyChipKey(0, row));
+        settle();
+    }
+    undo();
+    ASSERT_TRUE(table().contains("chip-0-2"));
+    undo();
+    EXPECT_FALSE(table().contains("chip-0-2"));
+    EXPECT_TRUE(table().contains("chip-0-1")) << "which falls now";
+    settle();
+    expectBoardShowsTheLines();
+}
+
 } // namespace veyrand::controller

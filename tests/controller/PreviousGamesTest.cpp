@@ -169,4 +169,18 @@ TEST_F(PreviousGamesTest, WhatCannotBeKeptIsSaid)
     EXPECT_THAT(told, ElementsAre("The previous game cannot be kept: the disk is full."));
 }
 
+TEST_F(PreviousGamesTest, WhoLeavesTheOneGameIsOfferedTheOther)
+{
+    m_game->controller().previous().keep(progress::Mode::Endless);
+    m_game->controller().previous().offer();
+    platform::NotedAlerts& alerts = m_game->alerts();
+    ASSERT_TRUE(alerts.isOpen());
+    EXPECT_EQ(alerts.alert().message, "Bring back the previous Classic game?");
+    alerts.close();
+    ASSERT_TRUE(alerts.isOpen());
+    EXPECT_EQ(alerts.alert().message, "Bring back the previous Endless game?");
+    alerts.close();
+    EXPECT_FALSE(alerts.isOpen()) << "there is no third";
+}
+
 } // namespace veyrand::controller

@@ -168,4 +168,33 @@ TEST_F(PuzzleTimerTest, WhatItTookIsSaidInWords)
     EXPECT_EQ(durationWords(texts, 34800), "9 h 40 min");
 }
 
+TEST_F(PuzzleTimerTest, WhatAnEarlierSolutionTookIsForgotten)
+{
+    const auto leave = [this] {
+        wait(100.0);
+        click(0, 0);
+        game().flow().returnToMenu();
+    };
+    const auto solve = [this] {
+        goOn();
+        wait(5.0);
+        click(1, 2);
+        return game().book().toReplay("1-4")->seconds;
+    };
+    goOn();
+    leave();
+    EXPECT_EQ(solve(), 105U);
+    wait(20.0);
+    game().flow().returnToMenu();
+
+    // Once more, begun by somebody who did not look at the clock.
+    progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
+        { .level = 1, .stage = 4, .score = 310, .firstHintClick = false });
+    wantTimes(false);
+    goOn();
+    leave();
+    wantTimes(true);
+    EXPECT_EQ(solve(), 0U);
+}
+
 } // namespace veyrand::controller

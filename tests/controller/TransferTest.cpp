@@ -211,4 +211,40 @@ TEST(ATransfer, JoinsTheResults)
     EXPECT_EQ(here.controller().book().results(), results);
 }
 
+TEST(ATransfer, LeavesNothingToBringBackWhereNothingHadBegun)
+{
+    Machine one(2, 4, 310);
+    Machine here(1, 1, 0);
+    EXPECT_EQ(here.transfer().bringIn(one.transfer().exported(), "f", Transfer::How::Replace), "");
+    for (const Mode mode : { Mode::Classic, Mode::Endless }) {
+        EXPECT_FALSE(here.controller().previous().previous(mode));
+    }
+}
+
+TEST(ATransfer, KeepsAFirstPuzzleThatLiesOnTheBoard)
+{
+    Machine one(2, 4, 310);
+    Machine here(1, 1, 0);
+    here.goOn();
+    EXPECT_EQ(here.transfer().bringIn(one.transfer().exported(), "f", Transfer::How::Replace), "");
+    const auto previous = here.controller().previous().previous(Mode::Classic);
+    ASSERT_TRUE(previous);
+    EXPECT_EQ(previous->standing.place, (progress::Place { 1, 1 }));
+    EXPECT_FALSE(here.controller().previous().previous(Mode::Endless));
+}
+
+TEST(ATransfer, PutsThePuzzlesOfOnesOwnInThePlaceOfOthers)
+{
+    Machine one(2, 4, 310);
+    one.controller().shelf().add("37T8649F2MEJ");
+    Machine here(1, 3, 20);
+    here.controller().shelf().add("38RTWET");
+    const play::MyPuzzles wanted = one.controller().shelf().puzzles();
+    ASSERT_NE(here.controller().shelf().puzzles(), wanted);
+    EXPECT_EQ(here.transfer().bringIn(one.transfer().exported(), "f", Transfer::How::Replace), "");
+    EXPECT_EQ(here.controller().shelf().puzzles(), wanted);
+    here.launch();
+    EXPECT_EQ(here.controller().shelf().puzzles(), wanted);
+}
+
 } // namespace veyrand::controller

@@ -359,4 +359,20 @@ TEST_F(Keys, UndoPutsTheLiftedChipBackFirst)
     EXPECT_TRUE(dragImages().empty());
 }
 
+// The desktop may have a use for them.
+TEST_F(Keys, ThatMeanNothingNowAreNotTaken)
+{
+    using Press = controller::GameController::Press;
+    EXPECT_FALSE(game().controller().key("Ctrl+C", Press::First)) << "there is nothing to copy";
+    play("YRGG", "YRB");
+    controller::GameController& board = game().controller();
+    EXPECT_FALSE(board.key("F9", Press::First));
+    EXPECT_TRUE(board.key("Right", Press::First));
+    EXPECT_TRUE(board.key("Right", Press::Repeated)) << "which goes on";
+    EXPECT_FALSE(board.key("Return", Press::Repeated)) << "which has been pressed once";
+    EXPECT_TRUE(board.key("G", Press::First));
+    game().menu().trigger("Spoken Keys");
+    EXPECT_FALSE(board.key("G", Press::First));
+}
+
 } // namespace veyrand::test

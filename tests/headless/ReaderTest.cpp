@@ -3,6 +3,7 @@
 #include "play/Decide.h"
 #include "support/HeadlessPlay.h"
 
+#include <algorithm>
 #include <map>
 #include <sstream>
 
@@ -134,6 +135,45 @@ TEST_F(Reader, NothingIsSpokenWhileNobodyListens)
     click("chip-0-0");
     EXPECT_EQ(game().controller().speaker().last(), "");
     EXPECT_FALSE(game().controller().speaker().isHeard());
+}
+
+// Not with whatever picture happens to be next.
+TEST_F(Reader, WhatItDoesIsAnsweredAtOnce)
+{
+    const auto lightOfTheRow = [this] {
+        std::vector<double> heights;
+        for (const auto& shown : game().game().layers().extras().shown()) {
+            if (shown.kind == present::ExtraKind::Row) {
+                heights.push_back(shown.rect.y);
+            }
+        }
+        return heights;
+    };
+    play("YRR", "YRB");
+    const auto before = lightOfTheRow();
+    ASSERT_EQ(before.size(), 1U);
+    ASSERT_TRUE(act("yellow, start line, place 1", "click"));
+    wait(0.2);
+    const auto after = lightOfTheRow();
+    wait(3.0);
+    EXPECT_NE(after, before);
+    EXPECT_EQ(after, lightOfTheRow()) << "it has arrived";
+}
+
+TEST_F(Reader, FindsASheetAllOverTheBoard)
+{
+    play("YRR", "YRB");
+    game().controller().sheets().openMap();
+    const auto now = tree();
+    const auto sheet = std::find_if(now.children.begin(), now.children.end(),
+        [](const controller::AccessibleNode& node) { return node.id == "sheet"; });
+    ASSERT_NE(sheet, now.children.end());
+    for (const present::ExtraRect& place : { now.place, sheet->place }) {
+        EXPECT_EQ(place.x - place.width / 2.0, 0.0);
+        EXPECT_EQ(place.x + place.width / 2.0, 1.6);
+        EXPECT_EQ(place.y - place.height / 2.0, 0.0);
+        EXPECT_EQ(place.y + place.height / 2.0, 1.0);
+    }
 }
 
 } // namespace veyrand::test

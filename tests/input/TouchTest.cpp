@@ -147,4 +147,15 @@ TEST_F(TouchTest, ACancelledTouchIsNone)
     EXPECT_THAT(target().take(), IsEmpty());
 }
 
+TEST_F(TouchTest, NothingIsUnderAFingerThatHasGone)
+{
+    tap(at("chip-3-1"));
+    EXPECT_EQ(pointer().position(), std::nullopt);
+    touch().began(at("chip-3-1"));
+    ASSERT_NE(pointer().position(), std::nullopt);
+    touch().cancelled();
+    EXPECT_EQ(pointer().position(), std::nullopt);
+    EXPECT_EQ(view().keyUnderPointer(), "");
+}
+
 } // namespace veyrand::input

@@ -36,6 +36,13 @@ TEST(MyPuzzles, HaveNamesOfOneShortLine)
         umlauts += "\u00FC";
     }
     EXPECT_EQ(keptName(umlauts).size(), 64U) << "letters are counted, not bytes";
+    for (int inside = 0x80; inside <= 0xBF; ++inside) { // the second byte of \u00C0 to \u00FF
+        std::string letters;
+        for (int i = 0; i < 40; ++i) {
+            letters += { '\xC3', static_cast<char>(inside) };
+        }
+        ASSERT_EQ(keptName(letters), letters.substr(0, 64)) << inside;
+    }
     MyPuzzles puzzles;
     puzzles.add("37T8649F2MEJ", " ");
     EXPECT_EQ(puzzles.all().front().name, "37T8649F2MEJ");

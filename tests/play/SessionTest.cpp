@@ -129,6 +129,18 @@ TEST_F(SessionTest, TheGoalBringsPointsAtOnceAndNothingMoreIsGranted)
     EXPECT_EQ(session().phase(), Phase::Celebrating);
 }
 
+TEST_F(SessionTest, AHintLeavesEveryLineThatLeadsOn)
+{
+    begin("YGG", "YGGGGGGGG");
+    done(kDouble);
+    done(Move { progress::kSplitGreens, 0 }); // the blue can never go again
+    ASSERT_THAT(lines(), ElementsAre("YGG", "YGGGG", "YGBGGG"));
+    EXPECT_EQ(std::get<Hint>(decideHint(session().proof(), HintStage::None, 500)),
+        (Hint { Hint::Kind::Back, 2, {} }));
+    done(kDouble);
+    EXPECT_EQ(std::get<Hint>(decideHint(session().proof(), HintStage::None, 500)).left, 2U);
+}
+
 TEST_F(SessionTest, AHintsLineComesWhenItsPiecesHaveLanded)
 {
     begin("YR", "YRRG");

@@ -36,7 +36,7 @@ std::string MemoryJournal::append(std::string_view name, std::string_view line)
         return m_fault.empty() ? "it was not begun" : m_fault;
     }
     found->second.append(line).push_back('\n');
-    return {};
+    return std::exchange(m_late, {});
 }
 
 std::optional<std::string> MemoryJournal::keepAside(std::string_view name, std::string_view reason)
@@ -62,6 +62,11 @@ bool MemoryJournal::remove(std::string_view name)
         m_texts.erase(found);
     }
     return true;
+}
+
+std::string MemoryJournal::drain()
+{
+    return m_fault.empty() ? std::exchange(m_late, {}) : m_fault;
 }
 
 void MemoryJournal::write(std::string_view name, std::string text)

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] std::optional<std::string> keepAside(
         std::string_view name, std::string_view reason) override;
     bool remove(std::string_view name) override;
-    [[nodiscard]] std::string drain() override { return m_fault; }
+    [[nodiscard]] std::string drain() override;
 
     // Every text by its name.
     [[nodiscard]] const std::map<std::string, std::string, std::less<>>& texts() const
@@ -27,10 +27,13 @@ public:
     void write(std::string_view name, std::string text);
     // From now on nothing can be written, for this reason; "" ends it.
     void failWith(std::string fault) { m_fault = std::move(fault); }
+    // Something that seemed to be written has been lost meanwhile, which is told once.
+    void failLateWith(std::string fault) { m_late = std::move(fault); }
 
 private:
     std::map<std::string, std::string, std::less<>> m_texts;
     std::string m_fault;
+    std::string m_late;
 };
 
 } // namespace veyrand::platform

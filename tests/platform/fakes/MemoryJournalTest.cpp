@@ -32,4 +32,17 @@ TEST(MemoryJournal, FailsWhenItIsTold)
     EXPECT_EQ(journal.read("a.txt").contents, "one\n");
 }
 
+TEST(MemoryJournal, TellsOnceOfWhatWentWrongLater)
+{
+    MemoryJournal journal;
+    ASSERT_EQ(journal.begin("a.txt", { "one" }), "");
+    journal.failLateWith("the disk has gone");
+    EXPECT_EQ(journal.drain(), "the disk has gone");
+    EXPECT_EQ(journal.drain(), "");
+    journal.failLateWith("the disk has gone");
+    EXPECT_EQ(journal.append("a.txt", "two"), "the disk has gone");
+    EXPECT_EQ(journal.append("a.txt", "three"), "");
+    EXPECT_EQ(journal.read("a.txt").contents, "one\ntwo\nthree\n");
+}
+
 } // namespace veyrand::platform
