@@ -50,7 +50,7 @@ void Messages::showDialogue(std::unique_ptr<present::InfoLayer> window)
     m_controller.speaker().questionAsked();
 }
 
-// The old one goes first, or it would take what is left of its keys along.
+// The old one goes first: two never stand on the board.
 void Messages::replaceWindow(const std::function<std::unique_ptr<present::InfoLayer>()>& make)
 {
     m_window.reset();

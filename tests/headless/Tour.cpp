@@ -1,8 +1,11 @@
 #include "headless/Tour.h"
 
 #include "controller/AccessibleTree.h"
+#include "headless/GalleryResults.h"
+#include "play/Trail.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
+#include "progress/RuleSets.h"
 #include "support/Places.h"
 
 #include <array>
@@ -16,11 +19,11 @@ namespace veyrand::test {
 
 namespace {
 
-// Two digits are finer than a pixel and coarser than what compilers disagree on.
-std::string inShort(double number)
+// Two digits of a pixel are coarser than what compilers disagree on.
+std::string inShort(double number, int digitsWanted = 2)
 {
     std::array<char, 32> text {};
-    std::snprintf(text.data(), text.size(), "%.2f", number + 1e-7);
+    std::snprintf(text.data(), text.size(), "%.*f", digitsWanted, number + 1e-7);
     std::string digits = text.data();
     digits.erase(digits.find_last_not_of('0') + 1);
     if (digits.back() == '.') {
@@ -35,11 +38,13 @@ std::string inShort(const board::Color& colour)
         + inShort(colour.alpha);
 }
 
-template <class Rect> std::string placeOf(const Rect& rect)
+template <class Rect> std::string placeOf(const Rect& rect, int digits = 2)
 {
-    return inShort(static_cast<double>(rect.x)) + ' ' + inShort(static_cast<double>(rect.y)) + ' '
-        + inShort(static_cast<double>(rect.width)) + ' '
-        + inShort(static_cast<double>(rect.height));
+    std::string words;
+    for (const auto number : { rect.x, rect.y, rect.width, rect.height }) {
+        words += (words.empty() ? "" : " ") + inShort(static_cast<double>(number), digits);
+    }
+    return words;
 }
 
 std::string nameOf(const present::Content& content)
@@ -56,7 +61,7 @@ std::string nameOf(const present::Content& content)
 std::string inWords(const present::DisplayItem& item)
 {
     std::string words = nameOf(item.content) + ' ' + placeOf(item.rect);
-    if (item.opacity < 1.0F) {
+    if (item.opacity != 1.0F) { // nor is anything there more than wholly
         words += " opacity " + inShort(static_cast<double>(item.opacity));
     }
     if (item.glow > 0.0F) {
@@ -125,6 +130,38 @@ std::string differenceBetween(const std::string& recorded, const std::string& no
     }
 }
 
+// A solution with a move that it could have spared, on a line that leaves room for a word beside
+// it.
+std::optional<play::Result> wayRound(const play::CodedPuzzle& puzzle, play::MoveSet open)
+{
+    using engine::PackedLine;
+    constexpr std::size_t kShort = 7; // chips
+    play::WaySearch search;
+    const PackedLine goal = PackedLine::pack(puzzle.goal).value();
+    const auto ways = search.find(PackedLine::pack(puzzle.root).value(), goal, 1, open);
+    std::vector<PackedLine> lines;
+    for (const PackedLine line : ways->way(0)) {
+        lines.push_back(line);
+        const auto standing = static_cast<unsigned>(lines.size());
+        for (const play::Step& step : play::stepsFrom(line, open)) {
+            const auto on = search.find(step.line, goal, standing + 1, open);
+            if (!on || step.line.text().size() > kShort
+                || standing + on->moves() <= ways->moves()) {
+                continue;
+            }
+            const auto rest = on->way(0);
+            lines.insert(lines.end(), rest.begin(), rest.end());
+            play::Result result { .puzzle = puzzle, .par = ways->moves(), .moves = {} };
+            for (std::size_t i = 1; i < lines.size(); ++i) {
+                result.moves.push_back(
+                    play::moveBetween(lines[i - 1], lines[i], open).value_or(play::Move {}));
+            }
+            return result;
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 Tour::Tour(Options options)
@@ -164,10 +201,11 @@ void Tour::addPainted(Lines& lines)
 
 void Tour::addSheet(Lines& lines)
 {
+    constexpr int kDigitsOfHeights = 4;
     const auto& sheets = game().controller().sheets();
     for (const auto& places : { sheets.places(), sheets.buttons() }) {
         for (const present::SheetPlace& place : places) {
-            lines.push_back("place " + place.key + ' ' + placeOf(place.rect));
+            lines.push_back("place " + place.key + ' ' + placeOf(place.rect, kDigitsOfHeights));
         }
     }
     if (sheets.isOpen()) {
@@ -215,7 +253,9 @@ void Tour::stop(const std::string& name)
 void Tour::keys(const std::vector<std::string>& all, double seconds)
 {
     for (const std::string& key : all) {
-        game().key(key);
+        if (!game().menu().triggerKeys(key)) { // a menu leaves alone what it has no use for now
+            controller().key(key);
+        }
         wait(seconds);
         stop(key);
     }
@@ -244,6 +284,38 @@ void Tour::pointAtEverything(const std::string& where)
     game().leave();
     wait(1.0);
     stop("nothing pointed at on " + where);
+}
+
+void Tour::openWaysRound()
+{
+    controller().book().replace(headless::resultsToShow(controller(), {}));
+    const progress::Place onShortLines { 4, 6 };
+    const auto* const entry = controller().practice().entryAt(onShortLines);
+    const auto round = wayRound({ entry->root, entry->goal },
+        play::openMoves(progress::highestRuleAt(onShortLines.level, onShortLines.stage)));
+    ASSERT_TRUE(round);
+    play::Results results;
+    results.add(play::nameOf(onShortLines), *round);
+    for (const progress::Place& place : { headless::kRoundabout, onShortLines }) {
+        if (place == onShortLines) {
+            controller().book().replace(results);
+        }
+        controller().sheets().openReplay(play::nameOf(place));
+        wait(1.0);
+        stop("a way round");
+        keys({ "End" });
+    }
+}
+
+void Tour::openEveryPage()
+{
+    play({ .root = "YR", .goal = "YRG", .par = 2, .level = 6, .stage = 2 });
+    lookAway();
+    for (const auto& [name, page] : game().game().script().pages) {
+        controller().pages().show(name);
+        wait(2.0);
+        stop(name);
+    }
 }
 
 void Tour::compareWith(const std::string& name) const

@@ -32,6 +32,9 @@ protected:
     void pointAt(const std::string& key, double seconds); // a place of a sheet, or on the board
 
     void pointAtEverything(const std::string& where); // on the board
+    // Solutions that leave the shortest ways, on long lines and short ones, each at its end.
+    void openWaysRound();
+    void openEveryPage(); // over a puzzle, with a stop at each
 
     controller::GameController& controller() { return game().controller(); }
     void change(const std::function<void(progress::Settings&)>& how);

@@ -15,6 +15,10 @@ protected:
     {
         ASSERT_TRUE(controller().practice().play(place));
         wait(3.0);
+        clickThrough(clicks);
+    }
+    void clickThrough(const std::vector<std::string>& clicks)
+    {
         keys({ "N" }, 1.0);
         for (const std::string& chip : clicks) {
             if (game().centreOf(chip)) {
@@ -26,6 +30,19 @@ protected:
         controller().flow().returnToMenu();
         controller().sheets().close();
         wait(2.0);
+    }
+    // A drag or a click of a puzzle of somebody's own, after which no way leads on.
+    void loseAColour(
+        const char* root, const char* goal, const std::pair<const char*, const char*>& gesture)
+    {
+        ASSERT_EQ(controller().practice().open(play::codeOf(root, goal).value()), "");
+        wait(3.0);
+        controller().closePage();
+        wait(2.0);
+        lookAway();
+        keys({ "N" }, 1.0);
+        moveBy(gesture.first, gesture.second);
+        clickThrough({}); // says no more
     }
     void moveBy(const char* from, const char* to)
     {
@@ -74,6 +91,9 @@ TEST_F(ToursByHand, DeadEnds)
     goAstray({ 3, 5 }, { "chip-1-0", "chip-2-1", "chip-0-2", "chip-0-3" });
     goAstray({ 4, 8 }, { "chip-2-0", "chip-1-1", "chip-3-2", "chip-0-3" });
     goAstray({ 5, 3 }, { "chip-0-0", "chip-0-1", "chip-0-2", "chip-0-3", "chip-0-4" });
+    loseAColour("YRRR", "YRRRG", { "chip-1-0", "chip-3-0" });
+    loseAColour("YGG", "YGGGG", { "chip-1-0", "chip-2-0" });
+    loseAColour("BYBR", "BBRBR", { "chip-0-0", "chip-2-0" });
     compareWith("astray");
 }
 

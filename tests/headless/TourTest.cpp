@@ -138,13 +138,7 @@ TEST_F(Tours, TheTitlePageAndItsQuestions)
 
 TEST_F(Tours, EveryPage)
 {
-    play({ .root = "YR", .goal = "YRG", .par = 2, .level = 6, .stage = 2 });
-    lookAway();
-    for (const auto& [name, page] : game().game().script().pages) {
-        controller().pages().show(name);
-        wait(2.0);
-        stop(name);
-    }
+    openEveryPage();
     compareWith("pages");
 }
 
@@ -170,6 +164,13 @@ TEST_F(Tours, TheReplay)
     visit("5-4", [&] { sheets().openReplay("5-4"); }, by, { "run", "last", "shortest" });
     visit("3-9", [&] { sheets().openReplay("3-9"); }, by, {});
     visit("1-2", [&] { sheets().openReplay("1-2"); }, { "Right", "Space", "End" }, {});
+    openWaysRound();
+    keys({ "Home", "Right", "Right", "Right", "Home" });
+    sheets().choose("run");
+    wait(0.5);
+    keys({ "Right" }); // by hand, which ends the run
+    wait(3.0);
+    stop("left where it was");
     compareWith("replay");
 }
 
@@ -187,11 +188,24 @@ TEST_F(Tours, TheDays)
 TEST_F(Tours, TheEditor)
 {
     const auto open = [&] { sheets().openEditor(); };
-    visit("empty", open, { "R", "G", "Down", "B", "Y", "Backspace", "Left", "Up", "Delete" }, {});
+    visit("empty", open, { "R", "G", "Down", "B", "Y", "Backspace", "Left", "Up", "Del" }, {});
     controller().shelf().setDraft({ "YBRGG", "RBBR" });
     visit("reachable", open,
         { "Right", "Home", "End", "Down", "Tab", "Tab", "Shift+Tab", "Ctrl+C", "Ctrl+V" },
         { "start-1", "goal-2", "chip-G", "play", "make" });
+    controller().shelf().setDraft({ "YBRGG", "RBBR" });
+    open();
+    wait(1.0);
+    lookAway();
+    keys({ "Left", "Left", "Left", "Del", "Left", "Y", "R", "Left", "Left", "Y", "Left", "G",
+        "Left", "Left", "Backspace", "Down", "Del", "Backspace" });
+    for (const char* const key : { "par-less", "bits-less", "par-more", "bits-more" }) {
+        for (int press = 0; press < 32; ++press) {
+            sheets().choose(key);
+        }
+        stop(std::string(key) + " to the end");
+    }
+    sheets().close();
     for (const play::CodedPuzzle& draft : { play::CodedPuzzle { "YRRRRRRRRRRR", "BBBBBBBBBBBB" },
              play::CodedPuzzle { "YRGBRGBRGBRG", "YRGBRGBRGBRG" },
              play::CodedPuzzle { "YRG", "" } }) {
@@ -208,17 +222,23 @@ TEST_F(Tours, TheEditor)
 TEST_F(Tours, TheirOwnPuzzles)
 {
     const auto open = [&] { sheets().openMine(); };
-    visit("none", open, { "Down", "Return", "Delete" }, {});
+    visit("none", open, { "Down", "Return", "Del" }, {});
     keepPuzzles(3);
     solveEverything();
     visit("three", open,
-        { "Down", "Down", "Up", "End", "Home", "Ctrl+C", "F2", "a", "Shift+B", "Space", "Backspace",
-            "7", "Right", "Down", "Return", "Delete" },
+        { "Down", "Down", "Up", "End", "Home", "Ctrl+C", "F2", "A", "Shift+B", "Space", "Backspace",
+            "7", "Right", "Return", "F2", "C", "Return", "Down", "Del" },
         { "play", "edit", "rename" });
-    keepPuzzles(30);
-    visit("many", open, { "PgDown", "Down", "PgDown", "End", "PgUp", "Home" }, { "after" });
+    keepPuzzles(8);
     open();
-    keys({ "F2", "Shift+A", "Space", "b", "Esc", "F2", "c", "Return" });
+    wait(1.0);
+    stop("as many as a page holds");
+    sheets().close();
+    keepPuzzles(30);
+    visit("many", open, { "PgDown", "Down", "PgUp", "PgDown", "PgUp", "PgUp", "PgUp", "PgUp" },
+        { "after" });
+    open();
+    keys({ "F2", "Shift+A", "Space", "B", "Esc", "F2", "C", "Return" });
     compareWith("mine");
 }
 
@@ -348,6 +368,12 @@ TEST_F(Tours, OtherWindowsAndStones)
     click("chip-1-0");
     wait(0.3);
     stop("refused, with the reason");
+    wait(3.0);
+    drag("chip-1-0", "chip-4-0");
+    wait(0.3);
+    stop("dropped on a stone where no move goes");
+    wait(3.0);
+    lookAway();
     change([](progress::Settings& settings) { settings.answers = false; });
     wait(1.0);
     stop("without Answers");
