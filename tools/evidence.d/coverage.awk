@@ -2,6 +2,7 @@
 # tools/evidence.d/coverage.
 
 BEGIN {
+  in_order = "sort -t: -k1,1 -k2,2n | tr '\\001' '\\n'"
   split(wanted_rooms, list, " ")
   for (i in list) is_wanted[list[i]]
   while ((getline entry < explained) > 0) {
@@ -39,15 +40,19 @@ BEGIN {
   gsub(/[ *]/, "", count)
   if (count == "-") next
   lines[file, number] = 1
+  if (count ~ /^=/) handles[file, number] = 1
   if (count !~ /^[#=]/) reached[file, number] = 1
   next
 }
 
 # The blocks that the line consists of, each before its branches. Those that run only while an
 # exception passes through are marked: the compiler's clearing away. What a handler does is ours: there
-# the whole line runs for an exception only, and is never reached without one.
+# the whole line runs for an exception only, and is never reached without one. Of an expression over
+# several lines some have nothing but such blocks: what else there is stands at its last line.
 /^ *[^:]+: *[0-9]+-block/ {
   clears_away = /^ *\$/
+  if (clears_away) cleared[file, number] = 1
+  else if (number > 0) lived[file, number] = 1
   next
 }
 
@@ -83,17 +88,23 @@ function room_of(path) {
   return path
 }
 
+# In the order of files and lines.
+function tell(path, at, what, why) {
+  printf "%s:%d: %s\001    %s\n", path, at, what, why == "" ? "NOT EXPLAINED" : why | in_order
+}
+
 function percent(part, whole) { return whole == 0 ? 100 : 100 * part / whole }
 
 END {
   for (k in lines) {
+    if (!(k in reached) && k in cleared && !(k in lived) && !(k in handles)) continue
     split(k, at, SUBSEP)
     of = room_of(at[1])
     total_lines[of]++
     if (k in reached) continue
     why = explanation(at[1], plain(text[k]))
     if (why == "") missed_lines[of]++
-    printf "%s:%d: never reached: %s\n    %s\n", at[1], at[2], plain(text[k]), why == "" ? "NOT EXPLAINED" : why
+    tell(at[1], at[2], "never reached: " plain(text[k]), why)
   }
   for (k in branches) {
     split(k, at, SUBSEP)
@@ -107,9 +118,9 @@ END {
     if (!(k in missed)) continue
     why = explanation(at[1], plain(text[k]))
     if (why == "") missed_branches[of] += missed[k]
-    printf "%s:%d: %d of %d branches never taken: %s\n    %s\n",
-      at[1], at[2], missed[k], on_line[k], plain(text[k]), why == "" ? "NOT EXPLAINED" : why
+    tell(at[1], at[2], missed[k] " of " on_line[k] " branches never taken: " plain(text[k]), why)
   }
+  close(in_order)
   for (k in idle) {
     if (idle[k] == "*" || room_of(idle[k]) in is_wanted) print "coverage.txt explains what is reached: " k
   }
