@@ -242,48 +242,35 @@ void Focus::step(Verb verb)
         return;
     case Verb::First:
     case Verb::Last:
-        return goToEnd(verb);
+        return goToEnd(all, from->group, verb);
     case Verb::NextGroup:
-        return goToGroup(1);
+        return goToGroup(all, from->group, 1);
     case Verb::PreviousGroup:
-        return goToGroup(-1);
+        return goToGroup(all, from->group, -1);
     default:
-        return goFar(directionOf(verb));
+        return goFar(all, *from, directionOf(verb));
     }
 }
 
-void Focus::goFar(Direction direction)
+void Focus::goFar(const std::vector<Stop>& all, Stop from, Direction direction)
 {
-    const auto all = stops();
-    auto from = current(all);
-    while (
-        const Stop* const next = from ? nearest(all, *from, direction, Reach::Straight) : nullptr) {
+    while (const Stop* const next = nearest(all, from, direction, Reach::Straight)) {
         from = *next;
     }
-    if (from) {
-        stand(*from);
-    }
+    stand(from);
 }
 
-void Focus::goToEnd(Verb verb)
+void Focus::goToEnd(const std::vector<Stop>& all, Group own, Verb verb)
 {
-    const auto all = stops();
-    if (const auto from = current(all)) {
-        const auto group = ofGroup(all, from->group);
-        stand(verb == Verb::First ? group.front() : group.back());
-    }
+    const auto group = ofGroup(all, own);
+    stand(verb == Verb::First ? group.front() : group.back());
 }
 
-void Focus::goToGroup(int step)
+void Focus::goToGroup(const std::vector<Stop>& all, Group from, int step)
 {
     constexpr int kGroups = 4;
-    const auto all = stops();
-    const auto from = current(all);
-    if (!from) {
-        return;
-    }
     for (int i = 1; i <= kGroups; ++i) {
-        const int group = (static_cast<int>(from->group) + i * step + i * kGroups) % kGroups;
+        const int group = (static_cast<int>(from) + i * step + i * kGroups) % kGroups;
         if (const Stop* const entry = entryOf(all, static_cast<Group>(group))) {
             return stand(*entry);
         }

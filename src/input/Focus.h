@@ -40,9 +40,9 @@ private:
     void show();
     void stand(const Stop& stop);
     void step(Verb verb);
-    void goFar(Direction direction);
-    void goToEnd(Verb verb);
-    void goToGroup(int step);
+    void goFar(const std::vector<Stop>& all, Stop from, Direction direction);
+    void goToEnd(const std::vector<Stop>& all, Stop::Group own, Verb verb);
+    void goToGroup(const std::vector<Stop>& all, Stop::Group from, int step);
     void goToColumn(unsigned column);
     void click();
     void lift();
