@@ -38,10 +38,12 @@ TEST(ActionText, UnderstandsNothingElse)
     for (const char* const text : { "", " ", "Move 1 0", "move", "move 1", "move 1 0 ", " move 1 0",
              "move  1 0", "move 1 0 0", "move +1 0", "move -1 0", "move 01 0", "move 1 4294967296",
              "move 1 0\n", "move one 0", "move 1.5 0", "remove", "remove -1", "undo 1", "redo now",
-             "leave", "hint", "hint bad", "hint good 1", "hint back", "hint line 6", "hint pieces ",
+             "leave", "hint", "hint bad", "hint good 1", "hint back", "hint back x",
+             "hint nothing 1", "hint line x 2", "hint line 6 x", "hint line 6", "hint pieces ",
              "puzzle 5-4 YGBRB BBYBB 6 470", "puzzle 5-4 YGBRB BBYBB 6 470 0 0",
              "puzzle 5 YGBRB BBYBB 6 470 0", "puzzle 5-4 YGXRB BBYBB 6 470 0",
              "puzzle 5-4  BBYBB 6 470 0", "puzzle 5- YGBRB BBYBB 6 470 0",
+             "puzzle x-4 YGBRB BBYBB 6 470 0", "puzzle 5-4 YGBRB BBYXB 6 470 0",
              "puzzle 5-4 YGBRB BBYBB 6 9223372036854775808 0", "puzzle Endless YGR YGR 2 0 0" }) {
         EXPECT_EQ(parse(text), std::nullopt) << '"' << text << '"';
     }

@@ -61,6 +61,9 @@ TEST(Recording, IsNoRecordingWithoutAHeadOfOurs)
     JournalWriter writer;
     EXPECT_EQ(readRecording(writer.checked("veyrand-results 1") + '\n').fault,
         "it is no journal of the game");
+    EXPECT_EQ(readRecording(JournalWriter().checked("veyrand-actions") + '\n').fault,
+        "it is no journal of the game")
+        << "a head that says neither its format nor whose it is";
 }
 
 } // namespace veyrand::play

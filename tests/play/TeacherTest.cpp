@@ -80,6 +80,13 @@ TEST(TheTeacher, LeadsOnByAShortestWay)
     EXPECT_EQ(proof.back(), engine::Theorem("YRRG"));
 }
 
+TEST(TheTeacher, LeadsNowhereWhereNoWayLeadsOn)
+{
+    Teacher teacher(engine::Theorem("YRRG"), kAllMoves);
+    EXPECT_EQ(teacher.next(boardOf({ "YR", "YB" })), std::nullopt);
+    EXPECT_EQ(teacher.next(boardOf({ "YR", "Y?" })), std::nullopt) << "no chip is called so";
+}
+
 // From random lines of random walks: what is said to be gone is gone, comes from nothing that is
 // there, stood on the good line, and no way leads to the goal without it.
 TEST(TheTeacher, SaysOfAColourThatItIsGoneWhereItIs)

@@ -64,6 +64,17 @@ TEST(ASolution, IsMarkedWhereItLeavesTheShortestWays)
     EXPECT_EQ(trail[1].instead, only(progress::kGreenToEnd));
 }
 
+// The last line is the goal: nothing is needed after it, whichever move made it.
+TEST(ASolution, IsMarkedToItsEndThoughItsLastMoveWasNotOpen)
+{
+    WaySearch search;
+    auto trail = trailOf({ "YRRR", "YRRRG" }, { { progress::kGreenToEnd, 0 } });
+    ASSERT_THAT(textsOfTrail(trail), ElementsAre("YRRR", "YRRRG"));
+    markWhereItLeaves(trail, search, kAllMoves & ~only(progress::kGreenToEnd));
+    EXPECT_THAT(costsOfTrail(trail), ElementsAre(0, 0));
+    EXPECT_EQ(trail[1].instead, only(progress::kDoubling));
+}
+
 TEST(ASolution, IsLookedAtAsFarAsItsMovesAreThere)
 {
     const auto trail = trailOf(kDoubledThenGreen,
