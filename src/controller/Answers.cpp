@@ -360,9 +360,6 @@ void Answers::dragRefused(const std::string& key)
 
 void Answers::dropMissed(const std::string& from, const std::string& to)
 {
-    if (!board::isChipKey(from)) {
-        return;
-    }
     // Dropped on a stone of its line it was refused, and answered, as a gesture.
     const bool onStone = board::isChipKey(to);
     if (!onStone) {
@@ -375,7 +372,7 @@ void Answers::dropMissed(const std::string& from, const std::string& to)
 void Answers::clickMissed(const std::string& key)
 {
     say({ .reason = Reason::SameChip });
-    if (!m_settings.answers || !board::isChipKey(key)) {
+    if (!m_settings.answers) {
         return;
     }
     if (++m_clicksMissed >= kMissesUntilAdvice) {

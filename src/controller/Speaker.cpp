@@ -102,15 +102,13 @@ int Speaker::movesToPar() const
 
 void Speaker::sayLine()
 {
-    if (const engine::Proof* const proof = this->proof()) {
-        say(m_sentences.newLine(
-            static_cast<unsigned>(proof->lines().size() - 1), proof->lines().back().theorem()));
-    }
+    const auto& lines = m_controller.proof()->lines();
+    say(m_sentences.newLine(static_cast<unsigned>(lines.size() - 1), lines.back().theorem()));
 }
 
 void Speaker::moveMade(unsigned rule)
 {
-    if (!isHeard() || proof() == nullptr) {
+    if (!isHeard()) {
         return;
     }
     say(m_sentences.moveMade(play::labelOf(rule)));
@@ -137,17 +135,15 @@ void Speaker::solved(std::int64_t points)
 
 void Speaker::linesTaken(const play::Outcome& outcome)
 {
-    if (isHeard() && proof() != nullptr && !outcome.gone.empty()) {
+    if (isHeard()) {
         say(m_sentences.removed(static_cast<unsigned>(outcome.gone.size())));
-        const auto& lines = proof()->lines();
-        say(m_sentences.lastLineIs(
-            static_cast<unsigned>(lines.size() - 1), lines.back().theorem()));
+        sayLastLine();
     }
 }
 
 void Speaker::undone()
 {
-    if (isHeard() && proof() != nullptr) {
+    if (isHeard()) {
         say(m_sentences.undone());
         sayLastLine();
     }
@@ -155,7 +151,7 @@ void Speaker::undone()
 
 void Speaker::redone()
 {
-    if (isHeard() && proof() != nullptr) {
+    if (isHeard()) {
         say(m_sentences.redone());
         sayLastLine();
     }
@@ -190,7 +186,7 @@ void Speaker::hintGiven(play::Hint::Kind kind)
 
 void Speaker::hintLanded()
 {
-    if (isHeard() && proof() != nullptr) {
+    if (isHeard()) {
         say(m_sentences.linePlaced());
         sayLine();
         if (!m_controller.proof()->checkSolved()) {
@@ -201,10 +197,10 @@ void Speaker::hintLanded()
 
 void Speaker::puzzleLaidOut()
 {
-    const engine::Proof* const proof = this->proof();
-    if (!isHeard() || proof == nullptr) {
+    if (!isHeard()) {
         return;
     }
+    const auto& proof = m_controller.proof();
     const progress::CurrentGame& game = m_game.currentGame;
     say(game.practice()          ? m_sentences.practicePuzzle(game.practice()->caption)
             : game.endlessGame() ? m_sentences.endlessPuzzle()
@@ -222,11 +218,11 @@ void Speaker::puzzleResumed()
 
 void Speaker::messageShown()
 {
-    const auto* const message = m_controller.messages().messageWindow();
-    if (!isHeard() || message == nullptr) {
+    if (!isHeard()) {
         return;
     }
-    const MessageWords words = wordsOf(*message, m_game.layers.textMetrics(), m_sentences.names());
+    const auto& message = *m_controller.messages().messageWindow();
+    const MessageWords words = wordsOf(message, m_game.layers.textMetrics(), m_sentences.names());
     say(m_sentences.message(words.title, words.body));
 }
 
@@ -246,15 +242,13 @@ void Speaker::titleShown()
 
 void Speaker::chipLifted(const std::string& key)
 {
-    if (!isHeard() || proof() == nullptr || !board::isChipKey(key)) {
+    if (!isHeard()) {
         return;
     }
     const unsigned row = board::rowForKey(key);
     const unsigned column = board::columnForKey(key);
     const std::string& line = proof()->lines().back().theorem();
-    if (column < line.size()) {
-        say(m_sentences.lifted(line[column], dropsThatAreMoves(m_controller, row, column)));
-    }
+    say(m_sentences.lifted(line[column], dropsThatAreMoves(m_controller, row, column)));
 }
 
 void Speaker::liftRefused()

@@ -124,6 +124,19 @@ TEST(ABundle, HasJournalsThatHold)
     EXPECT_EQ(bundleFaultOf(changed.dump()), (BundleFault { Kind::Damaged, "journals.classic" }));
 }
 
+TEST(ABundle, HoldsNoLineThatIsTwoAndNoNumberThatNothingCounts)
+{
+    const Json whole = Json::parse(textOf(fullBundle()));
+    Json changed = whole;
+    changed["results"][0] = "one\ntwo";
+    EXPECT_EQ(bundleFaultOf(changed.dump()), (BundleFault { Kind::Damaged, "results" }));
+    changed = whole;
+    changed["settings"]["MusicVolume"] = 18'446'744'073'709'551'615U;
+    EXPECT_EQ(bundleFaultOf(changed.dump()), (BundleFault { Kind::Damaged, "settings" }));
+    changed["settings"]["MusicVolume"] = -40; // read as it stands; the check tells
+    EXPECT_EQ(bundleFaultOf(changed.dump()), (BundleFault { Kind::Damaged, "check" }));
+}
+
 TEST(ABundle, IsOfNobodyElse)
 {
     for (const char* const text : { "", "{}", "[]", "null", "7", "GIF89a", "{\"a\": 1}",

@@ -1,6 +1,7 @@
 #include "controller/Sentences.h"
 
 #include "support/FolderResources.h"
+#include "support/MemoryResources.h"
 
 #include <gtest/gtest.h>
 
@@ -122,6 +123,38 @@ TEST_F(SpokenSentences, BeginWithACapital)
     EXPECT_EQ(say().lifted('R', { 0, 3 }), "Red is lifted. It can be dropped on place 1, place 4.");
     EXPECT_EQ(say().removed(3), "Three lines taken back.");
     EXPECT_EQ(say().goalIs("YR"), "goal: yellow, red.");
+}
+
+TEST_F(SpokenSentences, TellALineByItsNumberAndTheStartLineByItsName)
+{
+    EXPECT_EQ(say().newLine(0, "YR"), "Start line: yellow, red.");
+    EXPECT_EQ(say().newLine(2, "YR"), "Line 2: yellow, red.");
+}
+
+TEST_F(SpokenSentences, TellAPracticePuzzleSolvedBetterThanItsPar)
+{
+    EXPECT_EQ(say().solvedInPractice(0), "Solved at par.");
+    EXPECT_EQ(say().solvedInPractice(-1), "Solved one move under par.");
+}
+
+// Letters beyond ASCII too; a sign that looks like one in its bytes stays, and so does what has no
+// capital.
+TEST(SentencesOfAnyLanguage, BeginWithTheCapitalOfTheirFirstLetter)
+{
+    for (const auto& [words, sentence] :
+        std::initializer_list<std::pair<const char*, const char*>> { { "undone", "Undone" },
+            { "\u00E9crit", "\u00C9crit" }, { "\u00E0", "\u00C0" }, { "\u00FE", "\u00DE" },
+            { "\u00C9crit", "\u00C9crit" }, { "\u00F7", "\u00F7" }, { "\u00FF", "\u00FF" },
+            { "\u0161", "\u0161" }, { "1 back", "1 back" }, { "7", "7" }, { "", "" } }) {
+        test::MemoryResources resources;
+        for (const char* const name : { "windows", "pages" }) {
+            resources.add(std::string("languages/en/") + name, "json", "{}");
+        }
+        resources.add("languages/en/board", "json",
+            std::string(R"({"spoken": {"undone": ")") + words + "\"}}");
+        const language::Texts texts(resources);
+        EXPECT_EQ(Sentences(texts).undone(), sentence);
+    }
 }
 
 } // namespace veyrand::controller

@@ -52,4 +52,15 @@ TEST(SettingsTable, AResetLeavesWhatTheMenuSwitches)
     EXPECT_EQ(resetSettings(settings), expected);
 }
 
+TEST(SettingsTable, LaysTheSettingsOutInSectionsWithNames)
+{
+    std::vector<std::string> names;
+    for (const SettingItem& item : settingItems()) {
+        if (names.empty() || names.back() != textOf(item.section)) {
+            names.emplace_back(textOf(item.section));
+        }
+    }
+    EXPECT_EQ(names, (std::vector<std::string> { "Sound", "Board", "Play" }));
+}
+
 } // namespace veyrand::controller

@@ -1,4 +1,5 @@
 #include "controller/AccessibleTree.h"
+#include "controller/Legality.h"
 #include "support/HeadlessPlay.h"
 
 #include <gmock/gmock.h>
@@ -64,6 +65,91 @@ TEST_F(SpokenKeysTest, AReaderGoesToWhatIsOnTheBoardAndOnASheet)
     const std::string last = places.back().id;
     focusOn(game().controller(), last);
     EXPECT_EQ(focusedId(game().controller()), last);
+}
+
+TEST_F(SpokenKeysTest, SayThatNothingHasBeenSaidYet)
+{
+    wait(2.0);
+    game().listen();
+    EXPECT_THAT(saidAt("R"), ElementsAre(text("spoken.nothingSaid")));
+    EXPECT_THAT(saidAt("R"), ElementsAre(text("spoken.nothingSaid")));
+    EXPECT_THAT(saidAt("G"), ElementsAre(text("spoken.noPuzzle")));
+    EXPECT_THAT(saidAt("R"), ElementsAre(text("spoken.noPuzzle")));
+}
+
+TEST_F(SpokenKeysTest, SayNothingToNobody)
+{
+    play("YR", "YGG");
+    game().key("2");
+    game().key("Space"); // cannot be lifted
+    for (const char* const keys : { "Shift+H", "G", "R" }) {
+        game().key(keys);
+    }
+    wait(0.5);
+    EXPECT_EQ(game().controller().speaker().last(), "");
+}
+
+TEST_F(SpokenKeysTest, WhoStopsListeningHearsNothingOfWhatWasJustDone)
+{
+    play("YRRR", "YGG");
+    game().listen();
+    wait(0.5);
+    static_cast<void>(game().takeAnnouncements());
+    game().controller().speaker().sayGoal();
+    game().controller().speaker().setListener({});
+    wait(0.5);
+    EXPECT_THAT(game().takeAnnouncements(), ElementsAre());
+    EXPECT_EQ(game().controller().speaker().last(), "");
+}
+
+TEST_F(SpokenKeysTest, TellThePointsOfTheModeThatIsPlayed)
+{
+    Puzzle puzzle = at(1, 1, "YR", "YGG");
+    puzzle.mode = Mode::Endless;
+    play(puzzle);
+    game().currentGame().addToScore(120 - game().currentGame().endlessScore());
+    game().listen();
+    EXPECT_THAT(saidAt("P"), ElementsAre(::testing::HasSubstr("120 points.")));
+}
+
+TEST_F(SpokenKeysTest, AnActionIsCalledByItsNameItsTextOrTheWordsBeforeTheColon)
+{
+    for (const char* const text : { "soulever: tout", "soulever : tout", "soulever\u00A0: tout",
+             "soulever\u202F: tout", "soulever" }) {
+        const AccessibleAction action { "lift", text };
+        for (const char* const called : { "lift", text, "soulever" }) {
+            EXPECT_TRUE(action.isCalled(called)) << called;
+        }
+        EXPECT_FALSE(action.isCalled("tout"));
+    }
+    EXPECT_EQ((AccessibleAction { "lift", "soulever " }.ownName()), "soulever ");
+}
+
+TEST_F(SpokenKeysTest, AThingIsFoundOnlyWithTheActionThatIsAskedFor)
+{
+    play("YR", "YGG");
+    const auto tree = accessibleTree(game().controller());
+    const std::string yellow = "yellow, start line, place 1";
+    EXPECT_NE(find(tree, yellow, ""), nullptr);
+    EXPECT_NE(find(tree, yellow, "click"), nullptr);
+    EXPECT_EQ(find(tree, yellow, "lift"), nullptr) << "it can only be clicked";
+    EXPECT_EQ(find(tree, "blue, start line, place 1", ""), nullptr);
+}
+
+TEST_F(SpokenKeysTest, AReaderLiftsOnlyWhatCanBeLiftedAndPressesAButtonAllTheSame)
+{
+    play("YRRRG", "YGG");
+    EXPECT_FALSE(actOn(game().controller(), "chip-7-0", "lift"));
+    EXPECT_TRUE(actOn(game().controller(), "chip-1-0", "lift"));
+    EXPECT_EQ(game().game().view().keyLifted(), "chip-1-0");
+    EXPECT_TRUE(actOn(game().controller(), "button-menubuttonon", "press"));
+    EXPECT_EQ(game().game().view().keyLifted(), "");
+}
+
+TEST_F(SpokenKeysTest, NoChipCanBeDroppedAnywhereWhereNoneLies)
+{
+    wait(1.0);
+    EXPECT_THAT(dropsThatAreMoves(game().controller(), 0, 0), ElementsAre());
 }
 
 TEST_F(SpokenKeysTest, EveryPageOfTheHelpMenuOpens)

@@ -1,0 +1,207 @@
+#include "present/ExtraTable.h"
+#include "progress/Settings.h"
+#include "support/HeadlessPlay.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+
+namespace veyrand::controller {
+
+using ::testing::Contains;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+namespace {
+
+// What the board says and shows of a gesture, as the player has set it.
+class AnswersAsSet : public test::HeadlessPlay {
+protected:
+    template <class Change> void choose(Change&& change)
+    {
+        progress::Settings settings = progress::readSettings(game().preferences());
+        change(settings);
+        progress::writeSettings(game().preferences(), settings);
+        game().controller().settingsChanged();
+    }
+    void saySoWithoutAnswers()
+    {
+        choose([](progress::Settings& settings) {
+            settings.answers = false;
+            settings.sayWhy = true;
+        });
+    }
+    [[nodiscard]] std::vector<present::ExtraKind> kinds()
+    {
+        std::vector<present::ExtraKind> kinds;
+        for (const auto& shown : game().game().layers().extras().shown()) {
+            kinds.push_back(shown.kind);
+        }
+        return kinds;
+    }
+    [[nodiscard]] Answers& answers() { return game().controller().answers(); }
+    [[nodiscard]] std::string text(const char* id) { return game().game().texts().text(id); }
+    // A chip is lifted and put down where it lay.
+    void nudge(const std::string& key)
+    {
+        press(key);
+        auto place = game().centreOf(key).value();
+        place.x += 0.012;
+        game().move(place);
+        game().release(place);
+        wait(0.5);
+    }
+    void pressIntoABlock()
+    {
+        click("chip-1-0");
+        wait(1.0);
+        ASSERT_TRUE(blocked());
+        press("chip-0-1");
+        release("chip-0-1");
+    }
+};
+
+} // namespace
+
+TEST_F(AnswersAsSet, ARefusalIsSaidAndNoHeadShakenWithoutAnswers)
+{
+    saySoWithoutAnswers();
+    play("YRGR", "YB");
+    click("chip-1-0");
+    EXPECT_EQ(answers().whisper(), text("refusals.RedNotLast"));
+    EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Shake)));
+}
+
+TEST_F(AnswersAsSet, AChipPutDownWhereItLayIsToldAndNothingIsAdvisedWithoutAnswers)
+{
+    saySoWithoutAnswers();
+    play("YRRRG", "YB");
+    for (int time = 0; time < 3; ++time) {
+        nudge("chip-1-0");
+        EXPECT_EQ(answers().whisper(), text("refusals.SameChip"));
+    }
+    EXPECT_EQ(answers().tip(), "");
+}
+
+TEST_F(AnswersAsSet, APressIntoABlockDoesNotBlinkWithoutAnswers)
+{
+    saySoWithoutAnswers();
+    play("YR", "YB");
+    pressIntoABlock();
+    EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Light)));
+}
+
+TEST_F(AnswersAsSet, WhoHasPressesRememberedIsNotAdvisedToDoSo)
+{
+    for (const bool remembers : { false, true }) {
+        choose([=](progress::Settings& settings) { settings.rememberPress = remembers; });
+        play("YR", "YB");
+        click("chip-1-0");
+        wait(0.2);
+        ASSERT_TRUE(blocked());
+        for (int time = 0; time < 3; ++time) {
+            press("chip-0-0");
+            release("chip-0-0");
+        }
+        wait(0.3);
+        EXPECT_EQ(answers().tip() == text("advice.rememberPress"), !remembers);
+        settle();
+    }
+}
+
+TEST_F(AnswersAsSet, APressOnAButtonIntoABlockDoesNotBlink)
+{
+    play("YR", "YB");
+    click("chip-1-0");
+    wait(0.2);
+    ASSERT_TRUE(blocked());
+    press("button-lightbulboff");
+    EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Light)));
+    release("button-lightbulboff");
+}
+
+TEST_F(AnswersAsSet, APuzzleIsSolvedWithoutACelebrationOrAPageWithRays)
+{
+    choose([](progress::Settings& settings) { settings.answers = false; });
+    play("YR", "YRG");
+    click("chip-1-0");
+    wait(2.0);
+    EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Plate)));
+    wait(8.0);
+    game().controller().pages().show("stage3MessageWindow");
+    wait(0.5);
+    EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Light)));
+}
+
+TEST_F(AnswersAsSet, WhoSwitchesThemOnAfterTheSolutionSeesNoDust)
+{
+    choose([](progress::Settings& settings) { settings.answers = false; });
+    play("YR", "YRG");
+    click("chip-1-0");
+    wait(0.5);
+    choose([](progress::Settings& settings) { settings.answers = true; });
+    for (int tenth = 0; tenth < 60; ++tenth) {
+        wait(0.1);
+        EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Dust)));
+    }
+}
+
+TEST_F(AnswersAsSet, WhoLiftsByClicksIsNotAdvisedToDoSo)
+{
+    choose([](progress::Settings& settings) { settings.liftByClick = true; });
+    play("YRRRG", "YB");
+    for (int time = 0; time < 4; ++time) {
+        game().controller().mouseClick({}, 0, 1);
+        wait(0.2);
+    }
+    EXPECT_NE(answers().tip(), text("advice.liftByClick"));
+}
+
+TEST_F(AnswersAsSet, ALimitMetAtOnceAgainDoesNotFlicker)
+{
+    play("YRGRGRGR", "YB");
+    const auto limits = [this] {
+        const auto now = kinds();
+        return std::count(now.begin(), now.end(), present::ExtraKind::Limit);
+    };
+    click("chip-0-0");
+    EXPECT_EQ(limits(), 1);
+    wait(0.1);
+    click("chip-0-0");
+    EXPECT_EQ(limits(), 0) << "the press has ended the first";
+    wait(1.0);
+    click("chip-0-0");
+    EXPECT_EQ(limits(), 1);
+}
+
+TEST_F(AnswersAsSet, ALaterReasonStaysAsLongAsAFirst)
+{
+    choose([](progress::Settings& settings) { settings.sayWhy = true; });
+    play("YRGR", "YB");
+    click("chip-1-0");
+    wait(present::extras::kWhisper - 0.5);
+    click("chip-2-0");
+    wait(1.0);
+    EXPECT_EQ(answers().whisper(), text("refusals.LoneGreen"));
+    wait(present::extras::kWhisper);
+    EXPECT_EQ(answers().whisper(), "");
+}
+
+TEST_F(AnswersAsSet, AClickOnAChipThatIsNoLongerThereIsRefusedAndNothingShakes)
+{
+    play("YR", "YB");
+    game().controller().mouseClick({}, 0, 7);
+    EXPECT_THAT(sounds(), Contains("No"));
+    EXPECT_THAT(kinds(), Not(Contains(present::ExtraKind::Shake)));
+}
+
+TEST_F(AnswersAsSet, ADeleteButtonOfALineThatHasGoneTakesNothing)
+{
+    play("YRR", "YRRGG");
+    click("chip-2-0");
+    settle();
+    ASSERT_EQ(lines().size(), 2U);
+    game().controller().lines().deleteClick(5);
+    EXPECT_EQ(lines().size(), 2U);
+}
+
+} // namespace veyrand::controller
