@@ -53,12 +53,6 @@ void PuzzleShelf::remove(const std::string& code)
     }
 }
 
-void PuzzleShelf::join(const play::MyPuzzles& others)
-{
-    m_puzzles.join(others);
-    save();
-}
-
 void PuzzleShelf::replace(const play::MyPuzzles& others)
 {
     m_puzzles = others;

@@ -18,7 +18,6 @@ public:
     play::MyPuzzles::Saving add(const std::string& code);
     void rename(const std::string& code, const std::string& name);
     void remove(const std::string& code);
-    void join(const play::MyPuzzles& others);
     void replace(const play::MyPuzzles& others);
 
     // What the editor holds, for as long as the game runs.

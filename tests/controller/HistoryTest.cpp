@@ -341,11 +341,25 @@ TEST_F(HistoryTest, DoesNothingUnderAPageAndSendsANoteAway)
     EXPECT_EQ(lines().size(), 2U);
     EXPECT_EQ(game().controller().messages().page(), "movesMessageWindow");
     game().controller().messages().dismiss();
-    game().controller().pages().show("tutorialMessage11");
+    ASSERT_TRUE(game().controller().pages().show("stage1Help"));
     settle();
     undo();
     EXPECT_EQ(lines().size(), 1U);
     EXPECT_EQ(game().controller().messages().page(), "");
+}
+
+TEST_F(HistoryTest, WaitsForThePageThatFollowsANote)
+{
+    play("YR", "YB");
+    click("chip-0-0");
+    settle();
+    ASSERT_TRUE(game().controller().pages().show("stage1Help"));
+    game().controller().messages().setDisplayMessageWindowOnClick(3);
+    settle();
+    undo();
+    EXPECT_EQ(lines().size(), 2U);
+    EXPECT_TRUE(game().game().view().messageWindow());
+    EXPECT_NE(game().controller().messages().page(), "stage1Help");
 }
 
 TEST_F(HistoryTest, ALineTakenBackByUndoGivesUpTheChipInTheHand)

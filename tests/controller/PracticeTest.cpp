@@ -328,4 +328,25 @@ TEST_F(PracticeTest, SaysWhichResultsAreDamaged)
     EXPECT_TRUE(game().book().results().all().empty());
 }
 
+TEST_F(PracticeTest, SaysWhyACodeIsNoPuzzleOfThisGame)
+{
+    const language::Texts& texts = m_game->game().texts();
+    EXPECT_EQ(game().practice().open("X3333T7"), texts.text("practice.codeNewer"));
+    const std::string twoYellows = play::codeOf("YRY", "Y").value();
+    EXPECT_EQ(game().practice().open(twoYellows), texts.text("practice.badStart"));
+    EXPECT_EQ(game().practice().whyNot(twoYellows), texts.text("practice.badStart"));
+    EXPECT_EQ(game().practice().whyNot("X3333T7"), texts.text("practice.codeNewer"));
+    EXPECT_FALSE(game().proof());
+}
+
+TEST_F(PracticeTest, OnePuzzleFollowsAnotherWithoutAQuestion)
+{
+    ASSERT_TRUE(game().practice().play({ 2, 5 }));
+    game().practice().choose({ 2, 4 });
+    EXPECT_FALSE(m_game->alerts().isOpen());
+    EXPECT_EQ(game().practice().nameInPlay(), "2-4");
+    game().practice().choose({ 9, 9 });
+    EXPECT_EQ(game().practice().nameInPlay(), "2-4") << "which has not been reached";
+}
+
 } // namespace veyrand::controller

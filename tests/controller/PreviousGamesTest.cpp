@@ -8,6 +8,7 @@
 
 namespace veyrand::controller {
 
+using progress::Mode;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -181,6 +182,15 @@ TEST_F(PreviousGamesTest, WhoLeavesTheOneGameIsOfferedTheOther)
     EXPECT_EQ(alerts.alert().message, "Bring back the previous Endless game?");
     alerts.close();
     EXPECT_FALSE(alerts.isOpen()) << "there is no third";
+}
+
+TEST_F(PreviousGamesTest, WhereNothingIsKeptNothingComesBack)
+{
+    const std::string before = text(kJournal);
+    m_game->controller().previous().bringBack(Mode::Endless);
+    EXPECT_FALSE(m_game->controller().proof());
+    EXPECT_EQ(text(kJournal), before);
+    EXPECT_TRUE(m_game->controller().previous().previous(Mode::Classic));
 }
 
 } // namespace veyrand::controller

@@ -247,4 +247,52 @@ TEST(ATransfer, PutsThePuzzlesOfOnesOwnInThePlaceOfOthers)
     EXPECT_EQ(here.controller().shelf().puzzles(), wanted);
 }
 
+TEST(ATransfer, RefusesAFileThatIsTooLargeAndBringsNoneOut)
+{
+    Machine here(2, 4, 310);
+    EXPECT_THAT(here.transfer().bringIn(
+                    std::string(kMostBundleBytes + 1, ' '), "mine.json", Transfer::How::Join),
+        HasSubstr("mine.json"));
+    here.preferences().setRecord(
+        progress::kSettingsKey, { { "Language", std::string(kMostBundleBytes, 'x') } });
+    here.transfer().exportGame();
+    EXPECT_EQ(
+        here.game().alerts().alert().message, here.game().game().texts().text("transfer.tooMuch"));
+    EXPECT_FALSE(here.game().exchange().saved());
+}
+
+TEST(ATransfer, RefusesAJournalThatCannotHaveBeenPlayed)
+{
+    Machine one(2, 4, 310);
+    one.goOn();
+    auto read = readBundle(one.transfer().exported());
+    ASSERT_TRUE(std::holds_alternative<play::Bundle>(read));
+    auto& bundle = std::get<play::Bundle>(read);
+    auto& lines = bundle.journalOf(Mode::Classic);
+    const auto journal = play::readJournal(play::textOfLines(lines), bundle.player);
+    play::JournalWriter writer(journal.checks.back());
+    lines.push_back(writer.line({ play::Move { 3, 5 }, {} }));
+    Machine here(3, 1, 400);
+    const std::string before = here.everything();
+    EXPECT_THAT(here.transfer().bringIn(textOf(bundle), "mine.json", Transfer::How::Replace),
+        HasSubstr("journals.classic, 3"));
+    EXPECT_EQ(here.everything(), before);
+}
+
+TEST(ATransfer, SaysThatThePuzzleInPlayCouldNotBeKept)
+{
+    Machine one(2, 4, 310);
+    one.goOn();
+    const std::string text = one.transfer().exported();
+    Machine here(1, 1, 0);
+    std::vector<std::string> told;
+    here.controller().kept().setReporter(
+        [&told](const std::string& message) { told.push_back(message); });
+    here.journal().failWith("No space left on device");
+    EXPECT_EQ(here.transfer().bringIn(text, "f", Transfer::How::Replace), "");
+    EXPECT_THAT(told,
+        ::testing::Contains(here.game().game().texts().text(
+            "saving.puzzleNotKept", { { "why", std::string("No space left on device") } })));
+}
+
 } // namespace veyrand::controller

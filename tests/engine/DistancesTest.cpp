@@ -58,6 +58,15 @@ TEST(Distances, ARootLongerThanTheLimitIsServedToo)
     EXPECT_EQ(distances.countsFrom(packed("YGGGG")), (Counts { 1, 1, 2 })); // YGG; Y and GGY
 }
 
+TEST(Distances, OfSeveralYellowsAreCountedToo)
+{
+    // Longer than the limit, as long, and shorter.
+    Distances distances(*PackedMoves::derive(*sevenMoves()), 3);
+    EXPECT_EQ(distances.countsFrom(packed("YYGGG")).front(), 1U);
+    EXPECT_EQ(distances.countsFrom(packed("YYB")), (Counts { 1, 1 })); // the flip: BYY
+    EXPECT_EQ(distances.countsFrom(packed("YYY")), (Counts { 1 }));
+}
+
 TEST(Distances, RulesThatAddYellowsAreServedToo)
 {
     const auto moves = PackedMoves::derive({ { "R", "YY" } });

@@ -189,5 +189,16 @@ TEST(PackedMoves, ATooLongRootLosesEveryChildThatStaysTooLong)
     expectAgreement(*sevenMoves(), sevenPackedMoves(), "YRGRRGRRBRRRRRRB", 12);
 }
 
+TEST(PackedMoves, AFullLineHasNoRoomForOneChipMore)
+{
+    for (const char last : std::string("YRGB")) {
+        const std::string text = "Y" + std::string(PackedLine::kMostChips - 2, 'B') + last;
+        ASSERT_EQ(text.size(), PackedLine::kMostChips);
+        expectAgreement(*sevenMoves(), sevenPackedMoves(), text);
+    }
+    const std::string greens = "YBR" + std::string(PackedLine::kMostChips - 3, 'G');
+    expectAgreement(*sevenMoves(), sevenPackedMoves(), greens);
+}
+
 } // namespace
 } // namespace veyrand::engine
