@@ -2,6 +2,7 @@
 
 #include "play/ActionText.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -170,6 +171,9 @@ TEST(ABundle, NamesTheLineThatCannotHaveBeenPlayed)
         writer.line({ *play::parse("puzzle 2-1 YRRR YGG 3 320 0"), "YRRR" }),
         writer.line({ *play::parse("move 5 0"), "YGGG" }) };
     EXPECT_EQ(impossibleIn(bundle, Mode::Classic, catalogue), "journals.classic, 3");
+    bundle.journalOf(Mode::Endless) = bundle.journalOf(Mode::Classic);
+    EXPECT_THAT(
+        impossibleIn(bundle, Mode::Endless, catalogue), testing::StartsWith("journals.endless, "));
 }
 
 } // namespace veyrand::controller

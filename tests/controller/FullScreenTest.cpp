@@ -300,4 +300,23 @@ TEST_F(FullScreenTest, AFinishedClassicGameHasNoChipsToDraw)
     EXPECT_EQ(game().controller().messages().page(), "classicGameFinished");
 }
 
+// The window's own buttons are there in full screen too, on some desktops.
+TEST_F(FullScreenTest, AWindowThatWasMadeSmallerMeanwhileIsNotMadeLarger)
+{
+    toggle();
+    expectWindow(true, true);
+    game().window().zoom();
+    ASSERT_FALSE(game().window().isZoomed());
+    toggle();
+    expectWindow(false, false);
+}
+
+TEST_F(FullScreenTest, AWindowZoomedAfterwardsStaysSo)
+{
+    toggle();
+    toggle();
+    game().window().zoom();
+    EXPECT_TRUE(game().controller().fullScreen().staysZoomed());
+}
+
 } // namespace veyrand::controller

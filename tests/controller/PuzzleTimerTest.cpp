@@ -197,4 +197,26 @@ TEST_F(PuzzleTimerTest, WhatAnEarlierSolutionTookIsForgotten)
     EXPECT_EQ(solve(), 0U);
 }
 
+TEST_F(PuzzleTimerTest, WhoNoLongerWantsTimesGetsNoneForThePuzzleInPlayOrOneThatWasLeft)
+{
+    goOn();
+    wait(10.0);
+    click(0, 0);
+    wait(20.0);
+    game().flow().returnToMenu();
+    wantTimes(false);
+    goOn();
+    wait(5.0);
+    wantTimes(true);
+    click(1, 2);
+    ASSERT_NE(game().book().results().of("1-4"), nullptr);
+    EXPECT_EQ(secondsOf("1-4"), 0U);
+    wait(20.0);
+    practise();
+    wait(42.0);
+    wantTimes(false);
+    click(0, 1);
+    EXPECT_EQ(secondsOf("1-3"), 0U);
+}
+
 } // namespace veyrand::controller

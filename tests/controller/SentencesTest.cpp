@@ -157,4 +157,10 @@ TEST(SentencesOfAnyLanguage, BeginWithTheCapitalOfTheirFirstLetter)
     }
 }
 
+TEST_F(SpokenSentences, SayThatThereIsNothingToChoose)
+{
+    EXPECT_EQ(say().noChoices(), "Nothing can be activated here now.");
+    EXPECT_EQ(say().choices({ "Hint", "Moves" }), "Here can be activated: Hint, Moves.");
+}
+
 } // namespace veyrand::controller

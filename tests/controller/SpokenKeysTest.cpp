@@ -190,4 +190,14 @@ TEST_F(SpokenKeysTest, NoStepIsUndoneOrRedoneBeforeThereIsOne)
     EXPECT_EQ(lines(), std::vector<std::string> { "YRRR" });
 }
 
+TEST_F(SpokenKeysTest, WhatAReaderKnowsIsTheSameUntilSomethingIsDone)
+{
+    play("YRRR", "YGG");
+    const AccessibleNode before = accessibleTree(game().controller());
+    wait(1.0);
+    EXPECT_TRUE(accessibleTree(game().controller()) == before);
+    click("chip-0-0");
+    EXPECT_FALSE(accessibleTree(game().controller()) == before);
+}
+
 } // namespace veyrand::controller
