@@ -8,6 +8,7 @@
 
 namespace veyrand::controller {
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -109,6 +110,38 @@ TEST_F(JournalsAsideTest, APuzzleOfOnesOwnThatCannotBeKeptIsSaidOnce)
     shelf.rename("3373NECJ", "Ours");
     EXPECT_THAT(m_told, SizeIs(1)) << "there is room again";
     EXPECT_THAT(m_journal.texts().at("New-puzzles.txt"), HasSubstr("Ours"));
+}
+
+TEST_F(JournalsAsideTest, ResultsThatCannotBeReadAreSaidAndKeptAsideWhereThatCanBe)
+{
+    const std::string results = "New-results.txt";
+    m_journal.write(results, std::string(platform::Journal::kMostBytes + 1, ' '));
+    launch();
+    EXPECT_THAT(m_told, ElementsAre(AllOf(HasSubstr("too large"), HasSubstr("kept as"))));
+    m_journal.write(results, "?\n?\n");
+    m_journal.failWith("No space left on device");
+    launch();
+    ASSERT_THAT(m_told, Not(IsEmpty()));
+    EXPECT_THAT(m_told.front(), AllOf(HasSubstr("damaged"), Not(HasSubstr("kept as"))));
+}
+
+TEST_F(JournalsAsideTest, WhoWantsPuzzlesKeptFromNowOnHasNoneThatIsSolvedOrGone)
+{
+    const auto want = [this](bool isWanted) {
+        m_preferences.setRecord(progress::kSettingsKey, { { "KeepUnfinishedPuzzles", isWanted } });
+        m_game->controller().kept().settingsChanged();
+    };
+    launch();
+    want(false);
+    want(true);
+    EXPECT_EQ(m_journal.texts().count(kClassicFile), 0U) << "there is no puzzle";
+    want(false);
+    m_game->controller().flow().startClassicGame();
+    EXPECT_EQ(m_journal.texts().count(kClassicFile), 0U);
+    want(true);
+    EXPECT_EQ(m_journal.texts().count(kClassicFile), 1U);
+    want(true);
+    EXPECT_EQ(m_journal.texts().count(kClassicFile), 1U);
 }
 
 } // namespace veyrand::controller

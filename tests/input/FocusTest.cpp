@@ -98,4 +98,61 @@ TEST_F(FocusTest, LeavesWhatSpeaksToOthers)
     EXPECT_FALSE(perform(Verb::SpeakGoal));
 }
 
+TEST_F(FocusTest, AClickClosesAPageOrANoteThoughItHasNotBeenSeen)
+{
+    addImage(std::string(kMessageKey), 0.8, 0.5, 0.4);
+    for (const Overlay overlay : { Overlay::Page, Overlay::Note }) {
+        view().setOverlay(overlay);
+        EXPECT_TRUE(perform(Verb::Click));
+        EXPECT_THAT(target().take(), ElementsAre("message"));
+        focus().hide();
+    }
+}
+
+TEST_F(FocusTest, AChipThatMayBeDroppedNowhereIsLiftedWhereItIs)
+{
+    target().moves = { play::Click { 1, 0 } };
+    ASSERT_TRUE(focus().goTo("chip-0-1"));
+    EXPECT_TRUE(perform(Verb::Lift));
+    EXPECT_EQ(view().keyLifted(), "chip-0-1");
+    EXPECT_EQ(shown(), "");
+}
+
+TEST_F(FocusTest, TakesALineBackOnTheBoardAndBesideANoteAlone)
+{
+    EXPECT_TRUE(perform(Verb::TakeBack));
+    EXPECT_THAT(target().take(), IsEmpty()) << "it has no button yet";
+    addImage("delete-1", 1.2, 0.5, 0.05);
+    for (const Overlay overlay : { Overlay::Page, Overlay::Question }) {
+        view().setOverlay(overlay);
+        EXPECT_TRUE(perform(Verb::TakeBack));
+        EXPECT_THAT(target().take(), IsEmpty());
+    }
+    view().setOverlay(Overlay::Note);
+    EXPECT_TRUE(perform(Verb::TakeBack));
+    EXPECT_THAT(target().take(), ElementsAre("message", "delete 1"));
+}
+
+TEST_F(FocusTest, FindsNoChipInARemoval)
+{
+    target().moves = { play::Remove { 1 }, play::Click { 1, 0 } };
+    target().lines = 1;
+    perform(Verb::First);
+    EXPECT_EQ(shown(), "chip-0-1");
+    perform(Verb::Last);
+    EXPECT_EQ(shown(), "chip-0-1");
+}
+
+TEST(KeyCommands, AreFoundForTheirKeysAlone)
+{
+    EXPECT_FALSE(commandFor("!")) << "before the digits";
+    EXPECT_FALSE(commandFor(""));
+    EXPECT_EQ(commandFor("0").value().column, 9U);
+    EXPECT_EQ(commandFor("1").value().column, 0U);
+    EXPECT_FALSE(speaks(KeyCommand::Verb::Left));
+    EXPECT_TRUE(speaks(KeyCommand::Verb::SpeakGoal));
+    EXPECT_TRUE(speaks(KeyCommand::Verb::SpeakChoices));
+    EXPECT_FALSE(speaks(KeyCommand::Verb::HowFar)) << "it is the guide that answers";
+}
+
 } // namespace veyrand::input
