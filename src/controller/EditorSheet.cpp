@@ -17,6 +17,7 @@ constexpr std::string_view kChipKey = "chip-";
 constexpr std::string_view kChips = "YRGB";
 constexpr unsigned kMostBits = 30;
 constexpr double kSlice = 0.008; // s: half a frame
+constexpr unsigned kLooksInSlice = 200; // where the clock is coarse, as browsers' are
 
 std::uint32_t seedAt(double now)
 {
@@ -271,7 +272,7 @@ void EditorSheet::lookForOne()
     const platform::RunLoop& clock = m_controller.context().runLoop;
     const double until = clock.now() + kSlice;
     bool goesOn = m_isMaking;
-    while (goesOn && clock.now() < until) {
+    for (unsigned looks = 0; goesOn && looks < kLooksInSlice && clock.now() < until; ++looks) {
         goesOn = m_maker.look();
     }
     if (goesOn) {
@@ -302,10 +303,7 @@ void EditorSheet::play()
     if (!m_verdict || !m_verdict->isReachable) {
         return refuse("notYet");
     }
-    const std::string fault = m_controller.practice().open(code());
-    if (!fault.empty()) {
-        m_controller.practice().tell(fault);
-    }
+    m_controller.practice().openOrTell(code());
 }
 
 void EditorSheet::save()

@@ -447,6 +447,9 @@ void ReplaySheet::runOrPause()
         m_run.reset();
         return;
     }
+    if (trail().size() == 1) {
+        return; // nobody noted a move, and none may be told
+    }
     if (m_step + 1 == trail().size()) {
         m_step = 0;
     }

@@ -21,8 +21,8 @@ public:
     virtual void draw(present::SheetDrawing& drawing) const = 0;
     virtual void press(const std::string& key) = 0;
     // For whoever does not see it: what it is called, and what it says beside its places.
-    [[nodiscard]] virtual std::string title() const { return {}; }
-    [[nodiscard]] virtual std::string told() const { return {}; }
+    [[nodiscard]] virtual std::string title() const = 0;
+    [[nodiscard]] virtual std::string told() const = 0;
     // The keys or the pointer have come to the place.
     virtual void focused(const std::string& /*key*/) { }
     // A place that is chosen when the pointer rests on it, and not when it passes on its way.

@@ -171,14 +171,6 @@ std::vector<SheetPlace> Sheets::places() const
     return m_sheet ? drawing().places() : std::vector<SheetPlace>();
 }
 
-const std::vector<SheetPlace>& Sheets::drawnPlaces() const
-{
-    if (!m_places) {
-        m_places = places();
-    }
-    return *m_places;
-}
-
 void Sheets::choose(const std::string& key)
 {
     focusOn(key);
@@ -193,7 +185,6 @@ std::string Sheets::name() const
 void Sheets::changed()
 {
     ++m_revision;
-    m_places.reset();
     m_controller.answers().handsChanged();
     m_game.layers.scene().setNeedsDisplay();
 }
@@ -279,7 +270,7 @@ std::vector<SheetPlace> Sheets::buttons() const
 
 std::string Sheets::placeAt(platform::Point place) const
 {
-    const std::vector<SheetPlace> all = m_sheet ? drawnPlaces() : buttons();
+    const std::vector<SheetPlace> all = m_sheet ? m_places : buttons();
     const auto found = std::find_if(all.begin(), all.end(),
         [place](const SheetPlace& each) { return holds(each.rect, place); });
     return found != all.end() ? found->key : std::string();

@@ -85,7 +85,6 @@ public:
 
 private:
     [[nodiscard]] present::SheetDrawing drawing() const;
-    [[nodiscard]] const std::vector<present::SheetPlace>& drawnPlaces() const;
     [[nodiscard]] std::string placeAt(platform::Point place) const;
     [[nodiscard]] bool showsButton() const;
     void follow(const std::string& key, platform::Point place);
@@ -117,8 +116,8 @@ private:
     // Held as well, weakly, by the call that ends it; nothing while the pointer is on its way.
     std::shared_ptr<const Rest> m_rest;
     unsigned m_revision = 1;
-    // As drawn last: the pointer asks for them at every step. Nothing until they are drawn anew.
-    mutable std::optional<std::vector<present::SheetPlace>> m_places;
+    // As drawn last, which is at every change: the pointer asks for them at every step.
+    mutable std::vector<present::SheetPlace> m_places;
 };
 
 } // namespace veyrand::controller

@@ -1,7 +1,7 @@
 #include "controller/PageFlow.h"
 #include "headless/EvenLetters.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <limits>
 
 namespace veyrand::controller {
@@ -51,6 +51,34 @@ TEST(HostilePages, ATextOfNothingIsRefused)
             << text;
     }
     EXPECT_THROW(static_cast<void>(translated(page, "", "Drei")), std::invalid_argument);
+}
+
+TEST(HostilePages, TextsThatAreNotThoseOfThePageAreRefusedWithTheReason)
+{
+    struct Mismatch {
+        language::PageWords english;
+        language::PageWords words;
+        const char* reason;
+    };
+    const std::vector<Mismatch> mismatches {
+        { { "Three reds" }, { "Drei", "rote" }, "another number of texts than English" },
+        { { "Three reds", "more" }, { "Drei", "rote" }, "fewer texts than its paragraphs" },
+        { { "Three", "reds" }, { "Drei", "rote" }, "is not what its page says" },
+        { { "Three greens" }, { "Drei" }, "\"Three greens\" is not what its page says" },
+        { {}, {}, "more texts than its paragraphs" },
+    };
+    for (const Mismatch& mismatch : mismatches) {
+        SCOPED_TRACE(mismatch.reason);
+        const headless::EvenLetters letters;
+        try {
+            static_cast<void>(flowed(
+                pageOf("Three reds", 60.0, 0.075), mismatch.english, mismatch.words,
+                [](const std::string& /*mark*/) { return ""; }, letters));
+            FAIL() << "it was taken";
+        } catch (const std::invalid_argument& fault) {
+            EXPECT_THAT(fault.what(), ::testing::HasSubstr(mismatch.reason));
+        }
+    }
 }
 
 } // namespace veyrand::controller
