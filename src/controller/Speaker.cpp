@@ -102,13 +102,15 @@ int Speaker::movesToPar() const
 
 void Speaker::sayLine()
 {
-    const auto& lines = m_controller.proof()->lines();
-    say(m_sentences.newLine(static_cast<unsigned>(lines.size() - 1), lines.back().theorem()));
+    if (const engine::Proof* const proof = this->proof()) {
+        say(m_sentences.newLine(
+            static_cast<unsigned>(proof->lines().size() - 1), proof->lines().back().theorem()));
+    }
 }
 
 void Speaker::moveMade(unsigned rule)
 {
-    if (!isHeard()) {
+    if (!isHeard() || proof() == nullptr) {
         return;
     }
     say(m_sentences.moveMade(play::labelOf(rule)));
@@ -135,15 +137,17 @@ void Speaker::solved(std::int64_t points)
 
 void Speaker::linesTaken(const play::Outcome& outcome)
 {
-    if (isHeard()) {
+    if (isHeard() && proof() != nullptr && !outcome.gone.empty()) {
         say(m_sentences.removed(static_cast<unsigned>(outcome.gone.size())));
-        sayLastLine();
+        const auto& lines = proof()->lines();
+        say(m_sentences.lastLineIs(
+            static_cast<unsigned>(lines.size() - 1), lines.back().theorem()));
     }
 }
 
 void Speaker::undone()
 {
-    if (isHeard()) {
+    if (isHeard() && proof() != nullptr) {
         say(m_sentences.undone());
         sayLastLine();
     }
@@ -151,7 +155,7 @@ void Speaker::undone()
 
 void Speaker::redone()
 {
-    if (isHeard()) {
+    if (isHeard() && proof() != nullptr) {
         say(m_sentences.redone());
         sayLastLine();
     }
@@ -186,7 +190,7 @@ void Speaker::hintGiven(play::Hint::Kind kind)
 
 void Speaker::hintLanded()
 {
-    if (isHeard()) {
+    if (isHeard() && proof() != nullptr) {
         say(m_sentences.linePlaced());
         sayLine();
         if (!m_controller.proof()->checkSolved()) {
@@ -197,10 +201,10 @@ void Speaker::hintLanded()
 
 void Speaker::puzzleLaidOut()
 {
-    if (!isHeard()) {
+    const engine::Proof* const proof = this->proof();
+    if (!isHeard() || proof == nullptr) {
         return;
     }
-    const auto& proof = m_controller.proof();
     const progress::CurrentGame& game = m_game.currentGame;
     say(game.practice()          ? m_sentences.practicePuzzle(game.practice()->caption)
             : game.endlessGame() ? m_sentences.endlessPuzzle()
@@ -218,11 +222,11 @@ void Speaker::puzzleResumed()
 
 void Speaker::messageShown()
 {
-    if (!isHeard()) {
+    const auto* const message = m_controller.messages().messageWindow();
+    if (!isHeard() || message == nullptr) {
         return;
     }
-    const auto& message = *m_controller.messages().messageWindow();
-    const MessageWords words = wordsOf(message, m_game.layers.textMetrics(), m_sentences.names());
+    const MessageWords words = wordsOf(*message, m_game.layers.textMetrics(), m_sentences.names());
     say(m_sentences.message(words.title, words.body));
 }
 
@@ -242,13 +246,15 @@ void Speaker::titleShown()
 
 void Speaker::chipLifted(const std::string& key)
 {
-    if (!isHeard()) {
+    if (!isHeard() || proof() == nullptr || !board::isChipKey(key)) {
         return;
     }
     const unsigned row = board::rowForKey(key);
     const unsigned column = board::columnForKey(key);
     const std::string& line = proof()->lines().back().theorem();
-    say(m_sentences.lifted(line[column], dropsThatAreMoves(m_controller, row, column)));
+    if (column < line.size()) {
+        say(m_sentences.lifted(line[column], dropsThatAreMoves(m_controller, row, column)));
+    }
 }
 
 void Speaker::liftRefused()
