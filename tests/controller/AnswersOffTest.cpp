@@ -20,13 +20,6 @@ namespace {
 // What the board says and shows of a gesture, as the player has set it.
 class AnswersAsSet : public test::HeadlessPlay {
 protected:
-    template <class Change> void choose(Change&& change)
-    {
-        progress::Settings settings = progress::readSettings(game().preferences());
-        change(settings);
-        progress::writeSettings(game().preferences(), settings);
-        game().controller().settingsChanged();
-    }
     void saySoWithoutAnswers()
     {
         choose([](progress::Settings& settings) {

@@ -3,7 +3,7 @@
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
-#include "support/HeadlessPlay.h"
+#include "support/KeptPlay.h"
 
 #include <gmock/gmock.h>
 
@@ -19,24 +19,10 @@ namespace {
 const std::string kKeptFile = "New-classic.txt";
 
 // A player at 2-4 (YRRRR to YR) who leaves, and comes back to what he left.
-class GoingOn : public ::testing::Test {
+class GoingOn : public test::KeptPlay {
 protected:
-    GoingOn()
-    {
-        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
-            { .level = 2, .stage = 4, .score = 310, .firstHintClick = true });
-        launch();
-    }
+    GoingOn() { launch(); }
 
-    // As after a kill.
-    void launch()
-    {
-        m_game.reset();
-        m_game = std::make_unique<headless::HeadlessGame>(headless::HeadlessGame::Options {
-            .store = &m_preferences, .resources = &test::gameResources(), .journal = &m_journal });
-        m_game->launch();
-    }
-    void goOn() { m_game->controller().flow().startClassicGame(); }
     void mergeReds()
     {
         m_game->controller().moves().mouseDrag(0, 1, 0, 3);
@@ -55,14 +41,6 @@ protected:
             said += sentence + '\n';
         }
         return said;
-    }
-    [[nodiscard]] std::vector<std::string> lines() const
-    {
-        std::vector<std::string> lines;
-        for (const engine::Theorem& line : m_game->controller().proof()->lines()) {
-            lines.push_back(line.theorem());
-        }
-        return lines;
     }
     // Along a shortest way, until it is celebrated.
     void solve()
@@ -83,10 +61,6 @@ protected:
             m_game->wait(proof->checkSolved() ? 0.1 : 3.0);
         }
     }
-
-    platform::MemoryPreferences m_preferences;
-    platform::MemoryJournal m_journal;
-    std::unique_ptr<headless::HeadlessGame> m_game;
 };
 
 } // namespace

@@ -2,7 +2,7 @@
 #include "play/JournalText.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
-#include "support/HeadlessPlay.h"
+#include "support/KeptPlay.h"
 
 #include <gmock/gmock.h>
 
@@ -20,30 +20,7 @@ namespace {
 const std::string kClassicFile = "New-classic.txt";
 
 // What a launch makes of a journal that is none of this player's, or cannot have been played.
-class JournalsAsideTest : public ::testing::Test {
-protected:
-    JournalsAsideTest()
-    {
-        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
-            { .level = 2, .stage = 4, .score = 310, .firstHintClick = true });
-    }
-
-    void launch()
-    {
-        m_game.reset();
-        m_told.clear();
-        m_game = std::make_unique<headless::HeadlessGame>(headless::HeadlessGame::Options {
-            .store = &m_preferences, .resources = &test::gameResources(), .journal = &m_journal });
-        m_game->launch();
-        m_game->controller().kept().setReporter(
-            [this](const std::string& message) { m_told.push_back(message); });
-    }
-
-    platform::MemoryPreferences m_preferences;
-    platform::MemoryJournal m_journal;
-    std::unique_ptr<headless::HeadlessGame> m_game;
-    std::vector<std::string> m_told;
-};
+using JournalsAsideTest = test::KeptPlay;
 
 } // namespace
 

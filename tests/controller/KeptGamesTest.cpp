@@ -3,7 +3,7 @@
 #include "play/Decide.h"
 #include "progress/PlayerKeys.h"
 #include "progress/PlayerRecord.h"
-#include "support/HeadlessPlay.h"
+#include "support/KeptPlay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,32 +19,10 @@ namespace {
 
 const std::string kFile = "New-classic.txt";
 
-// One player at 2-4 (YRRRR to YR), and what outlasts his games: preferences and a journal.
-class KeptGamesTest : public ::testing::Test {
+class KeptGamesTest : public test::KeptPlay {
 protected:
-    KeptGamesTest()
-    {
-        saveRecord(2, 4, 310);
-        launch();
-    }
+    KeptGamesTest() { launch(); }
 
-    void saveRecord(int level, int stage, int score)
-    {
-        progress::updatePlayerRecord(m_preferences, progress::kDefaultPlayerName,
-            { .level = level, .stage = stage, .score = score, .firstHintClick = true });
-    }
-
-    // As after a kill.
-    void launch()
-    {
-        m_game.reset();
-        m_told.clear();
-        m_game = std::make_unique<headless::HeadlessGame>(headless::HeadlessGame::Options {
-            .store = &m_preferences, .resources = &test::gameResources(), .journal = &m_journal });
-        m_game->launch();
-        kept().setReporter([this](const std::string& message) { m_told.push_back(message); });
-    }
-    void goOn() { m_game->controller().flow().startClassicGame(); }
     // Doubles what follows the yellow of the last line.
     void playOneMove()
     {
@@ -86,14 +64,6 @@ protected:
     }
 
     [[nodiscard]] KeptGames& kept() { return m_game->controller().kept(); }
-    [[nodiscard]] std::vector<std::string> lines()
-    {
-        std::vector<std::string> lines;
-        for (const engine::Theorem& line : m_game->controller().proof()->lines()) {
-            lines.push_back(line.theorem());
-        }
-        return lines;
-    }
     [[nodiscard]] std::string text(const std::string& name = kFile)
     {
         return m_journal.read(name).contents.value_or("(none)");
@@ -106,11 +76,6 @@ protected:
         }
         return names;
     }
-
-    platform::MemoryPreferences m_preferences;
-    platform::MemoryJournal m_journal;
-    std::unique_ptr<headless::HeadlessGame> m_game;
-    std::vector<std::string> m_told;
 };
 
 } // namespace

@@ -9,16 +9,7 @@ using platform::SoundKind;
 
 namespace {
 
-class SettingsInForceTest : public test::HeadlessPlay {
-protected:
-    template <class Change> void choose(Change&& change)
-    {
-        progress::Settings settings = progress::readSettings(game().preferences());
-        change(settings);
-        progress::writeSettings(game().preferences(), settings);
-        game().controller().settingsChanged();
-    }
-};
+using SettingsInForceTest = test::HeadlessPlay;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "headless/HeadlessGame.h"
+#include "progress/Settings.h"
 #include "support/FolderResources.h"
 #include "support/GameFixture.h"
 
@@ -14,6 +15,15 @@ protected:
     explicit HeadlessPlay(Options options = {})
         : GameFixture(withData(std::move(options)))
     {
+    }
+
+    // As in the Settings window.
+    template <class Change> void choose(Change&& change)
+    {
+        progress::Settings settings = progress::readSettings(game().preferences());
+        change(settings);
+        progress::writeSettings(game().preferences(), settings);
+        game().controller().settingsChanged();
     }
 
 private:
