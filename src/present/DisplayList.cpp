@@ -19,17 +19,27 @@ RectF intersection(const RectF& a, const RectF& b)
         .height = std::min(a.y + a.height, b.y + b.height) - bottom };
 }
 
+// Whoever paints clips only what leaves its clip; what is near enough to its edge may go either
+// way.
+bool isWithin(const RectF& clip, const RectF& rect)
+{
+    constexpr float kNear = 0.01F; // points
+    return rect.x > clip.x - kNear && rect.y > clip.y - kNear
+        && rect.x + rect.width < clip.x + clip.width + kNear
+        && rect.y + rect.height < clip.y + clip.height + kNear;
+}
+
 // Everything the item may touch: what surrounds it reaches past its rectangle.
 RectF extent(const DisplayItem& item)
 {
     const bool isText = std::holds_alternative<TextContent>(item.content);
     const float reach = std::max({ kGlowReach * item.glow, kShadowReach * item.lift,
         isText ? kTextReach * item.rect.height : 0.0F });
-    return intersection({ .x = item.rect.x - reach,
-                            .y = item.rect.y - reach,
-                            .width = item.rect.width + 2.0F * reach,
-                            .height = item.rect.height + 2.0F * reach },
-        item.clip);
+    const RectF whole { .x = item.rect.x - reach,
+        .y = item.rect.y - reach,
+        .width = item.rect.width + 2.0F * reach,
+        .height = item.rect.height + 2.0F * reach };
+    return isWithin(item.clip, item.rect) ? whole : intersection(whole, item.clip);
 }
 
 void damage(const DisplayItem& item, std::vector<RectF>& rects)

@@ -93,6 +93,14 @@ TEST(Damage, WhatTheClipCutsOffIsNotDamaged)
     EXPECT_THAT(damageBetween({}, { falling }), IsEmpty());
 }
 
+TEST(Damage, WhatSurroundsAnItemWithinItsClipIsNotCutOff)
+{
+    DisplayItem glowing = item(1, { 2.0F, 50.0F, 10.0F, 10.0F });
+    glowing.glow = 4.0F;
+    EXPECT_THAT(
+        damageBetween({}, { glowing }), UnorderedElementsAre(RectF { -6.0F, 42.0F, 26.0F, 26.0F }));
+}
+
 TEST(Damage, ChangingPlacesInTheStackDamagesBothOrTheOneThatPassed)
 {
     const auto damage

@@ -143,8 +143,10 @@ QRegion ListPainter::damagedPixels(
 {
     QRegion region;
     for (const platform::RectF& rect : present::damageBetween(before, after)) {
-        // One pixel more on every side for the rounding of corners and the smoothing of edges.
-        region += toPixels(rect, surface).toAlignedRect().adjusted(-1, -1, 1, 1);
+        // Rounded to whole pixels a corner is off by half a one, a size by half a one, and twice a
+        // height or a radius by a whole one.
+        constexpr int kMore = 2;
+        region += toPixels(rect, surface).toAlignedRect().adjusted(-kMore, -kMore, kMore, kMore);
     }
     return simplified(region);
 }

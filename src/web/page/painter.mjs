@@ -47,8 +47,8 @@ export class Painter {
     const { pen } = this;
     const parts = [];
     for (let part = 0; part < damageCount; ++part) {
-      // One pixel more for the rounding of corners and the smoothing of edges.
-      parts.push(this.aligned(this.toPixels(list, damage + 4 * part), 1));
+      // Two pixels more for the rounding of corners, sizes and of twice a height or a radius.
+      parts.push(this.aligned(this.toPixels(list, damage + 4 * part), 2));
     }
     const bounds = boundsOf(parts);
     pen.save();
