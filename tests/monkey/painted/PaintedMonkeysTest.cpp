@@ -10,11 +10,30 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <optional>
 #include <span>
+#include <utility>
 
 namespace veyrand::test {
 
 namespace {
+
+// Whether a widget has had another size since it was last asked, be it the old one by now.
+class Resizes final : public QObject {
+public:
+    explicit Resizes(QWidget& widget) { widget.installEventFilter(this); }
+    [[nodiscard]] bool take() { return std::exchange(m_any, false); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        m_any = m_any || event->type() == QEvent::Resize;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool m_any = true;
+};
 
 // The window's own content, which gets real events and paints after each what has changed. Painted
 // in full as well, it must look the same.
@@ -30,8 +49,9 @@ public:
 
     void launch() override
     {
-        m_kept = {};
+        m_resizes.reset();
         BodyOn::launch();
+        m_resizes.emplace(touched().widget());
     }
     [[nodiscard]] headless::HeadlessGame& game() override { return touched().headless(); }
     void key(const std::string& keys) override { touched().key(QString::fromStdString(keys)); }
@@ -51,7 +71,7 @@ public:
         auto& widget = touched().widget();
         // Another size and other letters are painted in full, by the toolkit's own event.
         const std::string& language = game().game().texts().code();
-        if (m_kept.size() != widget.size() || m_language != language) {
+        if (m_resizes->take() || m_language != language) {
             m_kept = touched().picture();
             m_language = language;
             return {};
@@ -83,6 +103,7 @@ private:
         return true;
     }
 
+    std::optional<Resizes> m_resizes;
     QImage m_kept;
     std::string m_language;
 };
