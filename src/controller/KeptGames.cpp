@@ -22,6 +22,7 @@ constexpr std::size_t kMostLines = 1000;
 KeptGames::KeptGames(GameController& controller)
     : m_controller(controller)
     , m_game(controller.context())
+    , m_inTheWay { InTheWay(m_game.journal), InTheWay(m_game.journal) }
 {
 }
 
@@ -70,6 +71,7 @@ void KeptGames::recoverAnew()
 
 void KeptGames::recover(Mode mode)
 {
+    m_inTheWay.at(indexOf(mode)) = InTheWay(m_game.journal);
     const platform::Journal::Text text = m_game.journal->read(nameOf(mode));
     if (text.contents) {
         recoverFrom(mode, *text.contents);
@@ -88,8 +90,7 @@ void KeptGames::recoverFrom(Mode mode, const std::string& contents)
     }
     if (text.state == State::Foreign) {
         m_game.log.write("The journal " + nameOf(mode) + " is of another player");
-        static_cast<void>(m_game.journal->keepAside(nameOf(mode), "aside"));
-        return;
+        return setAsideSilently(mode);
     }
     Recovery recovery
         = play::recover(standingOf(mode), m_game.currentGame.catalogueOf(mode), text.entries);
@@ -133,13 +134,12 @@ void KeptGames::found(Mode mode, Recovery recovery, const play::JournalText& tex
     case Recovery::Found::Misfit:
         m_game.log.write("The journal " + nameOf(mode)
             + " is not of the puzzle at which the record stands, and is kept aside");
-        static_cast<void>(m_game.journal->keepAside(nameOf(mode), "aside"));
-        return;
+        return setAsideSilently(mode);
     case Recovery::Found::Nothing:
     case Recovery::Found::AlreadySaved:
         break;
     }
-    m_game.journal->remove(nameOf(mode));
+    remove(mode);
 }
 
 void KeptGames::save(const play::Standing& standing)
@@ -160,11 +160,26 @@ void KeptGames::save(const play::Standing& standing)
 void KeptGames::setAside(Mode mode, std::string_view reason, const std::string& why)
 {
     const std::string name = nameOf(mode);
-    const auto kept = m_game.journal->keepAside(name, reason);
+    const auto kept = m_inTheWay.at(indexOf(mode)).setAside(name, reason);
     report(kept
             ? m_game.texts.text(
                 "saving.unreadable", { { "file", name }, { "why", why }, { "kept", *kept } })
             : m_game.texts.text("saving.unreadableInTheWay", { { "file", name }, { "why", why } }));
+}
+
+// The player has lost nothing.
+void KeptGames::setAsideSilently(Mode mode)
+{
+    if (!m_inTheWay.at(indexOf(mode)).setAside(nameOf(mode), "aside")) {
+        m_game.log.write("The journal " + nameOf(mode) + " cannot be set aside");
+    }
+}
+
+void KeptGames::remove(Mode mode)
+{
+    if (m_inTheWay.at(indexOf(mode)).fault().empty()) {
+        m_game.journal->remove(nameOf(mode));
+    }
 }
 
 const Replay* KeptGames::inPlay() const
@@ -250,7 +265,8 @@ void KeptGames::write(Mode mode, const Replay& replay)
     file.lines = lines.size();
     file.mayAppend = true;
     file.lastPurse = replay.isOver() ? std::optional(replay.purse()) : std::nullopt;
-    ended(mode, m_game.journal->begin(nameOf(mode), lines));
+    std::string fault = m_inTheWay.at(indexOf(mode)).fault();
+    ended(mode, fault.empty() ? m_game.journal->begin(nameOf(mode), lines) : std::move(fault));
 }
 
 // The first failure is told, and the first success after it.
@@ -279,7 +295,7 @@ void KeptGames::forget(Mode mode)
     m_faults.at(indexOf(mode)).clear();
     m_solvedAtLaunch = m_solvedAtLaunch && mode != Mode::Classic;
     if (m_game.journal != nullptr) {
-        m_game.journal->remove(nameOf(mode));
+        remove(mode);
     }
 }
 

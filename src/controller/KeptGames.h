@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "controller/InTheWay.h"
 #include "play/JournalText.h"
 #include "play/Recovery.h"
 #include "play/Replay.h"
@@ -83,6 +84,8 @@ private:
     void found(Mode mode, play::Recovery recovery, const play::JournalText& text, bool isWhole);
     void save(const play::Standing& standing);
     void setAside(Mode mode, std::string_view reason, const std::string& why);
+    void setAsideSilently(Mode mode);
+    void remove(Mode mode);
 
     void write(Mode mode, const play::Replay& replay);
     void append(Mode mode, const play::Action& action);
@@ -97,6 +100,7 @@ private:
     GameController& m_controller;
     GameContext& m_game;
     std::array<File, 2> m_files;
+    std::array<InTheWay, 2> m_inTheWay; // of each mode's journal
     bool m_isOn = false;
     bool m_solvedAtLaunch = false;
     std::array<std::string, 2> m_faults; // of each mode's last write, until one succeeds

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/GameContext.h"
+#include "controller/InTheWay.h"
 
 #include <string>
 #include <vector>
@@ -31,6 +32,7 @@ private:
     GameController& m_controller;
     GameContext& m_game;
     std::string m_what;
+    InTheWay m_inTheWay;
     std::string m_fault; // of the last reading
     bool m_mayWrite = true;
 };

@@ -65,6 +65,68 @@ TEST_F(JournalsAsideTest, OneThatCannotBeMovedAsideIsSaidToBeInTheWay)
             { { "file", kClassicFile }, { "why", std::string("line 1 is damaged") } }));
 }
 
+TEST_F(JournalsAsideTest, NothingIsWrittenOverWhatCannotBeMovedAside)
+{
+    m_journal.write(kClassicFile, "?\n");
+    m_journal.mayKeepAside(false);
+    launch();
+    ASSERT_THAT(m_told, SizeIs(1));
+    goOn();
+    m_game->controller().moves().mouseDrag(0, 1, 0, 3);
+    EXPECT_EQ(m_journal.texts().at(kClassicFile), "?\n");
+    EXPECT_THAT(m_told,
+        ElementsAre(HasSubstr("New-classic.txt"),
+            HasSubstr("what stands in New-classic.txt cannot be set aside")));
+    m_game->controller().kept().replace(progress::Mode::Classic, std::nullopt);
+    EXPECT_EQ(m_journal.texts().at(kClassicFile), "?\n") << "nor is it removed";
+}
+
+TEST_F(JournalsAsideTest, WhatIsInTheWayIsMovedAsideAsSoonAsItCanBe)
+{
+    launch();
+    goOn();
+    const std::string begun = m_journal.texts().at(kClassicFile);
+    m_journal.write(kClassicFile, begun + "?\n");
+    m_journal.mayKeepAside(false);
+    launch();
+    EXPECT_THAT(m_told, SizeIs(2)) << "damaged, and not kept";
+    EXPECT_EQ(m_journal.texts().at(kClassicFile), begun + "?\n");
+    m_journal.mayKeepAside(true);
+    goOn();
+    m_game->controller().moves().mouseDrag(0, 1, 0, 3);
+    EXPECT_THAT(m_told, SizeIs(3)) << "kept again";
+    EXPECT_THAT(m_journal.texts().at(kClassicFile), HasSubstr("move 2 0"));
+    EXPECT_EQ(m_journal.texts().at(kClassicFile + ".damaged-1"), begun + "?\n");
+}
+
+TEST_F(JournalsAsideTest, AnothersJournalStaysWhereItCannotBeMovedFrom)
+{
+    play::JournalWriter writer;
+    const std::string others = writer.head("Other") + '\n';
+    m_journal.write(kClassicFile, others);
+    m_journal.mayKeepAside(false);
+    launch();
+    EXPECT_THAT(m_told, IsEmpty());
+    goOn();
+    EXPECT_THAT(m_told, ElementsAre(HasSubstr("cannot be set aside")));
+    EXPECT_EQ(m_journal.texts().at(kClassicFile), others);
+}
+
+TEST_F(JournalsAsideTest, ResultsThatCannotBeMovedAsideStay)
+{
+    const std::string results = "New-results.txt";
+    m_journal.write(results, "?\n?\n");
+    m_journal.mayKeepAside(false);
+    launch();
+    EXPECT_EQ(m_journal.texts().at(results), "?\n?\n");
+    EXPECT_THAT(m_told,
+        ElementsAre(HasSubstr("It cannot be set aside either."),
+            HasSubstr("what stands in New-results.txt cannot be set aside")));
+    m_journal.mayKeepAside(true);
+    m_game->controller().book().load();
+    EXPECT_EQ(m_journal.texts().at(results + ".damaged-1"), "?\n?\n");
+}
+
 TEST_F(JournalsAsideTest, WhoWantsNoneKeptIsToldOfNoneThatIsMissing)
 {
     m_preferences.setRecord(progress::kSettingsKey, { { "KeepUnfinishedPuzzles", false } });

@@ -42,7 +42,7 @@ std::string MemoryJournal::append(std::string_view name, std::string_view line)
 std::optional<std::string> MemoryJournal::keepAside(std::string_view name, std::string_view reason)
 {
     const auto found = m_texts.find(name);
-    if (found == m_texts.end() || !m_fault.empty()) {
+    if (found == m_texts.end() || !m_fault.empty() || !m_mayKeepAside) {
         return std::nullopt;
     }
     std::string other;

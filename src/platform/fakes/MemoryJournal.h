@@ -27,6 +27,8 @@ public:
     void write(std::string_view name, std::string text);
     // From now on nothing can be written, for this reason; "" ends it.
     void failWith(std::string fault) { m_fault = std::move(fault); }
+    // From now on whether a text can get another name, though all else can be written.
+    void mayKeepAside(bool may) { m_mayKeepAside = may; }
     // Something that seemed to be written has been lost meanwhile, which is told once.
     void failLateWith(std::string fault) { m_late = std::move(fault); }
 
@@ -34,6 +36,7 @@ private:
     std::map<std::string, std::string, std::less<>> m_texts;
     std::string m_fault;
     std::string m_late;
+    bool m_mayKeepAside = true;
 };
 
 } // namespace veyrand::platform
