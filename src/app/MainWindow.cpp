@@ -99,6 +99,12 @@ bool MainWindow::event(QEvent* event)
     if (event->type() == QEvent::WindowBlocked) {
         m_board.cancelGesture();
     }
+    // A key that is asked for before the shortcuts are goes on to the board.
+    if (event->type() == QEvent::ShortcutOverride
+        && m_menu.leavesAlone(static_cast<QKeyEvent*>(event)->keyCombination())) {
+        event->accept();
+        return true;
+    }
     return QMainWindow::event(event);
 }
 

@@ -158,7 +158,7 @@ void VirtualGame::key(const QString& sequence)
 {
     const QKeySequence keys(sequence);
     for (QAction* const action : m_menu.actions()) {
-        if (action->shortcuts().contains(keys)) {
+        if (action->shortcuts().contains(keys) && !m_menu.leavesAlone(keys)) {
             action->trigger(); // as the desktop does before the widget hears of it
             return;
         }

@@ -160,9 +160,7 @@ void HeadlessGame::rightClick(Point place)
 
 void HeadlessGame::key(std::string_view keys)
 {
-    if (m_menu.knowsKeys(keys)) {
-        m_menu.triggerKeys(keys);
-    } else {
+    if (!m_menu.triggerKeys(keys)) {
         controller().key(keys);
     }
 }

@@ -160,8 +160,10 @@ bool WebGame::key(const std::string& keys, controller::GameController::Press pre
     }
     for (const MenuItem& item : controller::menuItems()) {
         if (std::find(item.keys.begin(), item.keys.end(), keys) != item.keys.end()) {
-            m_menu.choose(item);
-            return true;
+            if (!m_menu.choose(item)) {
+                controller()->key(keys, press);
+            }
+            return true; // the browser has other uses for some
         }
     }
     return controller()->key(keys, press);

@@ -82,6 +82,25 @@ TEST_F(MainWindowTest, HidesTheMenuBarInFullScreenModeAndHearsItsKeysAllTheSame)
     EXPECT_TRUE(game().menu().bar()->isVisible());
 }
 
+// Else F2, which lists the moves of a puzzle in play, would be dead there.
+TEST_F(MainWindowTest, LetsTheBoardHaveTheKeysOfAnItemThatMayNotBeChosen)
+{
+    open();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    controller::PuzzleShelf& shelf = game().controller().shelf();
+    shelf.add("37T8649F2MEJ");
+    game().controller().sheets().openMine();
+    QTest::keyClick(&game().widget(), Qt::Key_F2);
+    QTest::keyClick(&game().widget(), Qt::Key_X);
+    QTest::keyClick(&game().widget(), Qt::Key_Return);
+    EXPECT_EQ(shelf.puzzles().all().front().name, "Puzzle 1x");
+    game().controller().sheets().close();
+    play("YRRR", "YB");
+    QTest::keyClick(&game().widget(), Qt::Key_F2);
+    EXPECT_EQ(game().controller().messages().page(), "movesMessageWindow");
+}
+
 // Also when the desktop put it there.
 TEST_F(MainWindowTest, TheFullScreenItemIsTickedWhenItIsSo)
 {

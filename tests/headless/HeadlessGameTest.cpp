@@ -115,4 +115,17 @@ TEST(HeadlessMenu, ChoosesNothingUnderAnUnknownNameOrAnEmptyOne)
     EXPECT_TRUE(game.menu().trigger("Music"));
 }
 
+TEST(HeadlessMenu, LeavesTheKeysOfAnItemThatMayNotBeChosenToTheSheet)
+{
+    HeadlessGame game({});
+    game.launch();
+    controller::PuzzleShelf& shelf = game.controller().shelf();
+    shelf.add("37T8649F2MEJ");
+    game.controller().sheets().openMine();
+    for (const char* const keys : { "F2", "X", "Return" }) {
+        game.key(keys);
+    }
+    EXPECT_TRUE(shelf.puzzles().all().front().name.ends_with('x'));
+}
+
 } // namespace veyrand::headless

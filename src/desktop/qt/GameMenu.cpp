@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace veyrand::desktop::qt {
 
 using controller::MenuItem;
@@ -122,6 +124,13 @@ void GameMenu::enableAll()
     for (const Item& item : m_items) {
         item.action->setEnabled(true);
     }
+}
+
+bool GameMenu::leavesAlone(const QKeySequence& keys) const
+{
+    return std::any_of(m_items.begin(), m_items.end(), [this, &keys](const Item& item) {
+        return item.action->shortcuts().contains(keys) && !m_choices.mayChoose(item.entry);
+    });
 }
 
 bool GameMenu::trigger(const QString& text)

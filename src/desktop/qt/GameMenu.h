@@ -36,6 +36,8 @@ public:
     [[nodiscard]] QMenuBar* bar() { return &m_bar; }
     // Everything with a shortcut. The window takes them too, since those of a hidden bar are dead.
     [[nodiscard]] QList<QAction*> actions() const { return m_shortcuts; }
+    // Whether the keys are an item's that may not be chosen now.
+    [[nodiscard]] bool leavesAlone(const QKeySequence& keys) const;
     // Chooses the item with the text, in English or as it is shown, if there is one and it may be
     // chosen now.
     bool trigger(const QString& text);
