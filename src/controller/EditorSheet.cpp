@@ -269,6 +269,10 @@ void EditorSheet::make()
 // Less than a frame at a time.
 void EditorSheet::lookForOne()
 {
+    if (!m_controller.sheets().isShowing(*this)) {
+        m_isMaking = false; // its puzzle is played, perhaps under another editor
+        return;
+    }
     const platform::RunLoop& clock = m_controller.context().runLoop;
     const double until = clock.now() + kSlice;
     bool goesOn = m_isMaking;

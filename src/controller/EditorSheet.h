@@ -29,6 +29,7 @@ public:
     void focused(const std::string& key) override;
     [[nodiscard]] bool takeKey(std::string_view keys) override;
     [[nodiscard]] std::string firstFocus() const override;
+    void end() override { m_self.reset(); }
 
 private:
     // What is proven of the two lines.

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] virtual std::string firstFocus() const = 0;
     // What Esc leads back to: false to leave the sheets.
     virtual bool goBack() { return false; }
+    // It has gone for good, though one of its calls may still run: what it began ends here.
+    virtual void end() { }
 };
 
 } // namespace veyrand::controller

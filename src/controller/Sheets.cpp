@@ -55,7 +55,7 @@ bool Sheets::canOpen() const
 void Sheets::open(std::unique_ptr<Sheet> sheet)
 {
     if (m_sheet) {
-        m_closed.push_back(std::move(m_sheet));
+        endSheet();
     } else {
         m_controller.focus().hide();
     }
@@ -113,10 +113,16 @@ void Sheets::leaveReplay()
 void Sheets::close()
 {
     if (m_sheet) {
-        m_closed.push_back(std::move(m_sheet));
+        endSheet();
         endTurn();
         changed();
     }
+}
+
+void Sheets::endSheet()
+{
+    m_sheet->end();
+    m_closed.push_back(std::move(m_sheet));
 }
 
 void Sheets::endTurn()

@@ -89,6 +89,7 @@ private:
     [[nodiscard]] bool showsButton() const;
     void follow(const std::string& key, platform::Point place);
     void restBegins(const std::string& key, platform::Point place);
+    void endSheet();
     void endTurn();
     void walk(int x, int y);
     void step(int by);

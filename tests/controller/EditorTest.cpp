@@ -20,6 +20,7 @@ protected:
     }
 
     [[nodiscard]] Sheets& sheets() { return game().controller().sheets(); }
+    [[nodiscard]] PuzzleShelf& shelf() { return game().controller().shelf(); }
     [[nodiscard]] std::string text(const char* id) { return game().game().texts().text(id); }
     void type(const std::string& chips)
     {
@@ -80,6 +81,44 @@ TEST_F(EditorTest, ASavedPuzzleTakesTheNextNumberThatIsFree)
     ASSERT_EQ(shelf.puzzles().all().size(), 2U);
     EXPECT_NE(shelf.puzzles().all()[0].name, shelf.puzzles().all()[1].name);
     EXPECT_THAT(shelf.puzzles().all()[1].name, HasSubstr("3"));
+}
+
+// As a menu puts it, which is no press on the sheet.
+TEST_F(EditorTest, LooksForNoPuzzleMoreWhenAnotherSheetHasTakenItsPlace)
+{
+    type("GR");
+    const play::CodedPuzzle draft = shelf().draft();
+    sheets().choose("make");
+    sheets().openMine();
+    wait(5.0);
+    EXPECT_EQ(shelf().draft(), draft);
+}
+
+TEST_F(EditorTest, LooksForNoPuzzleMoreWhenItIsLeft)
+{
+    type("GR");
+    const play::CodedPuzzle draft = shelf().draft();
+    sheets().choose("make");
+    sheets().close();
+    wait(5.0);
+    EXPECT_EQ(shelf().draft(), draft);
+}
+
+// Another editor may be open by then, on the same draft.
+TEST_F(EditorTest, LooksForNoPuzzleMoreWhileItsOwnIsPlayed)
+{
+    paste("37T8649F2MEJ");
+    const play::CodedPuzzle draft = shelf().draft();
+    sheets().choose("make");
+    sheets().choose("play");
+    ASSERT_FALSE(sheets().isOpen());
+    wait(5.0);
+    EXPECT_EQ(shelf().draft(), draft);
+    sheets().comeBack();
+    EXPECT_EQ(sheets().name(), "editor");
+    sheets().choose("make");
+    wait(5.0);
+    EXPECT_FALSE(shelf().draft() == draft) << "it can be asked anew";
 }
 
 TEST(ThePuzzleShelf, KeepsWhatCanStillBeReadOfADamagedFile)
