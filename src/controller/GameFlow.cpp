@@ -137,6 +137,9 @@ void GameFlow::startClassicGame(Pages::Arrival arrival)
 
 void GameFlow::startEndlessGame()
 {
+    if (!m_game.currentGame.endlessGame()) {
+        m_game.currentGame.newPlayer(playerName(), CurrentGame::Mode::Endless);
+    }
     layOutKeptOrNewPuzzle();
     startMusic();
 }

@@ -168,4 +168,26 @@ TEST_F(OddMoments, AnOfferThatIsAnsweredDuringAGameBringsNothingBack)
     EXPECT_EQ(controller.proof(), proof);
 }
 
+TEST_F(OddMoments, AnEndlessGameStartsThoughNobodyHasPreparedOne)
+{
+    settle();
+    const progress::CurrentGame& current = game().currentGame();
+    controller().flow().startEndlessGame();
+    settle();
+    EXPECT_TRUE(current.endlessGame());
+    EXPECT_EQ(current.par(), progress::endlessParFor(current.endlessPar()));
+    ASSERT_NE(controller().flow().session(), nullptr);
+}
+
+TEST_F(OddMoments, AnEndlessGameTakesNoPuzzleOfAnother)
+{
+    settle();
+    const progress::CurrentGame& current = game().currentGame();
+    controller().flow().newGame();
+    settle();
+    controller().flow().startEndlessGame();
+    settle();
+    EXPECT_TRUE(current.endlessGame());
+}
+
 } // namespace veyrand::controller
