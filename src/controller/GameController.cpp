@@ -90,7 +90,7 @@ void GameController::musicMenuClick()
     m_context.sounds.setLoopVolume(musicVolume());
 }
 
-void GameController::applicationWillTerminate(std::function<void()> done)
+void GameController::applicationWillTerminate(std::function<void()> done) const
 {
     if (m_context.offerInstallation) {
         m_context.offerInstallation(std::move(done));

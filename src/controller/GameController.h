@@ -86,7 +86,7 @@ public:
     [[nodiscard]] double musicVolume() const;
     // The last thing the game does: the offer to install it, where there is reason for one. The
     // game must live until `done` is called, which may be at once.
-    void applicationWillTerminate(std::function<void()> done);
+    void applicationWillTerminate(std::function<void()> done) const;
     // A pane in a window of its own, in the middle of the game. Nothing in the game opens it.
     void loadOverlayWindow();
     // A puzzle's panel is on the board, not the title page. It stays when the Classic game is over.

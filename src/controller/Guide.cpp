@@ -124,7 +124,7 @@ std::string Guide::words() const
     if (m_advice->moves) {
         return text("needed", { { "moves", std::int64_t { *m_advice->moves } } });
     }
-    const auto why = [this] {
+    const auto* const why = [this] {
         switch (m_advice->why) {
         case play::DeadEnd::ColourGone:
             return m_advice->colour == 'Y' ? "goneYellow"

@@ -363,9 +363,10 @@ void MineSheet::drawLetters(SheetDrawing& drawing) const
     drawing.words(*m_newName + "|", kListX, 244, 40, Ink::Dark, Align::Middle, 430);
     for (std::size_t i = 0; i < kLetters.size(); ++i) {
         const std::string letter(1, kLetters[i]);
+        const std::size_t row = i / kInRow;
         drawing.button(std::string(kLetterKey) + letter, letter,
-            726.0 + 81.0 * static_cast<double>(i % kInRow),
-            440.0 + 74.0 * static_cast<double>(i / kInRow), 66, 58);
+            726.0 + 81.0 * static_cast<double>(i % kInRow), 440.0 + 74.0 * static_cast<double>(row),
+            66, 58);
     }
     drawing.button("blank", text("blank"), 860, 752, 232, 66);
     drawing.button("rub-out", text("rubOut"), 1324, 752, 232, 66);

@@ -235,11 +235,12 @@ private:
     {
         std::vector<Set> sets;
         double share = 1.0;
-        for (; share > kSmallest; share -= kStep) {
+        while (share > kSmallest) {
             sets = setAt(column, share);
             if (fits(column, sets, share)) {
                 break;
             }
+            share -= kStep;
         }
         place(column, sets, share, block);
     }

@@ -6,7 +6,6 @@
 namespace veyrand::controller {
 
 using play::PreviousGame;
-using progress::Mode;
 
 PreviousGames::PreviousGames(GameController& controller)
     : m_controller(controller)

@@ -146,6 +146,7 @@ std::string Sentences::puzzle(const std::string& goal, const std::string& start,
 std::string Sentences::lifted(char letter, const std::vector<unsigned>& columns) const
 {
     std::vector<std::string> places;
+    places.reserve(columns.size());
     for (const unsigned column : columns) {
         places.push_back(
             m_texts.text("spoken.place", { { "place", std::int64_t { column + 1 } } }));

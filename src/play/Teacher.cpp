@@ -104,6 +104,7 @@ Advice Teacher::about(const std::vector<engine::Theorem>& lines)
 {
     Advice advice;
     std::vector<PackedLine> rows;
+    rows.reserve(lines.size());
     for (const engine::Theorem& line : lines) {
         rows.push_back(PackedLine::pack(line.theorem()).value_or(PackedLine()));
     }

@@ -15,6 +15,8 @@ struct CalendarDate {
     int year = 1970;
     int month = 1; // 1 to 12
     int day = 1; // 1 to 31
+    // The 0 that the compiler compares with is taken for one of ours.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const CalendarDate&, const CalendarDate&) = default;
 };
 

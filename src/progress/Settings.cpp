@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -159,7 +160,7 @@ std::string quoted(std::string_view word)
 
 std::string sizeAsText(double size)
 {
-    const int tenths = static_cast<int>(size * 10 + 0.5);
+    const auto tenths = std::lround(size * 10);
     const std::string whole = std::to_string(tenths / 10);
     return tenths % 10 == 0 ? whole : whole + '.' + std::to_string(tenths % 10);
 }
