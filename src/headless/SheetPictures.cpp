@@ -6,6 +6,8 @@
 #include "progress/PlayerRecord.h"
 #include "progress/Settings.h"
 
+#include <cstdint>
+
 namespace veyrand::headless {
 
 namespace {
@@ -99,7 +101,7 @@ public:
 
     void mine(const char* picture, int count)
     {
-        for (int number = 0; number < count; ++number) {
+        for (std::int64_t number = 0; number < count; ++number) {
             const auto date = progress::daysAfter(m_controller.book().today(), -2 * number);
             if (const auto* const puzzle = m_controller.practice().daily().on(date)) {
                 m_controller.shelf().add(play::codeOf(puzzle->root, puzzle->goal).value());
