@@ -1,6 +1,7 @@
 #include "controller/StatisticsSheet.h"
 
 #include "controller/GameController.h"
+#include "controller/MenuTable.h"
 #include "progress/Settings.h"
 
 #include <algorithm>
@@ -77,6 +78,8 @@ void StatisticsSheet::press(const std::string& key)
 {
     if (key == "puzzles") {
         m_controller.sheets().openMap();
+    } else if (key == "export") {
+        m_controller.transfer().exportGame();
     } else if (key == "menu") {
         m_controller.sheets().close();
     }
@@ -225,6 +228,12 @@ void StatisticsSheet::drawPanel(SheetDrawing& drawing) const
         drawing.words(
             text("rankNext", { { "rank", rankAfter(done + 1) }, { "place", play::nameOf(end) } }),
             SheetDrawing::kPanelMiddle, done > 0 ? 626 : 572, 31, Ink::Gold, Align::Middle, 470);
+    }
+    if (m_controller.transfer().canExport()) {
+        const char* const item = menuItem(MenuItemId::Export).text;
+        drawing.button("export",
+            plainMenuText(m_controller.context().texts.localized("GameMenu", item)),
+            SheetDrawing::kPanelMiddle, 806, 474, 70);
     }
     drawing.button("puzzles", text("puzzles"), SheetDrawing::kFirstColumn, 892, 232, 66);
     drawing.button("menu", text("menu"), SheetDrawing::kSecondColumn, 892, 232, 66);
