@@ -53,6 +53,7 @@ void KeptGames::recoverAll()
         return;
     }
     m_isOn = isWanted();
+    m_inTheWay.fill(InTheWay(m_game.journal));
     for (const Mode mode : { Mode::Classic, Mode::Endless }) {
         if (m_isOn) {
             recover(mode);
@@ -71,7 +72,6 @@ void KeptGames::recoverAnew()
 
 void KeptGames::recover(Mode mode)
 {
-    m_inTheWay.at(indexOf(mode)) = InTheWay(m_game.journal);
     const platform::Journal::Text text = m_game.journal->read(nameOf(mode));
     if (text.contents) {
         recoverFrom(mode, *text.contents);
