@@ -279,7 +279,7 @@ private:
     void fillBoard()
     {
         struct Gesture {
-            const char* from;
+            const char* from = nullptr;
             const char* to = nullptr; // none: a click
         };
         constexpr std::array kGestures {

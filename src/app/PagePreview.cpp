@@ -38,6 +38,8 @@ public:
         draw();
     }
 
+    Preview(const Preview&) = delete;
+    Preview& operator=(const Preview&) = delete;
     // The labels are members, which no layout may delete.
     ~Preview() override
     {

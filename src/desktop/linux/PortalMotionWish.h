@@ -23,10 +23,9 @@ public:
     [[nodiscard]] bool wantsLess() const override;
     void setListener(std::function<void()> listener) override { m_listener = std::move(listener); }
 
-private slots:
-    void settingChanged(const QString& group, const QString& name, const QDBusVariant& value);
-
 private:
+    Q_SLOT void settingChanged(
+        const QString& group, const QString& name, const QDBusVariant& value);
     void ask();
     void note(const QString& group, const QString& name, const QVariant& value);
 
