@@ -12,7 +12,6 @@
 namespace veyrand::controller {
 
 using ::testing::Contains;
-using ::testing::HasSubstr;
 using ::testing::Not;
 
 namespace {

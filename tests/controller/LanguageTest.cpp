@@ -12,9 +12,6 @@
 
 namespace veyrand::controller {
 
-using testing::HasSubstr;
-using testing::Not;
-
 namespace {
 
 class GermanGame : public test::HeadlessPlay {

@@ -2,11 +2,9 @@
 #include "platform/fakes/MemoryJournal.h"
 #include "progress/PlayerRecord.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace veyrand::controller {
-
-using ::testing::ElementsAre;
 
 namespace {
 

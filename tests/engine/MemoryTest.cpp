@@ -75,7 +75,7 @@ void operator delete(void* memory, std::size_t) noexcept
 namespace veyrand::engine {
 namespace {
 
-constexpr std::size_t kMegabyte = 1024 * 1024;
+constexpr std::size_t kMegabyte = std::size_t { 1 } << 20;
 
 // Thirteen lines, none of which leads to the goal.
 std::shared_ptr<Proof> hopelessProof()

@@ -175,7 +175,7 @@ private:
 
     void remove()
     {
-        const unsigned count = static_cast<unsigned>(m_session->lines().size());
+        const auto count = static_cast<unsigned>(m_session->lines().size());
         const unsigned row = below(count + 1);
         if (apply(Remove { row }, row > 0 && row < count)) {
             m_model->take(row);

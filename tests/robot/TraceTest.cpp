@@ -58,7 +58,7 @@ protected:
 
     void step()
     {
-        const unsigned row = static_cast<unsigned>(lines().size() - 1);
+        const auto row = static_cast<unsigned>(lines().size() - 1);
         const auto width = static_cast<unsigned>(lines().back().size());
         const auto chip = [row](unsigned column) {
             return "chip-" + std::to_string(column) + '-' + std::to_string(row);

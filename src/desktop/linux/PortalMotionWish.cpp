@@ -5,6 +5,8 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include <utility>
+
 namespace veyrand::desktop::linux {
 
 namespace {
@@ -22,8 +24,8 @@ const QString kAnimations = QStringLiteral("enable-animations");
 
 } // namespace
 
-PortalMotionWish::PortalMotionWish(const QDBusConnection& bus)
-    : m_bus(bus)
+PortalMotionWish::PortalMotionWish(QDBusConnection bus)
+    : m_bus(std::move(bus))
 {
     qDBusRegisterMetaType<Groups>();
     // Listening first, so that no change falls between the answer and the listening.

@@ -18,7 +18,7 @@ class PortalMotionWish final : public QObject, public platform::MotionWish {
     Q_OBJECT
 
 public:
-    explicit PortalMotionWish(const QDBusConnection& bus);
+    explicit PortalMotionWish(QDBusConnection bus);
 
     [[nodiscard]] bool wantsLess() const override;
     void setListener(std::function<void()> listener) override { m_listener = std::move(listener); }

@@ -22,7 +22,7 @@ QString tr(const char* text)
 }
 
 // Many times what a game ever writes.
-constexpr qint64 kMostBytes = 1024 * 1024;
+constexpr qint64 kMostBytes = qint64 { 1 } << 20;
 
 struct Read {
     std::optional<QJsonObject> document;

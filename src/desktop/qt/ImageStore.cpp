@@ -156,7 +156,7 @@ QString ImageStore::fileOf(const QString& name) const
 {
     for (const QString& folder : { m_languageFolder, m_folder }) {
         for (const char* suffix : { ".svg", ".jpg", ".png" }) {
-            const QString file = QDir(folder).filePath(name + QLatin1String(suffix));
+            QString file = QDir(folder).filePath(name + QLatin1String(suffix));
             if (!folder.isEmpty() && QFileInfo::exists(file)) {
                 return file;
             }
