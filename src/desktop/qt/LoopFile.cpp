@@ -88,10 +88,10 @@ void LoopFile::fadeEnd(std::int16_t* samples, std::size_t frames) const
         const std::size_t step = frame - fadesFrom;
         const double share = static_cast<double>(step + 1) / static_cast<double>(kFadeFrames);
         for (std::size_t channel = 0; channel < channels; ++channel) {
-            std::int16_t& sample = samples[(frame - m_place) * channels + channel];
+            const std::size_t at = (frame - m_place) * channels + channel;
             const std::int16_t before = m_beforeStart[step * channels + channel];
-            sample
-                = static_cast<std::int16_t>(std::lround((1.0 - share) * sample + share * before));
+            samples[at] = static_cast<std::int16_t>(
+                std::lround((1.0 - share) * samples[at] + share * before));
         }
     }
 }

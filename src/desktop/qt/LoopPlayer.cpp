@@ -10,7 +10,8 @@ LoopPlayer::LoopPlayer(std::unique_ptr<LoopFile> file, double volume, double now
     , m_restsSince(now)
 {
     constexpr double kFadeIn = 1.5; // seconds
-    m_piece.resize(static_cast<std::size_t>(m_file->rate() / kPiecesASecond * m_file->channels()));
+    m_piece.resize(static_cast<std::size_t>(m_file->rate() / kPiecesASecond)
+        * static_cast<std::size_t>(m_file->channels()));
     alGenSources(1, &m_source);
     alGenBuffers(static_cast<ALsizei>(m_buffers.size()), m_buffers.data());
     m_free.assign(m_buffers.begin(), m_buffers.end());
