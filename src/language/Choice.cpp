@@ -7,6 +7,7 @@ namespace veyrand::language {
 std::vector<std::string> knownCodes()
 {
     std::vector<std::string> codes;
+    codes.reserve(kLanguages.size() + 1);
     for (const Name& language : kLanguages) {
         codes.emplace_back(language.code);
     }

@@ -27,7 +27,7 @@ std::string Grammar::formName(std::int64_t number)
         m_rules->forms.reset(icu::PluralRules::forLocale(icu::Locale(m_code.c_str()), status));
     }
     std::string name("other");
-    if (m_rules->forms && U_SUCCESS(status)) {
+    if (m_rules->forms && U_SUCCESS(status) != 0) {
         name.clear();
         m_rules->forms->select(static_cast<double>(number)).toUTF8String(name);
     }
@@ -40,11 +40,11 @@ std::string Grammar::written(std::int64_t number)
     if (!m_rules->numbers) {
         m_rules->numbers.reset(
             icu::NumberFormat::createInstance(icu::Locale(m_code.c_str()), status));
-        if (m_rules->numbers && U_SUCCESS(status)) {
+        if (m_rules->numbers && U_SUCCESS(status) != 0) {
             m_rules->numbers->setGroupingUsed(0);
         }
     }
-    if (!m_rules->numbers || U_FAILURE(status)) {
+    if (!m_rules->numbers || U_FAILURE(status) != 0) {
         return std::to_string(number);
     }
     icu::UnicodeString text;

@@ -129,6 +129,12 @@ Texts::Table Texts::read(std::string_view code) const
 
 namespace {
 
+void noteFault(std::string& faults, const std::string& file, const std::string& name,
+    const std::exception& error)
+{
+    faults += file + ".json: " + name + ": " + error.what() + '\n';
+}
+
 // Calls the function with each name and value of the file; whatever it throws is written down.
 template <class Function>
 void forEachEntry(const platform::Resources& resources, const std::string& file,
@@ -147,7 +153,7 @@ void forEachEntry(const platform::Resources& resources, const std::string& file,
             try {
                 function(name, value);
             } catch (const std::exception& error) {
-                faults += file + ".json: " + name + ": " + error.what() + '\n';
+                noteFault(faults, file, name, error);
             }
         }
     } catch (const std::exception& error) {
@@ -157,22 +163,23 @@ void forEachEntry(const platform::Resources& resources, const std::string& file,
 
 } // namespace
 
-void Texts::readSections(std::string_view code, std::string_view name, Table& table) const
+void Texts::readSections(std::string_view code, std::string_view file, Table& table) const
 {
-    const std::string file = fileOf(code, name);
+    const std::string path = fileOf(code, file);
     forEachEntry(
-        m_resources, file, table.faults, [&](const std::string& section, const Json& texts) {
+        m_resources, path, table.faults, [&](const std::string& section, const Json& texts) {
             if (!texts.is_object()) {
                 throw std::invalid_argument("is no section of texts");
             }
+            const std::string prefix = section + '.';
             for (const auto& [key, value] : texts.items()) {
-                const std::string id = section + '.' + key;
+                const std::string id = prefix + key;
                 try {
                     Forms forms = formsFrom(value);
                     checkForms(code, id, forms);
                     table.texts.insert_or_assign(id, std::move(forms));
                 } catch (const std::exception& error) {
-                    table.faults += file + ".json: " + id + ": " + error.what() + '\n';
+                    noteFault(table.faults, path, id, error);
                 }
             }
         });
