@@ -261,6 +261,9 @@ void GameView::rightMouseDown(const MouseEvent& event)
     if (m_onlooker != nullptr) {
         m_onlooker->pressBegins();
     }
+    if (m_overlay == Overlay::Note && m_target != nullptr) {
+        m_target->messageWindowClick();
+    }
     m_isTouch = false;
     if (lift(keyHit(event.location), Lift::ByPointer)) {
         carry(event.location);

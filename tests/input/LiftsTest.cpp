@@ -88,4 +88,13 @@ TEST_F(LiftsTest, AClickIntoABlockLeavesTheChipInTheHand)
     EXPECT_THAT(target().take(), ElementsAre("drag 1 0 to 1 1"));
 }
 
+TEST_F(LiftsTest, ARightClickBesideANoteClosesItAsAnyPressDoes)
+{
+    liftByClicks();
+    view().setOverlay(Overlay::Note);
+    view().rightMouseDown({ .location = centre("chip-0-1") });
+    EXPECT_THAT(target().take(), ElementsAre("message"));
+    EXPECT_EQ(view().keyLifted(), "chip-0-1");
+}
+
 } // namespace veyrand::input
