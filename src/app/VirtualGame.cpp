@@ -142,15 +142,12 @@ void VirtualGame::rightClick(Point place)
 
 void VirtualGame::sendTouch(QEventPoint::State state, Point place)
 {
-    static const QPointingDevice kScreen(QStringLiteral("touch screen"), 1,
-        QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
-        QInputDevice::Capability::Position, 1, 0);
     const QPointF position = toWidget(place);
     const QEventPoint finger(0, state, position, QPointF(m_widget->mapToGlobal(position)));
     const QEvent::Type type = state == QEventPoint::Pressed ? QEvent::TouchBegin
         : state == QEventPoint::Released                    ? QEvent::TouchEnd
                                                             : QEvent::TouchUpdate;
-    QTouchEvent event(type, &kScreen, Qt::NoModifier, { finger });
+    QTouchEvent event(type, &m_touchScreen, Qt::NoModifier, { finger });
     QApplication::sendEvent(m_widget.get(), &event);
 }
 

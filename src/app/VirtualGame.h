@@ -9,6 +9,7 @@
 
 #include <QEvent>
 #include <QEventPoint>
+#include <QPointingDevice>
 #include <QString>
 
 #include <memory>
@@ -95,6 +96,9 @@ private:
     desktop::qt::GameMenu m_menu;
     VirtualInstallation m_installation;
     headless::HeadlessGame m_headless;
+    QPointingDevice m_touchScreen { QStringLiteral("touch screen"), 1,
+        QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
+        QInputDevice::Capability::Position, 1, 0 };
     std::unique_ptr<desktop::qt::BoardWidget> m_widget;
     platform::Point m_place;
     Qt::MouseButtons m_held;
