@@ -99,6 +99,7 @@ void measureTime(const QString& dataFolder)
         const double period = 1e3 / row.rate;
         std::vector<double> away;
         const std::vector<double> intervals = measureFrameIntervals(dataFolder, row.rate);
+        away.reserve(intervals.size());
         for (const double interval : intervals) {
             away.push_back(std::abs(interval - period));
         }
