@@ -181,6 +181,15 @@ bool GameView::lift(const std::string& key, Lift how)
     return true;
 }
 
+void GameView::setOverlay(Overlay overlay)
+{
+    m_overlay = overlay;
+    const bool isBefore = overlay == Overlay::Page || overlay == Overlay::Question;
+    if (isBefore && m_lift != Lift::None) {
+        cancelGesture();
+    }
+}
+
 bool GameView::liftByKey(const std::string& key)
 {
     cancelGesture();
@@ -228,6 +237,7 @@ void GameView::drop(const std::string& key)
         losePress(key, false);
         return;
     }
+    m_lift = Lift::None;
     endDrag({}, key);
     finishGesture();
 }
@@ -311,6 +321,7 @@ void GameView::settleLift(const MouseEvent& event)
     }
     const std::string key = keyHit(event.location);
     if (isTarget(key)) {
+        m_lift = Lift::None; // the drop may bring a page, for which nothing is to be put back
         endDrag(event, key);
     } else {
         putBack();

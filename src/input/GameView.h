@@ -68,7 +68,8 @@ public:
     void drop(const std::string& key);
 
     [[nodiscard]] Overlay overlay() const { return m_overlay; }
-    void setOverlay(Overlay overlay) { m_overlay = overlay; }
+    // What is lifted goes back before a page is read or a question answered.
+    void setOverlay(Overlay overlay);
     [[nodiscard]] bool messageWindow() const { return m_overlay == Overlay::Page; }
     [[nodiscard]] bool tutorialWindow() const { return m_overlay == Overlay::Note; }
 

@@ -88,6 +88,20 @@ TEST_F(LiftsTest, AClickIntoABlockLeavesTheChipInTheHand)
     EXPECT_THAT(target().take(), ElementsAre("drag 1 0 to 1 1"));
 }
 
+TEST_F(LiftsTest, APageThatComesPutsBackWhatIsLifted)
+{
+    liftByClicks();
+    for (const Overlay overlay : { Overlay::Page, Overlay::Question }) {
+        view().setOverlay(Overlay::None);
+        view().rightMouseDown({ .location = centre("chip-0-1") });
+        ASSERT_EQ(view().keyLifted(), "chip-0-1");
+        view().setOverlay(overlay);
+        EXPECT_EQ(view().keyLifted(), "");
+    }
+    click("chip-1-1");
+    EXPECT_THAT(target().take(), ElementsAre("click 1 1")) << "a press like any other";
+}
+
 TEST_F(LiftsTest, ARightClickBesideANoteClosesItAsAnyPressDoes)
 {
     liftByClicks();
