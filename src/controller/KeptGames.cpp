@@ -10,7 +10,6 @@ namespace veyrand::controller {
 
 using play::Recovery;
 using play::Replay;
-using progress::Mode;
 
 namespace {
 

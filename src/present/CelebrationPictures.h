@@ -22,7 +22,7 @@ namespace veyrand::present {
 [[nodiscard]] Extra dustOf(char letter, unsigned column, unsigned row);
 
 // What lies behind a coloured heading of a page, and the medal over it.
-[[nodiscard]] Extra headingPlate(const std::string& key, const ExtraRect& words);
+[[nodiscard]] Extra headingPlate(const std::string& key, const ExtraRect& heading);
 [[nodiscard]] Extra medalFor(int rank);
 inline constexpr int kMedals = 11;
 

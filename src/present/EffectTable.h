@@ -3,11 +3,9 @@
 #include <array>
 #include <cstdint>
 
-namespace veyrand::present {
-
 // The numbers of what pictures do with light, for whoever paints the display list. Lengths are
 // multiples of the radius, the height or the em they belong to; densities are shares of 255.
-namespace effects {
+namespace veyrand::present::effects {
 
 struct Stop {
     double place;
@@ -45,6 +43,4 @@ struct SetOff {
 inline constexpr SetOff kUnderLightLetters { 0x041218, 0.034, 0.010, 0.020, 1.5, 0.55 };
 inline constexpr SetOff kRoundDarkLetters { 0xD9FAF6, 0.050, 0.0, 0.0, 2.4, 0.72 };
 
-} // namespace effects
-
-} // namespace veyrand::present
+} // namespace veyrand::present::effects

@@ -26,7 +26,7 @@ double waves(double fraction, int count)
 // To the left first. Its crests lie in the middles of its swings.
 double swing(double fraction)
 {
-    const double count = static_cast<double>(extras::kSwings);
+    const auto count = static_cast<double>(extras::kSwings);
     const double crest = extras::kFirstSwing - extras::kSwingLess * (fraction * count - 0.5);
     return -std::min(crest, extras::kFirstSwing) * std::sin(std::numbers::pi * count * fraction);
 }

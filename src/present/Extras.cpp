@@ -72,6 +72,18 @@ struct Extras::Touched {
     double glow = 0.0;
     double x = 0.0;
     Motion motion = Motion::Resting;
+
+    // To what a touched thing shows, on a board of that height.
+    void apply(DisplayItem& item, float boardHeight) const
+    {
+        scaleAboutCentre(item.rect, static_cast<float>(scale));
+        item.rect.x += static_cast<float>(x) * boardHeight;
+        item.opacity *= static_cast<float>(opacity);
+        item.glow = std::max(item.glow, static_cast<float>(glow) * boardHeight);
+        if (motion == Motion::Moving) {
+            item.motion = Motion::Moving;
+        }
+    }
 };
 
 void Extras::direct()
@@ -355,14 +367,7 @@ void Extras::decorate(DisplayList& list, const BoardLayers& layers)
             wordsHaveBegun = true;
         }
         if (const auto found = touchedLayers.find(item.layer); found != touchedLayers.end()) {
-            const Touched& touch = found->second;
-            scaleAboutCentre(item.rect, static_cast<float>(touch.scale));
-            item.rect.x += static_cast<float>(touch.x) * view.board.height;
-            item.opacity *= static_cast<float>(touch.opacity);
-            item.glow = std::max(item.glow, static_cast<float>(touch.glow) * view.board.height);
-            if (touch.motion == Motion::Moving) {
-                item.motion = Motion::Moving;
-            }
+            found->second.apply(item, view.board.height);
         }
         const bool isWood = item.layer == layers.backgroundLayer().id();
         decorated.push_back(std::move(item));

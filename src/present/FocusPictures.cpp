@@ -15,9 +15,9 @@ using board::ButtonScreen;
 // A ring's picture, its size, and how far its middle lies above the thing's, whose shadow is part
 // of it. In game heights, as the pictures are drawn.
 struct Ring {
-    const char* picture;
-    double width;
-    double height;
+    const char* picture = nullptr;
+    double width = 0.0;
+    double height = 0.0;
     double rise = 0.0;
 };
 

@@ -66,15 +66,16 @@ void WoodenMargins::addSide(DisplayList& list, const RectF& board, const Side& s
     const float room = across ? side.margin.width : side.margin.height;
     // A very long window shows the board's wood more than once, turned over at every seam.
     bool turned = true;
-    for (float covered = 0.0F; covered < room; covered += length) {
-        const float away = covered + length;
+    float covered = 0.0F;
+    while (covered < room) {
+        covered += length;
         add(list,
             { .content = ImageContent { .name = "WoodBackground",
                   .mirror = !turned ? Mirror::None
                       : across      ? Mirror::LeftAndRight
                                     : Mirror::TopAndBottom },
-                .rect = { board.x + side.stepX * away, board.y + side.stepY * away, board.width,
-                    board.height },
+                .rect = { board.x + side.stepX * covered, board.y + side.stepY * covered,
+                    board.width, board.height },
                 .clip = side.margin });
         turned = !turned;
     }
