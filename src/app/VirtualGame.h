@@ -70,6 +70,7 @@ public:
     [[nodiscard]] progress::CurrentGame& currentGame() { return m_headless.currentGame(); }
     [[nodiscard]] board::GameData& gameData() { return m_headless.gameData(); }
     [[nodiscard]] desktop::qt::BoardWidget& widget() { return *m_widget; }
+    [[nodiscard]] const desktop::qt::ImageStore& images() const { return m_images; }
     [[nodiscard]] desktop::qt::GameMenu& menu() { return m_menu; }
     [[nodiscard]] platform::VirtualRunLoop& runLoop() { return m_headless.runLoop(); }
     [[nodiscard]] platform::Preferences& preferences() { return m_preferences; }

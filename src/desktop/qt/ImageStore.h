@@ -32,6 +32,9 @@ public:
     // The named picture at some size already drawn that is no smaller, if there is one, for a layer
     // whose size changes from frame to frame; otherwise at the size.
     const QPixmap& imageAtLeast(const std::string& name, QSize size);
+    // How many pictures are kept, each size for itself. Another number: the one above may choose
+    // another picture than before.
+    [[nodiscard]] std::size_t count() const { return m_images.size(); }
     // The picture's light, to be added over it, and the shadow it throws when lifted, to be laid
     // under it. They reach past every edge by twice the radius and twice the height. Device pixels.
     const QPixmap& glow(const std::string& name, QSize size, int radius);

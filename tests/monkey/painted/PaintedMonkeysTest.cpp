@@ -70,6 +70,7 @@ public:
     [[nodiscard]] std::string faultOfPicture() override
     {
         auto& widget = touched().widget();
+        const std::size_t picturesBefore = std::exchange(m_pictures, touched().images().count());
         // Another size and other letters are painted in full, by the toolkit's own event.
         const std::string& language = game().game().texts().code();
         if (m_resizes->take() || m_language != language) {
@@ -82,11 +83,26 @@ public:
         }
         QImage full(widget.size(), QImage::Format_RGB32);
         widget.render(&full);
-        return isAlike(full, m_kept) ? std::string()
-                                     : "something that has changed was not painted anew";
+        if (isAlike(full, m_kept)) {
+            return {};
+        }
+        m_kept = full;
+        return picturesBefore != touched().images().count() && isMoving()
+            ? std::string()
+            : "something that has changed was not painted anew";
     }
 
 private:
+    // What changes its size is painted from a larger picture, and may find a fitter one that was
+    // drawn for something else meanwhile.
+    [[nodiscard]] bool isMoving()
+    {
+        const present::DisplayList list = game().game().layers().displayList();
+        return std::any_of(list.begin(), list.end(), [](const present::DisplayItem& item) {
+            return item.motion == present::Motion::Moving;
+        });
+    }
+
     // Blending rounds the last pixels of a row otherwise than those before, wherever a clip lets it
     // end: a step for each picture that fades over another.
     static bool isAlike(const QImage& one, const QImage& other)
@@ -108,6 +124,7 @@ private:
 
     std::optional<Resizes> m_resizes;
     QImage m_kept;
+    std::size_t m_pictures = 0; // before the last picture was painted
     std::string m_language;
 };
 
