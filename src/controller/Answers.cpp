@@ -103,6 +103,7 @@ void Answers::boardEmpties()
 Answers::Situation Answers::situation() const
 {
     Situation now;
+    now.language = m_game.texts.code();
     now.isOn = m_settings.answers;
     now.sheet = m_controller.sheets().revision();
     if (m_controller.sheets().isOpen()) {

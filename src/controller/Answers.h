@@ -56,6 +56,7 @@ private:
 
     // What everything that stands follows from. While it is the same, so is the picture.
     struct Situation {
+        std::string language; // of all its words
         std::vector<std::string> lines;
         std::string thing; // under the pointer
         std::string held;

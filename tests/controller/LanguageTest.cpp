@@ -59,6 +59,24 @@ TEST_F(GermanGame, SpeaksAnotherLanguageWithoutARestartOnThePageThatIsOpenToo)
     EXPECT_EQ(textUnder("fullScreen-0"), "");
 }
 
+TEST_F(GermanGame, SpeaksAnotherLanguageOnASheetThatIsOpen)
+{
+    const auto names = [this] {
+        std::vector<std::string> all;
+        for (const auto& extra : game().game().layers().extras().shown()) {
+            if (extra.kind == present::ExtraKind::Place) {
+                all.push_back(extra.text);
+            }
+        }
+        return all;
+    };
+    game().controller().sheets().openMap();
+    EXPECT_THAT(names(), testing::Contains("Statistik"));
+    choose("fr");
+    EXPECT_THAT(names(), testing::Contains("Statistiques"));
+    EXPECT_THAT(names(), testing::Not(testing::Contains("Statistik")));
+}
+
 TEST_F(GermanGame, FillsInTheRankInGerman)
 {
     play({ .root = "YR", .goal = "YRG", .par = 2, .level = 4, .stage = 1 });
